@@ -1,0 +1,12 @@
+# The packages that the simulator stands on.
+
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(CAIRO REQUIRED IMPORTED_TARGET cairo)
+pkg_check_modules(PANGO REQUIRED IMPORTED_TARGET pangocairo pangoft2 fontconfig)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(LUA REQUIRED IMPORTED_TARGET lua5.4-c++)
+find_package(nlohmann_json REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(GTest REQUIRED)
+include(GoogleTest)
+pkg_check_modules(RSVG REQUIRED IMPORTED_TARGET librsvg-2.0)

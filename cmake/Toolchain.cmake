@@ -1,0 +1,51 @@
+# How every unit is compiled: C++20, the platform's messages with manual reference counting, every warning an error.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_OBJCXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_OBJCXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+foreach(language C CXX OBJCXX)
+    set(CMAKE_${language}_FLAGS_DEV "-O1 -g1 -fno-omit-frame-pointer")
+    set(CMAKE_${language}_FLAGS_RELEASE "-O2 -g1 -DNDEBUG")
+endforeach()
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+option(PENDIX_SANITIZE "Address, undefined-behaviour and leak sanitizers" OFF)
+option(PENDIX_COVERAGE "Source-based coverage" OFF)
+
+# gcc's runtime headers (<objc/objc.h> and friends); after everything else, for gcc's own stddef.h must not win.
+execute_process(
+    COMMAND gcc -print-file-name=include
+    OUTPUT_VARIABLE gcc_include
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+
+add_library(warnings INTERFACE)
+target_compile_options(warnings INTERFACE -Wall -Wextra -Werror)
+
+add_library(objective_cxx INTERFACE)
+target_compile_options(
+    objective_cxx
+    INTERFACE $<$<COMPILE_LANGUAGE:OBJCXX>:-fblocks
+              -fobjc-runtime=gcc
+              -fconstant-string-class=NSConstantString
+              -Wundeclared-selector
+              -Wstrict-selector-match
+              -Wobjc-missing-property-synthesis
+              "SHELL:-idirafter ${gcc_include}">)
+target_include_directories(objective_cxx INTERFACE ${CMAKE_SOURCE_DIR}/Platform ${CMAKE_SOURCE_DIR}/Simulator/Runtime/Shim)
+target_include_directories(objective_cxx SYSTEM INTERFACE /usr/include/GNUstep)
+target_link_libraries(objective_cxx INTERFACE warnings gnustep-base objc)
+
+if(PENDIX_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(PENDIX_COVERAGE)
+    set(coverage_flags -fprofile-instr-generate -fcoverage-mapping)
+endif()
