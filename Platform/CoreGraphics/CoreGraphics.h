@@ -1,0 +1,4 @@
+#pragma once
+
+#include <CoreGraphics/CGDrawing.h>
+#include <CoreGraphics/CGGeometry.h>

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <CoreGraphics/CoreGraphics.h>
+
+struct CATransform3D {
+    CGFloat m11, m12, m13, m14;
+    CGFloat m21, m22, m23, m24;
+    CGFloat m31, m32, m33, m34;
+    CGFloat m41, m42, m43, m44;
+};
+typedef struct CATransform3D CATransform3D;
+
+extern "C" {
+
+extern const CATransform3D CATransform3DIdentity;
+// `angle` in radians around the axis (x, y, z).
+CATransform3D CATransform3DMakeRotation(CGFloat angle, CGFloat x, CGFloat y, CGFloat z);
+CATransform3D CATransform3DMakeAffineTransform(CGAffineTransform transform);
+// The part in the plane; what leaves the plane is dropped.
+CGAffineTransform CATransform3DGetAffineTransform(CATransform3D transform);
+}

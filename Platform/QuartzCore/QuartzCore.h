@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QuartzCore/CAAnimation.h>
+#include <QuartzCore/CAGradientLayer.h>
+#include <QuartzCore/CALayer.h>
+#include <QuartzCore/CATransform3D.h>

@@ -1,0 +1,17 @@
+// The status-bar library's item.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+typedef int StatusBarAlignment; // 1 left, 2 right, 4 centre
+
+@interface LSStatusBarItem : NSObject {
+@public
+    void *_lsItemState;
+}
+// Raises for a nil identifier, no alignment, or a second item of the identifier with another alignment.
+- (id)initWithIdentifier:(NSString *)identifier alignment:(StatusBarAlignment)alignment;
+@property (nonatomic, getter=isVisible) BOOL visible; // YES until set
+// Looked up as Black_NAME, LockScreen_NAME and so on among the system's images.
+@property (nonatomic, retain) NSString *imageName;
+@end

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <CoreGraphics/CoreGraphics.h>
+
+@interface UIBezierPath : NSObject {
+@public
+    void *_pathState;
+}
++ (UIBezierPath *)bezierPathWithRect:(CGRect)rect;
++ (UIBezierPath *)bezierPathWithRoundedRect:(CGRect)rect cornerRadius:(CGFloat)radius;
++ (UIBezierPath *)bezierPathWithOvalInRect:(CGRect)rect;
+// Owned by the path object.
+@property (nonatomic, readonly) CGPathRef CGPath;
+@end

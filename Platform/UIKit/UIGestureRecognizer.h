@@ -1,0 +1,88 @@
+#pragma once
+
+#include <UIKit/UIView.h>
+
+@class UITouch;
+@protocol UIGestureRecognizerDelegate;
+
+typedef NSInteger UIGestureRecognizerState;
+enum {
+    UIGestureRecognizerStatePossible = 0,
+    UIGestureRecognizerStateBegan = 1,
+    UIGestureRecognizerStateChanged = 2,
+    UIGestureRecognizerStateEnded = 3,
+    UIGestureRecognizerStateRecognized = 3,
+    UIGestureRecognizerStateCancelled = 4,
+    UIGestureRecognizerStateFailed = 5
+};
+
+// Targets and delegates are not retained.
+@interface UIGestureRecognizer : NSObject {
+@public
+    void *_recognizerState;
+}
+- (instancetype)initWithTarget:(id)target action:(SEL)action;
+- (void)addTarget:(id)target action:(SEL)action;
+- (void)removeTarget:(id)target action:(SEL)action;
+@property (nonatomic, readonly) UIGestureRecognizerState state;
+@property (nonatomic, assign) id<UIGestureRecognizerDelegate> delegate;
+@property (nonatomic, getter=isEnabled) BOOL enabled;
+@property (nonatomic, readonly) UIView *view;
+@property (nonatomic) BOOL cancelsTouchesInView;
+@property (nonatomic) BOOL delaysTouchesBegan;
+@property (nonatomic) BOOL delaysTouchesEnded;
+- (void)requireGestureRecognizerToFail:(UIGestureRecognizer *)other;
+- (CGPoint)locationInView:(UIView *)view;
+- (NSUInteger)numberOfTouches;
+@end
+
+@protocol UIGestureRecognizerDelegate <NSObject>
+@optional
+- (BOOL)gestureRecognizerShouldBegin:(UIGestureRecognizer *)recognizer;
+- (BOOL)gestureRecognizer:(UIGestureRecognizer *)recognizer
+    shouldRecognizeSimultaneouslyWithGestureRecognizer:(UIGestureRecognizer *)other;
+- (BOOL)gestureRecognizer:(UIGestureRecognizer *)recognizer shouldReceiveTouch:(UITouch *)touch;
+@end
+
+@interface UITapGestureRecognizer : UIGestureRecognizer {
+@public
+    void *_tapState;
+}
+@property (nonatomic) NSUInteger numberOfTapsRequired;
+@property (nonatomic) NSUInteger numberOfTouchesRequired;
+@end
+
+@interface UILongPressGestureRecognizer : UIGestureRecognizer {
+@public
+    void *_longPressState;
+}
+@property (nonatomic) CFTimeInterval minimumPressDuration; // seconds; 0.5
+@property (nonatomic) CGFloat allowableMovement;           // points; 10
+@end
+
+@interface UIPanGestureRecognizer : UIGestureRecognizer {
+@public
+    void *_panState;
+}
+@property (nonatomic) NSUInteger minimumNumberOfTouches;
+@property (nonatomic) NSUInteger maximumNumberOfTouches;
+- (CGPoint)translationInView:(UIView *)view;
+- (void)setTranslation:(CGPoint)translation inView:(UIView *)view;
+- (CGPoint)velocityInView:(UIView *)view; // points a second
+@end
+
+typedef NSUInteger UISwipeGestureRecognizerDirection;
+enum {
+    UISwipeGestureRecognizerDirectionRight = 1 << 0,
+    UISwipeGestureRecognizerDirectionLeft = 1 << 1,
+    UISwipeGestureRecognizerDirectionUp = 1 << 2,
+    UISwipeGestureRecognizerDirectionDown = 1 << 3
+};
+
+@interface UISwipeGestureRecognizer : UIGestureRecognizer {
+@public
+    void *_swipeState;
+}
+@property (nonatomic) NSUInteger numberOfTouchesRequired;
+@property (nonatomic) UISwipeGestureRecognizerDirection direction; // right
+@end

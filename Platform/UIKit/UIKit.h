@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QuartzCore/QuartzCore.h>
+#include <UIKit/UIApplication.h>
+#include <UIKit/UIBackdropView.h>
+#include <UIKit/UIBezierPath.h>
+#include <UIKit/UIColor.h>
+#include <UIKit/UIControl.h>
+#include <UIKit/UIDevice.h>
+#include <UIKit/UIFont.h>
+#include <UIKit/UIGestureRecognizer.h>
+#include <UIKit/UIImage.h>
+#include <UIKit/UIImageView.h>
+#include <UIKit/UILabel.h>
+#include <UIKit/UIScreen.h>
+#include <UIKit/UIScrollView.h>
+#include <UIKit/UIStatusBar.h>
+#include <UIKit/UITouch.h>
+#include <UIKit/UIViewController.h>
+#include <UIKit/UIWindow.h>
