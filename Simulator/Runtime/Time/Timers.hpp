@@ -1,0 +1,18 @@
+// The platform's own ways to ask for something later, on the virtual clock.
+#pragma once
+
+#include <cstddef>
+
+namespace sim {
+
+// Puts NSTimer, performSelector:withObject:afterDelay: and its cancellation on Clock::shared(), and an
+// autorelease pool around everything the clock runs.
+void installTimers();
+
+// Timers that are scheduled now; delayed performs do not count.
+size_t scheduledTimers();
+
+// What NSDate says when the clock stands at zero, in seconds since 1970-01-01 00:00:00 UTC.
+void setWallClock(double secondsSince1970);
+
+} // namespace sim
