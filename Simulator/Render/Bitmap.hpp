@@ -1,0 +1,37 @@
+// Pixels in memory.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace render {
+
+// Premultiplied; one 32-bit word a pixel, alpha in the top byte, then red, green, blue (so blue comes first
+// in memory). Rows follow one another without gaps.
+struct Bitmap {
+    int width = 0;
+    int height = 0;
+    double scale = 1; // pixels a point
+    std::vector<uint32_t> pixels;
+
+    Bitmap() = default;
+    Bitmap(int width, int height, double scale = 1)
+        : width(width), height(height), scale(scale), pixels(static_cast<size_t>(width) * height) {}
+    bool operator==(const Bitmap &) const = default;
+};
+
+// Shared and unchanging; two references to equal pixels are equal only when they are the same bitmap.
+using BitmapRef = std::shared_ptr<const Bitmap>;
+
+// nullptr when the bytes are no PNG (or the file cannot be read).
+BitmapRef decodePng(std::string_view bytes, double scale);
+// The bytes of a PNG file; the same pixels always give the same bytes.
+std::string encodePng(const Bitmap &bitmap);
+// An SVG drawing fitted into width × height pixels; nullptr when it cannot be read.
+BitmapRef drawSvg(std::string_view source, int width, int height, double scale);
+
+} // namespace render

@@ -1,0 +1,115 @@
+#include "ApplicationState.h"
+#include "UIKit/Views/ViewState.h"
+
+#include <UIKit/UIViewController.h>
+#include <UIKit/UIWindow.h>
+
+#include <algorithm>
+
+const UIWindowLevel UIWindowLevelNormal = 0;
+const UIWindowLevel UIWindowLevelStatusBar = 1000;
+const UIWindowLevel UIWindowLevelAlert = 2000;
+
+namespace {
+
+struct WindowState {
+    UIWindowLevel level = UIWindowLevelNormal;
+    UIViewController *controller = nil; // retained
+    sim::WindowRole role = sim::WindowRole::overlay;
+    uint64_t shown = 0; // a later one lies above an earlier one of the same level
+};
+
+WindowState &state(UIWindow *window) {
+    if (!window->_windowState) window->_windowState = new WindowState;
+    return *static_cast<WindowState *>(window->_windowState);
+}
+
+// Not retained: a window takes itself off.
+std::vector<UIWindow *> &windows() {
+    static std::vector<UIWindow *> list;
+    return list;
+}
+
+UIWindow *keyWindow = nil;
+
+} // namespace
+
+namespace sim {
+
+std::vector<UIWindow *> allWindows() { return windows(); }
+
+std::vector<UIWindow *> visibleWindows() {
+    std::vector<UIWindow *> result;
+    std::copy_if(windows().begin(), windows().end(), std::back_inserter(result),
+                 [](UIWindow *window) { return ![window isHidden]; });
+    std::stable_sort(result.begin(), result.end(), [](UIWindow *a, UIWindow *b) {
+        return std::pair(::state(a).level, ::state(a).shown) < std::pair(::state(b).level, ::state(b).shown);
+    });
+    return result;
+}
+
+void setRole(UIWindow *window, WindowRole role) { ::state(window).role = role; }
+WindowRole role(UIWindow *window) { return ::state(window).role; }
+
+} // namespace sim
+
+@implementation UIWindow
+
+- (instancetype)initWithFrame:(CGRect)frame {
+    if (!(self = [super initWithFrame:frame])) return nil;
+    windows().push_back(self);
+    [super setHidden:YES];
+    return self;
+}
+
+- (void)dealloc {
+    std::erase(windows(), self);
+    if (keyWindow == self) keyWindow = nil;
+    [state(self).controller release];
+    delete &state(self);
+    [super dealloc];
+}
+
+- (void)setHidden:(BOOL)hidden {
+    static uint64_t shown = 0;
+    if ([self isHidden] && !hidden) state(self).shown = ++shown;
+    [super setHidden:hidden];
+}
+
+- (UIWindowLevel)windowLevel {
+    return state(self).level;
+}
+- (void)setWindowLevel:(UIWindowLevel)level {
+    state(self).level = level;
+}
+
+- (UIViewController *)rootViewController {
+    return state(self).controller;
+}
+- (void)setRootViewController:(UIViewController *)controller {
+    auto &mine = state(self);
+    if (controller == mine.controller) return;
+    [[mine.controller view] removeFromSuperview];
+    [controller retain];
+    [mine.controller release];
+    mine.controller = controller;
+    [[controller view] setFrame:[self bounds]];
+    [self addSubview:[controller view]];
+}
+
+- (BOOL)isKeyWindow {
+    return keyWindow == self;
+}
+- (void)makeKeyWindow {
+    keyWindow = self;
+}
+- (void)makeKeyAndVisible {
+    [self setHidden:NO];
+    [self makeKeyWindow];
+}
+
+- (UIResponder *)nextResponder {
+    return [UIApplication sharedApplication];
+}
+
+@end

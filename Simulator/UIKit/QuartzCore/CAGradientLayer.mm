@@ -1,0 +1,68 @@
+#include "LayerState.h"
+
+using sim::changeProperty;
+using sim::LayerProperties;
+
+namespace {
+
+struct GradientState {
+    NSArray *colors = nil, *locations = nil;
+};
+
+GradientState &gradient(CAGradientLayer *layer) {
+    if (!layer->_gradientState) layer->_gradientState = new GradientState;
+    return *static_cast<GradientState *>(layer->_gradientState);
+}
+
+void replaceCopied(NSArray *&slot, NSArray *value) {
+    NSArray *copy = [value copy];
+    [slot release];
+    slot = copy;
+}
+
+} // namespace
+
+@implementation CAGradientLayer
+
+- (void)dealloc {
+    [gradient(self).colors release];
+    [gradient(self).locations release];
+    delete &gradient(self);
+    [super dealloc];
+}
+
+- (NSArray *)colors {
+    return gradient(self).colors;
+}
+- (void)setColors:(NSArray *)colors {
+    replaceCopied(gradient(self).colors, colors);
+    auto &flat = sim::state(self).model.gradientColors;
+    flat.clear();
+    for (SimCGColor *color in colors) flat.push_back(sim::flatColor(color->paint));
+}
+
+- (NSArray *)locations {
+    return gradient(self).locations;
+}
+- (void)setLocations:(NSArray *)locations {
+    replaceCopied(gradient(self).locations, locations);
+    std::vector<double> numbers;
+    for (NSNumber *location in locations) numbers.push_back([location doubleValue]);
+    changeProperty(self, "locations", [&](LayerProperties &model) { model.gradientLocations = numbers; });
+}
+
+- (CGPoint)startPoint {
+    return sim::state(self).model.gradientStart;
+}
+- (void)setStartPoint:(CGPoint)point {
+    changeProperty(self, "startPoint", [&](LayerProperties &model) { model.gradientStart = point; });
+}
+
+- (CGPoint)endPoint {
+    return sim::state(self).model.gradientEnd;
+}
+- (void)setEndPoint:(CGPoint)point {
+    changeProperty(self, "endPoint", [&](LayerProperties &model) { model.gradientEnd = point; });
+}
+
+@end

@@ -1,0 +1,140 @@
+#include "FontState.h"
+#include "UIKit/CoreGraphics/CGObjects.h"
+#include "UIKit/Views/ViewState.h"
+
+#include <UIKit/UILabel.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+struct LabelState {
+    NSString *text = nil;
+    UIFont *font = nil;
+    UIColor *color = nil;
+    NSTextAlignment alignment = NSTextAlignmentLeft;
+    NSLineBreakMode lineBreak = NSLineBreakByTruncatingTail;
+    NSInteger lines = 1;
+    BOOL shrinks = NO;
+};
+
+LabelState &state(UILabel *label) {
+    if (!label->_labelState) {
+        constexpr CGFloat kDefaultSize = 17;
+        label->_labelState = new LabelState{.font = [[UIFont systemFontOfSize:kDefaultSize] retain],
+                                            .color = [[UIColor blackColor] retain]};
+    }
+    return *static_cast<LabelState *>(label->_labelState);
+}
+
+render::TextStyle style(const LabelState &label) {
+    auto result = sim::textStyle(label.font);
+    result.alignment = static_cast<render::Alignment>(label.alignment);
+    result.lineBreak = static_cast<render::LineBreak>(label.lineBreak);
+    result.maxLines = static_cast<int>(label.lines);
+    return result;
+}
+
+CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * scale) / scale; }
+
+} // namespace
+
+@implementation UILabel
+
+- (instancetype)initWithFrame:(CGRect)frame {
+    if (!(self = [super initWithFrame:frame])) return nil;
+    [self setUserInteractionEnabled:NO];
+    [self setOpaque:NO];
+    return self;
+}
+
+- (void)dealloc {
+    [state(self).text release];
+    [state(self).font release];
+    [state(self).color release];
+    delete &state(self);
+    [super dealloc];
+}
+
+- (NSString *)text {
+    return state(self).text;
+}
+- (void)setText:(NSString *)text {
+    NSString *copy = [text copy];
+    [state(self).text release];
+    state(self).text = copy;
+}
+
+- (UIFont *)font {
+    return state(self).font;
+}
+- (void)setFont:(UIFont *)font {
+    if (!font) return;
+    [font retain];
+    [state(self).font release];
+    state(self).font = font;
+}
+
+- (UIColor *)textColor {
+    return state(self).color;
+}
+- (void)setTextColor:(UIColor *)color {
+    UIColor *next = [(color ? color : [UIColor blackColor]) retain];
+    [state(self).color release];
+    state(self).color = next;
+}
+
+- (NSTextAlignment)textAlignment {
+    return state(self).alignment;
+}
+- (void)setTextAlignment:(NSTextAlignment)alignment {
+    state(self).alignment = alignment;
+}
+
+- (NSLineBreakMode)lineBreakMode {
+    return state(self).lineBreak;
+}
+- (void)setLineBreakMode:(NSLineBreakMode)mode {
+    state(self).lineBreak = mode;
+}
+
+- (NSInteger)numberOfLines {
+    return state(self).lines;
+}
+- (void)setNumberOfLines:(NSInteger)lines {
+    state(self).lines = lines;
+}
+
+- (BOOL)adjustsFontSizeToFitWidth {
+    return state(self).shrinks;
+}
+- (void)setAdjustsFontSizeToFitWidth:(BOOL)adjusts {
+    state(self).shrinks = adjusts;
+}
+
+- (CGSize)sizeThatFits:(CGSize)size {
+    const auto &mine = state(self);
+    if ([mine.text length] == 0) return CGSizeZero;
+    CGFloat width = mine.lines == 1 ? 0 : size.width;
+    render::Size text = render::measureText([mine.text UTF8String], style(mine), width);
+    CGFloat scale = [self contentScaleFactor];
+    return {pixelCeil(text.width, scale), pixelCeil(text.height, scale)};
+}
+
+- (void)appendDrawingsTo:(render::Node &)node {
+    const auto &mine = state(self);
+    if ([mine.text length] == 0) return;
+    render::TextRun run{
+        .text = [mine.text UTF8String], .style = style(mine), .color = {}, .pattern = {}, .box = node.bounds};
+    if (mine.shrinks) {
+        CGFloat width = render::measureText(run.text, run.style, 0).width;
+        if (width > node.bounds.width && width > 0) run.style.size *= node.bounds.width / width;
+    }
+    const auto &paint = sim::object([mine.color CGColor])->paint;
+    run.color = sim::flatColor(paint);
+    if (auto *pattern = std::get_if<render::Pattern>(&paint)) run.pattern = *pattern;
+    node.drawings.push_back(std::move(run));
+}
+
+@end

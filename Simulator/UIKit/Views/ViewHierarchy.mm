@@ -1,0 +1,204 @@
+#include "ViewState.h"
+
+#include <UIKit/UIWindow.h>
+
+#include <algorithm>
+#include <utility>
+
+using sim::state;
+
+namespace sim {
+
+std::vector<UIView *> subviews(UIView *view) {
+    std::vector<UIView *> result;
+    for (CALayer *layer : state([view layer]).sublayers)
+        if (UIView *subview = state(layer).view) result.push_back(subview);
+    return result;
+}
+
+std::vector<UIView *> drawnSubviews(UIView *view) {
+    auto result = subviews(view);
+    std::stable_sort(result.begin(), result.end(),
+                     [](UIView *a, UIView *b) { return [[a layer] zPosition] < [[b layer] zPosition]; });
+    return result;
+}
+
+namespace {
+
+// Views that asked for layout, in the order in which they did; not retained, a view takes itself off.
+std::vector<UIView *> &pendingLayout() {
+    static std::vector<UIView *> views;
+    return views;
+}
+
+void announceWindow(UIView *view, UIWindow *window, bool before) {
+    if (before) {
+        [view willMoveToWindow:window];
+    } else {
+        [view didMoveToWindow];
+        if (window && state(view).needsLayout) [view setNeedsLayout];
+    }
+    for (UIView *subview : subviews(view)) announceWindow(subview, window, before);
+}
+
+// Takes `view` out of its superview, and tells it where it goes.
+void leave(UIView *view, UIView *next) {
+    UIView *superview = state(view).superview;
+    UIWindow *window = [next window];
+    if ([view window] != window) announceWindow(view, window, true);
+    [view willMoveToSuperview:next];
+    if (!superview) return;
+    if (!window || [superview window] != window) cancelAnimations([view layer]);
+    // Moving keeps animations within a window; the layer's own removal would end them.
+    state(view).superview = nil;
+    std::erase(state([superview layer]).sublayers, [view layer]);
+    state([view layer]).superlayer = nil;
+    [[view layer] autorelease];
+    [view autorelease];
+}
+
+void arrive(UIView *view, UIView *superview, size_t layerIndex, bool windowChanged) {
+    auto &layers = state([superview layer]).sublayers;
+    layers.insert(layers.begin() + std::min(layerIndex, layers.size()), [[view layer] retain]);
+    state([view layer]).superlayer = [superview layer];
+    state(view).superview = superview;
+    [view retain];
+    [view didMoveToSuperview];
+    if (windowChanged) announceWindow(view, [superview window], false);
+    [superview setNeedsLayout];
+}
+
+size_t layerIndex(UIView *superview, CALayer *layer) {
+    auto &layers = state([superview layer]).sublayers;
+    return static_cast<size_t>(std::find(layers.begin(), layers.end(), layer) - layers.begin());
+}
+
+// Puts `view` into `superview`; `place` gives the index among the layers once the view has left its old
+// place.
+void insert(UIView *view, UIView *superview, auto &&place) {
+    if (!view || view == superview || [superview isDescendantOfView:view]) return;
+    [[view retain] autorelease];
+    if (state(view).superview == superview) {
+        auto &layers = state([superview layer]).sublayers;
+        layers.erase(layers.begin() + static_cast<long>(layerIndex(superview, [view layer])));
+        layers.insert(layers.begin() + static_cast<long>(std::min(place(), layers.size())), [view layer]);
+        return;
+    }
+    bool windowChanged = [view window] != [superview window];
+    leave(view, superview);
+    arrive(view, superview, place(), windowChanged);
+}
+
+} // namespace
+
+void layoutPendingViews() {
+    // A layout may ask for another; a view that asks for its own again without end is cut off.
+    constexpr int kMostRounds = 100;
+    for (int round = 0; round < kMostRounds && !pendingLayout().empty(); ++round) {
+        for (UIView *view : std::vector(pendingLayout()))
+            if (std::count(pendingLayout().begin(), pendingLayout().end(), view)) [view layoutIfNeeded];
+    }
+}
+
+void forgetPendingLayout(UIView *view) { std::erase(pendingLayout(), view); }
+
+} // namespace sim
+
+@implementation UIView (UIViewHierarchy)
+
+- (UIView *)superview {
+    return state(self).superview;
+}
+
+- (UIWindow *)window {
+    UIView *view = self;
+    while (state(view).superview) view = state(view).superview;
+    return [view isKindOfClass:[UIWindow class]] ? static_cast<UIWindow *>(view) : nil;
+}
+
+- (NSArray *)subviews {
+    auto views = sim::subviews(self);
+    return [NSArray arrayWithObjects:views.data() count:views.size()];
+}
+
+- (void)addSubview:(UIView *)view {
+    sim::insert(view, self, [=] { return state([self layer]).sublayers.size(); });
+}
+
+- (void)insertSubview:(UIView *)view atIndex:(NSInteger)index {
+    sim::insert(view, self, [=] {
+        auto views = sim::subviews(self);
+        auto at = static_cast<size_t>(std::max<NSInteger>(index, 0));
+        return at < views.size() ? sim::layerIndex(self, [views[at] layer])
+                                 : state([self layer]).sublayers.size();
+    });
+}
+
+- (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling {
+    sim::insert(view, self, [=] { return sim::layerIndex(self, [sibling layer]); });
+}
+
+- (void)insertSubview:(UIView *)view aboveSubview:(UIView *)sibling {
+    sim::insert(view, self, [=] { return sim::layerIndex(self, [sibling layer]) + 1; });
+}
+
+- (void)bringSubviewToFront:(UIView *)view {
+    if (state(view).superview == self) [self addSubview:view];
+}
+
+- (void)sendSubviewToBack:(UIView *)view {
+    if (state(view).superview == self) [self insertSubview:view atIndex:0];
+}
+
+- (void)removeFromSuperview {
+    UIView *superview = state(self).superview;
+    if (!superview) return;
+    [[self retain] autorelease];
+    bool hadWindow = [self window] != nil;
+    sim::leave(self, nil);
+    [self didMoveToSuperview];
+    if (hadWindow) sim::announceWindow(self, nil, false);
+    [superview setNeedsLayout];
+}
+
+- (BOOL)isDescendantOfView:(UIView *)view {
+    for (UIView *candidate = self; candidate; candidate = state(candidate).superview)
+        if (candidate == view) return YES;
+    return NO;
+}
+
+- (UIView *)viewWithTag:(NSInteger)tag {
+    if ([self tag] == tag) return self;
+    for (CALayer *layer : state([self layer]).sublayers) {
+        UIView *found = [state(layer).view viewWithTag:tag];
+        if (found) return found;
+    }
+    return nil;
+}
+
+- (void)willMoveToSuperview:(UIView *)superview {
+}
+- (void)didMoveToSuperview {
+}
+- (void)willMoveToWindow:(UIWindow *)window {
+}
+- (void)didMoveToWindow {
+}
+
+- (void)setNeedsLayout {
+    state(self).needsLayout = true;
+    auto &views = sim::pendingLayout();
+    if ([self window] && !std::count(views.begin(), views.end(), self)) views.push_back(self);
+}
+
+- (void)layoutIfNeeded {
+    sim::forgetPendingLayout(self);
+    if (std::exchange(state(self).needsLayout, false)) [self layoutSubviews];
+    for (UIView *view : sim::subviews(self))
+        if ([view superview] == self) [view layoutIfNeeded];
+}
+
+- (void)layoutSubviews {
+}
+
+@end
