@@ -1,0 +1,29 @@
+#pragma once
+
+#include <Foundation/NSObject.h>
+
+typedef NSUInteger NSStringEncoding;
+enum { NSUTF8StringEncoding = 4 };
+
+@interface NSString : NSObject <NSCopying, NSMutableCopying>
++ (instancetype)string;
++ (instancetype)stringWithFormat:(NSString *)format, ...;
++ (instancetype)stringWithUTF8String:(const char *)text;
+// nil when the bytes are not of that encoding.
++ (instancetype)stringWithCString:(const char *)text encoding:(NSStringEncoding)encoding;
+- (NSUInteger)length;
+- (const char *)UTF8String;
+- (BOOL)isEqualToString:(NSString *)other;
+- (BOOL)hasPrefix:(NSString *)prefix;
+- (BOOL)hasSuffix:(NSString *)suffix;
+- (NSString *)stringByAppendingString:(NSString *)other;
+- (NSString *)substringFromIndex:(NSUInteger)index;
+- (NSString *)substringToIndex:(NSUInteger)index;
+- (unsigned short)characterAtIndex:(NSUInteger)index;
+- (int)intValue;
+- (float)floatValue;
+- (BOOL)boolValue;
+@end
+
+@interface NSConstantString : NSString
+@end

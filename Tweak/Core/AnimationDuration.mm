@@ -1,0 +1,12 @@
+#include "Tweak/Core/AnimationDuration.h"
+
+#include "Tweak/Core/Settings.h"
+
+namespace pendix {
+
+float animationDuration(float seconds) {
+    constexpr float kFast = 0.25f;
+    return isOn(@"fast") ? seconds * kFast : seconds;
+}
+
+} // namespace pendix

@@ -1,0 +1,44 @@
+// Where the panel and its bubble stand: one rule for opening, growing, shrinking, moving and turning. Plain
+// numbers in points, in the overlay window's coordinates.
+#pragma once
+
+#include "Tweak/Core/Geometry/Rect.hpp"
+
+namespace pendix {
+
+enum class Anchor {
+    item,   // under the indicator
+    middle, // in the middle of the screen
+    bottom  // at the lower edge, within reach of a thumb
+};
+
+// `rech` and `position` are the settings ("middle", "bottom", anything else is the top); `reachability` tells
+// whether the system has pulled the screen down. Without the setting, Reachability alone brings the panel
+// down.
+enum class Position { top, middle, bottom };
+Anchor anchorFor(bool rech, Position position, bool reachability);
+
+struct Placement {
+    Rect panel;
+    Rect bubble;
+    Real bubbleAlpha = 1;
+};
+
+struct PlacementInput {
+    Rect item;   // the indicator's frame
+    Size screen; // portrait, whichever way it is held
+    bool landscape = false;
+    Anchor anchor = Anchor::item;
+    Real height = 0; // of the panel
+};
+
+// The panel is eight tenths of the screen's shorter side wide. Upright it stands centred under the
+// indicator's line; turned, its right end lies under the indicator. The bubble shows only at the indicator,
+// and not where it would stick out beyond the upright panel's right end.
+Placement placePanel(const PlacementInput &input);
+
+// The point into which the panel collapses and out of which it grows: above the item's bottom centre, one
+// point square.
+Rect growthPoint(const Rect &item);
+
+} // namespace pendix

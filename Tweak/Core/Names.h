@@ -1,0 +1,20 @@
+// Names that the extension shares with the system, with its package and with its settings pane.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+namespace pendix::names {
+
+inline NSString *const settingsFile = @"/var/mobile/Library/Preferences/org.quillhub.PendixSettings.plist";
+inline NSString *const languageFolder = @"/Library/Application Support/Pendix/Languages/";
+inline NSString *const paneIcon =
+    @"/Library/PreferenceBundles/PendixSettings.bundle/PendixSettingsIcon@2x.png";
+
+inline NSString *const activatorListener = @"org.quillhub.Pendix";
+inline NSString *const statusBarItem = @"org.quillhub.pendix";
+
+// Status-bar images, and so the indicator names by which the item is recognised.
+inline NSString *const badgeImage = @"Pendix";
+inline NSString *const switcherImage = @"PendixSwitcher";
+
+} // namespace pendix::names

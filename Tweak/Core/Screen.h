@@ -1,0 +1,18 @@
+// The screen and the system, as every version tells them.
+#pragma once
+
+#include <UIKit/UIKit.h>
+
+namespace pendix {
+
+// The main screen's bounds in points, portrait whichever way it is held: from 8.0 on the platform's own
+// bounds turn with the interface.
+CGRect portraitScreenBounds();
+
+// The system version as a number, for example 7.1.
+float systemVersion();
+
+// Whether the device is an iPad, by its model's name.
+BOOL isPad();
+
+} // namespace pendix

@@ -1,0 +1,53 @@
+#include "Tweak/Core/Settings.h"
+
+#include "Tweak/Core/Names.h"
+
+namespace pendix {
+
+namespace {
+
+BOOL boolOf(id value) { return [value respondsToSelector:@selector(boolValue)] ? [value boolValue] : NO; }
+
+UIColor *namedColor(NSString *name) {
+    struct {
+        NSString *name;
+        UIColor *color;
+    } const known[] = {
+        {@"black", [UIColor blackColor]},   {@"white", [UIColor whiteColor]},
+        {@"gray", [UIColor grayColor]},     {@"red", [UIColor redColor]},
+        {@"green", [UIColor greenColor]},   {@"blue", [UIColor blueColor]},
+        {@"cyan", [UIColor cyanColor]},     {@"magenta", [UIColor magentaColor]},
+        {@"orange", [UIColor orangeColor]}, {@"purple", [UIColor purpleColor]},
+        {@"brown", [UIColor brownColor]},   {@"clear", [UIColor clearColor]},
+        {@"yellow", [UIColor yellowColor]},
+    };
+    for (const auto &entry : known)
+        if ([entry.name isEqual:name]) return entry.color;
+    return [UIColor redColor];
+}
+
+} // namespace
+
+NSDictionary *readSettings() { return [NSDictionary dictionaryWithContentsOfFile:names::settingsFile]; }
+
+id setting(NSString *key) { return [readSettings() objectForKey:key]; }
+
+BOOL isOn(NSString *key) { return boolOf(setting(key)); }
+
+NSString *textSetting(NSString *key) {
+    id value = setting(key);
+    return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+
+UIColor *color(NSString *key, NSString *defaultName) {
+    NSDictionary *settings = readSettings();
+    return namedColor(settings ? [settings objectForKey:key] : defaultName);
+}
+
+BOOL hide_per(NSString *identifier) {
+    id entry = identifier ? setting(identifier) : nil;
+    return [entry respondsToSelector:@selector(objectForKey:)] &&
+           boolOf([(NSDictionary *)entry objectForKey:@"hide_perapp"]);
+}
+
+} // namespace pendix

@@ -1,0 +1,37 @@
+#include "Tweak/Core/Names.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/StatusBar/SpringBoard+Badges.h"
+#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+
+namespace pendix {
+
+namespace {
+
+// Visible by the watched settings alone; badges count here only when one of them changed, otherwise the hook
+// on the badge views sees to them.
+BOOL itemIsWanted(SpringBoard *springBoard) {
+    if (!lastEnable || lastHide) return NO;
+    return !lastTempor || [springBoard checkBadges];
+}
+
+} // namespace
+
+void added::preferenceChangesByMe(SpringBoard *self, SEL) {
+    if (locked) return;
+    BOOL enable = isOn(@"enable"), hide = isOn(@"hide"), tempor = isOn(@"hide_t");
+    if (enable != lastEnable || hide != lastHide || tempor != lastTempor) {
+        lastEnable = enable;
+        lastHide = hide;
+        lastTempor = tempor;
+        statusbaritem.visible = itemIsWanted(self);
+    }
+    BOOL switcher = isOn(@"badge");
+    if (switcher == lastSwitcher) return;
+    lastSwitcher = switcher;
+    statusbaritem.imageName = switcher ? names::switcherImage : names::badgeImage;
+    if (switcher) [self removePulse];
+}
+
+} // namespace pendix

@@ -1,0 +1,66 @@
+#include "Tweak/Core/Names.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/StatusBar/SpringBoard+Badges.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr int kForeground = 1; // index among the status bar's subviews
+
+} // namespace
+
+BOOL added::isPendix(UIResponder *, SEL, id view) {
+    if (![view respondsToSelector:@selector(item)]) return NO;
+    NSString *name = [[(UIStatusBarItemView *)view item] indicatorName];
+    return [name isEqual:names::badgeImage] || [name isEqual:names::switcherImage];
+}
+
+UIView *added::getForeGround(SpringBoard *, SEL, int index) {
+    NSArray *bars = window1.subviews;
+    UIView *bar = [bars count] >= 1 ? [bars objectAtIndex:0] : nil;
+    if ([bar.subviews count] >= 2) return [bar.subviews objectAtIndex:index];
+    NSLog(@"<Pendix> An error has occured while hooking statusbar foreground");
+    return nil;
+}
+
+NSArray *added::statusBarItemViews(SpringBoard *self, SEL) {
+    return [self getForeGround:kForeground].subviews;
+}
+
+UIStatusBarItemView *added::pendix(SpringBoard *self, SEL) {
+    for (UIStatusBarItemView *view in [self statusBarItemViews])
+        if ([self isPendix:view]) return view;
+    NSLog(@"<Pendix> An error has occured while hooking Pendix statusbar icon!");
+    return nil;
+}
+
+// The extension's view answers a tap and nothing else.
+id hooked::initWithItem(UIStatusBarItemView *self, SEL _cmd, UIStatusBarItem *item, id data, int actions,
+                        id style) {
+    UIStatusBarItemView *view = original::initWithItem(self, _cmd, item, data, actions, style);
+    if (![view isPendix:view]) return view;
+    for (UIGestureRecognizer *recognizer in view.gestureRecognizers)
+        [view removeGestureRecognizer:recognizer];
+    UITapGestureRecognizer *tap = [[UITapGestureRecognizer alloc] initWithTarget:Spring
+                                                                          action:@selector(tap)];
+    [view addGestureRecognizer:tap];
+    [tap release];
+    return view;
+}
+
+// The status bar switches its item views off; they stay touchable, all of them.
+void hooked::setUserInteractionEnabled(UIStatusBarItemView *self, SEL _cmd, BOOL) {
+    original::setUserInteractionEnabled(self, _cmd, YES);
+}
+
+// Otherwise the bar would keep touches for its own "scroll to top".
+BOOL hooked::touchShouldProduceReturnEvent(UIStatusBar *, SEL) { return YES; }
+
+decltype(original::initWithItem) original::initWithItem = nullptr;
+decltype(original::setUserInteractionEnabled) original::setUserInteractionEnabled = nullptr;
+decltype(original::touchShouldProduceReturnEvent) original::touchShouldProduceReturnEvent = nullptr;
+
+} // namespace pendix

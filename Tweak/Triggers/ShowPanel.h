@@ -1,0 +1,11 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+namespace pendix {
+
+// Opens the panel from outside the status bar. NO, with a line in the log, when the indicator has no view to
+// open it from.
+BOOL showPanel();
+
+} // namespace pendix

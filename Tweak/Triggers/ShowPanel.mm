@@ -1,0 +1,19 @@
+#include "Tweak/Triggers/ShowPanel.h"
+
+#include "Tweak/Core/State.h"
+#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/StatusBar/SpringBoard+Badges.h"
+
+namespace pendix {
+
+BOOL showPanel() {
+    window1 = [[UIApplication sharedApplication] statusBarWindow];
+    if (![Spring pendix]) {
+        NSLog(@"<Pendix> Error while showing UI!");
+        return NO;
+    }
+    [Spring tap];
+    return YES;
+}
+
+} // namespace pendix
