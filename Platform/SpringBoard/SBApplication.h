@@ -67,7 +67,8 @@
 
 @interface SBAppSwitcherModel : NSObject {
 @public
-    void *_switcherState;
+    NSMutableArray *_recentDisplayIdentifiers; // strings; before 8.0, nil from then on
+    NSMutableArray *_recentDisplayLayouts;     // display layouts; from 8.0 on, nil before
 }
 + (instancetype)sharedInstance;
 // A display identifier (7.x) or a display layout (8.x).

@@ -3,6 +3,8 @@
 #include <UIKit/UILabel.h>
 #include <UIKit/UIView.h>
 
+@class UITouch;
+
 typedef NSUInteger UIControlEvents;
 enum {
     UIControlEventTouchDown = 1 << 0,
@@ -38,6 +40,15 @@ enum {
 - (void)addTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
 - (void)removeTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
 - (void)sendActionsForControlEvents:(UIControlEvents)events;
+// Sends to the first responder from the control up that answers, when `target` is nil.
+- (void)sendAction:(SEL)action to:(id)target forEvent:(UIEvent *)event;
+@property (nonatomic, readonly, getter=isTracking) BOOL tracking;
+@property (nonatomic, readonly, getter=isTouchInside) BOOL touchInside;
+// For subclasses: a touch from its begin to its end or cancellation. NO stops following it.
+- (BOOL)beginTrackingWithTouch:(UITouch *)touch withEvent:(UIEvent *)event;
+- (BOOL)continueTrackingWithTouch:(UITouch *)touch withEvent:(UIEvent *)event;
+- (void)endTrackingWithTouch:(UITouch *)touch withEvent:(UIEvent *)event;
+- (void)cancelTrackingWithEvent:(UIEvent *)event;
 @end
 
 typedef NSInteger UIButtonType;
