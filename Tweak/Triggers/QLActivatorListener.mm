@@ -11,7 +11,6 @@
 @implementation QLActivatorListener
 
 - (void)activator:(LAActivator *)activator receiveEvent:(LAEvent *)event {
-    (void)activator, (void)event;
     @autoreleasepool {
         if (pendix::isShow) {
             [pendix::Spring dismisPendixUI];
@@ -24,7 +23,6 @@
 - (UIImage *)activator:(LAActivator *)activator
     requiresIconForListenerName:(NSString *)name
                           scale:(CGFloat)scale {
-    (void)activator, (void)name, (void)scale;
     return [UIImage imageWithContentsOfFile:pendix::names::paneIcon];
 }
 
@@ -35,24 +33,20 @@
 }
 
 - (NSString *)activator:(LAActivator *)activator requiresLocalizedGroupForListenerName:(NSString *)name {
-    (void)activator, (void)name;
     return nil;
 }
 
 - (NSString *)activator:(LAActivator *)activator requiresLocalizedTitleForListenerName:(NSString *)name {
-    (void)activator, (void)name;
     return @"Pendix";
 }
 
 - (NSString *)activator:(LAActivator *)activator
     requiresLocalizedDescriptionForListenerName:(NSString *)name {
-    (void)activator, (void)name;
     return pendix::Translator(@"activator_desc");
 }
 
 - (NSArray *)activator:(LAActivator *)activator
     requiresCompatibleEventModesForListenerWithName:(NSString *)name {
-    (void)activator, (void)name;
     return [NSArray arrayWithObjects:@"springboard", @"lockscreen", @"application", nil];
 }
 
