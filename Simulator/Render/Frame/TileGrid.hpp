@@ -1,0 +1,50 @@
+// The screen in squares. A square is the unit of repainting: it is always painted as a whole and by itself,
+// so its pixels do not depend on what else is painted, nor on when.
+#pragma once
+
+#include "../Basics/Transforms.hpp"
+
+namespace render {
+
+class TileGrid {
+public:
+    static constexpr int side = 96; // a multiple of every factor by which backdrops are reduced
+
+    TileGrid() = default;
+    TileGrid(int width, int height)
+        : width_(width), height_(height), columns_((width + side - 1) / side),
+          rows_((height + side - 1) / side) {}
+
+    int count() const { return columns_ * rows_; }
+    PixelRect screen() const { return {0, 0, width_, height_}; }
+    PixelRect rect(int tile) const {
+        return intersect(screen(), {tile % columns_ * side, tile / columns_ * side, side, side});
+    }
+    // The tile that a pixel of the screen lies in.
+    int at(int x, int y) const { return y / side * columns_ + x / side; }
+
+    // Calls `visit` with each tile that `area` touches.
+    template <typename Visit>
+    void forEach(const PixelRect &area, const Visit &visit) const {
+        PixelRect part = intersect(screen(), area);
+        if (part.empty()) return;
+        for (int row = part.y / side; row <= (part.y + part.height - 1) / side; row++)
+            for (int column = part.x / side; column <= (part.x + part.width - 1) / side; column++)
+                visit(row * columns_ + column);
+    }
+
+    // The smallest area of whole tiles round `area`, as far as it lies on the screen.
+    PixelRect widened(const PixelRect &area) const {
+        PixelRect part = intersect(screen(), area);
+        if (part.empty()) return part;
+        int x = part.x / side * side, y = part.y / side * side;
+        int right = (part.x + part.width + side - 1) / side * side;
+        int bottom = (part.y + part.height + side - 1) / side * side;
+        return intersect(screen(), {x, y, right - x, bottom - y});
+    }
+
+private:
+    int width_ = 0, height_ = 0, columns_ = 0, rows_ = 0;
+};
+
+} // namespace render

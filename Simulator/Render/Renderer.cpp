@@ -1,0 +1,23 @@
+#include "Renderer.hpp"
+
+#include "Frame/Compositor.hpp"
+#include "Text/Fonts.hpp"
+
+namespace render {
+
+struct Renderer::Impl {
+    Compositor compositor;
+};
+
+Renderer::Renderer() : impl_(std::make_unique<Impl>()) {
+    // Opened here, so that a missing font shows at once and not when the first text is drawn.
+    for (Face face : {Face::ultraLight, Face::light, Face::regular}) fontContext(face);
+}
+
+Renderer::~Renderer() = default;
+
+const Bitmap &Renderer::draw(const Scene &scene) { return impl_->compositor.draw(scene); }
+
+const std::vector<PixelRect> &Renderer::repainted() const { return impl_->compositor.repainted(); }
+
+} // namespace render
