@@ -39,4 +39,10 @@
 + (instancetype)sharedInstance;
 // The listener is retained.
 - (void)registerListener:(id<LAListener>)listener forName:(NSString *)name;
+- (void)unregisterListenerWithName:(NSString *)name;
+- (BOOL)hasListenerWithName:(NSString *)name;
+// Nothing happens when no listener has that name.
+- (void)sendEvent:(LAEvent *)event toListenerWithName:(NSString *)name;
+// "springboard", "application" or "lockscreen".
+@property (nonatomic, readonly) NSString *currentEventMode;
 @end

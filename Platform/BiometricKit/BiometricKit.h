@@ -12,8 +12,10 @@
 - (void)addObserver:(id)observer;
 - (void)removeObserver:(id)observer;
 - (void)_startMatching;
+- (void)_stopMatching;
 - (void)_setMatchingEnabled:(BOOL)enabled;
 - (BOOL)isMatchingEnabled;
+- (BOOL)hasEnrolledIdentities;
 @end
 
 // Events: 0 finger up, 1 finger down, 2 held, 3 matched, 4 maybe matched, 9 and 10 not matched.
@@ -28,4 +30,8 @@
 + (instancetype)manager;
 // The event monitor.
 @property (nonatomic, assign) id delegate;
+// Starts matching; 0 for success.
+- (int)match:(id)identities;
+- (int)match:(id)identities withOptions:(id)options;
+- (void)cancel;
 @end

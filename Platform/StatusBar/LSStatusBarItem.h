@@ -13,5 +13,10 @@ typedef int StatusBarAlignment; // 1 left, 2 right, 4 centre
 - (id)initWithIdentifier:(NSString *)identifier alignment:(StatusBarAlignment)alignment;
 @property (nonatomic, getter=isVisible) BOOL visible; // YES until set
 // Looked up as Black_NAME, LockScreen_NAME and so on among the system's images.
+// Raises for an item in the centre.
 @property (nonatomic, retain) NSString *imageName;
+@property (nonatomic, readonly) StatusBarAlignment alignment;
+// With it, what is set shows when `update` is sent; NO.
+@property (nonatomic, getter=isManualUpdate) BOOL manualUpdate;
+- (void)update;
 @end

@@ -40,8 +40,9 @@ using sim::state;
 
 - (void)dealloc {
     auto *mine = &state(self);
-    sim::forgetPendingLayout(self);
     for (UIView *view : sim::subviews(self)) [view removeFromSuperview];
+    // Last: losing a subview asks for layout.
+    sim::forgetPendingLayout(self);
     [self setGestureRecognizers:nil];
     if (mine->layer) {
         [mine->layer removeFromSuperlayer];

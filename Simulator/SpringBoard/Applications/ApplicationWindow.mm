@@ -1,0 +1,98 @@
+#include "ApplicationWindow.h"
+
+#include "ApplicationScreen.h"
+#include "Applications.h"
+#include "Runtime/Time/Clock.hpp"
+#include "SpringBoard/Home/HomeViews.h"
+#include "SpringBoard/Icons/Icons.h"
+#include "UIKit/Application/ApplicationState.h"
+#include "UIKit/StatusBar/StatusBarState.h"
+
+#include <UIKit/UIKit.h>
+
+namespace {
+
+constexpr NSTimeInterval kZoomDuration = 0.4, kFadeDuration = 0.15;
+
+UIWindow *front = nil; // retained
+
+UIWindow *makeWindow(SBApplication *application) {
+    UIWindow *window = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
+    sim::setRole(window, sim::WindowRole::application);
+    [window setClipsToBounds:YES];
+    ApplicationScreenView *screen = [[ApplicationScreenView alloc] initWithFrame:[window bounds]];
+    screen->_application = application;
+    [window addSubview:screen];
+    [screen release];
+    return window;
+}
+
+// The window laid over the icon, as narrow as it; over the screen's middle for an application without one in
+// sight.
+void shrink(UIWindow *window, SBApplication *application) {
+    SBIconView *iconView = sim::visibleIconView(application);
+    CGRect screen = [window bounds];
+    CGPoint middle = {CGRectGetMidX(screen), CGRectGetMidY(screen)};
+    CGRect icon = CGRectMake(middle.x, middle.y, 0, 0);
+    icon.size = [SBIconView defaultIconSize];
+    icon = CGRectOffset(icon, -icon.size.width / 2, -icon.size.height / 2);
+    if (iconView) icon = [iconView convertRect:[iconView bounds] toView:nil];
+    CGFloat factor = icon.size.width / screen.size.width;
+    CGAffineTransform place =
+        CGAffineTransformMakeTranslation(CGRectGetMidX(icon) - middle.x, CGRectGetMidY(icon) - middle.y);
+    [window setTransform:CGAffineTransformConcat(CGAffineTransformMakeScale(factor, factor), place)];
+    [[window layer] setCornerRadius:sim::kIconCornerRatio * screen.size.width];
+}
+
+void fill(UIWindow *window) {
+    [window setTransform:CGAffineTransformIdentity];
+    [[window layer] setCornerRadius:0];
+}
+
+// Half way through the zoom the larger part of the bar lies over what comes.
+void styleStatusBar() {
+    sim::Clock &clock = sim::Clock::shared();
+    clock.schedule(clock.now() + sim::fromSeconds(kZoomDuration / 2), sim::Clock::Phase::animation, [] {
+        sim::setStatusBarStyle(front ? sim::StatusBarStyle::darkContent : sim::StatusBarStyle::lightContent);
+    });
+}
+
+void close(UIWindow *window) {
+    [window setHidden:YES];
+    for (UIView *view in [window subviews]) [view removeFromSuperview];
+    [window release];
+}
+
+} // namespace
+
+namespace sim {
+
+void showApplicationWindow(SBApplication *application) {
+    UIWindow *below = front, *window = makeWindow(application);
+    front = window;
+    shrink(window, application);
+    [window setAlpha:0];
+    [window makeKeyAndVisible];
+    [UIView animateWithDuration:kFadeDuration animations:^{ [window setAlpha:1]; }];
+    [UIView animateWithDuration:kZoomDuration
+        animations:^{ fill(window); }
+        completion:^(BOOL) { close(below); }];
+    styleStatusBar();
+}
+
+void hideApplicationWindow(SBApplication *application) {
+    UIWindow *window = front;
+    front = nil;
+    [homeWindow() makeKeyWindow];
+    [UIView animateWithDuration:kZoomDuration
+        animations:^{ shrink(window, application); }
+        completion:^(BOOL) { close(window); }];
+    [UIView animateWithDuration:kFadeDuration
+                          delay:kZoomDuration - kFadeDuration
+                        options:UIViewAnimationOptionCurveLinear
+                     animations:^{ [window setAlpha:0]; }
+                     completion:nil];
+    styleStatusBar();
+}
+
+} // namespace sim

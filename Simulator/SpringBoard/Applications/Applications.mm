@@ -1,0 +1,76 @@
+#include "Applications.h"
+
+#include "ApplicationLife.h"
+#include "Runtime/Process/Events.hpp"
+
+namespace sim {
+
+namespace {
+
+std::vector<SBApplication *> &installed() {
+    static std::vector<SBApplication *> applications;
+    return applications;
+}
+
+} // namespace
+
+ApplicationRecord &record(SBApplication *application) {
+    return *static_cast<ApplicationRecord *>(application->_sbApplicationState);
+}
+
+SBApplication *installApplication(const ApplicationSpec &spec) {
+    SBApplication *application = [SBApplication new];
+    application->_sbApplicationState = new ApplicationRecord{
+        .identifier = spec.identifier, .name = spec.name, .icon = spec.icon, .snapshot = spec.snapshot};
+    installed().push_back(application);
+    return application;
+}
+
+const std::vector<SBApplication *> &installedApplications() { return installed(); }
+
+SBApplication *findApplication(const std::string &identifier) {
+    for (SBApplication *application : installed())
+        if (record(application).identifier == identifier) return application;
+    return nil;
+}
+
+SBApplication *findApplication(NSString *identifier) {
+    return identifier ? findApplication(std::string([identifier UTF8String])) : nil;
+}
+
+NSString *identifierOf(SBApplication *application) {
+    return application ? [NSString stringWithUTF8String:record(application).identifier.c_str()] : nil;
+}
+
+void startProcess(SBApplication *application) {
+    constexpr int kFirstPid = 301, kPidStep = 7;
+    static int last = kFirstPid - kPidStep;
+    auto &own = record(application);
+    if (own.pid > 0) return;
+    own.pid = last += kPidStep;
+    own.process = [FBApplicationProcess new];
+    own.process->_processState = application;
+}
+
+void endProcess(SBApplication *application, const char *how) {
+    auto &own = record(application);
+    if (own.pid <= 0) return;
+    own.pid = 0;
+    [own.process autorelease];
+    own.process = nil;
+    recordEvent("quit", Object{{"id", own.identifier}, {"how", how}});
+    if (frontApplication() == application) returnToHomeScreen();
+}
+
+} // namespace sim
+
+@implementation FBApplicationProcess
+
+// On a device this runs when the process has ended; called on one that lives, it takes the process for dead
+// all the same, and the system ends what is left of it.
+- (void)_queue_processDidExit {
+    auto *application = static_cast<SBApplication *>(_processState);
+    if (sim::record(application).process == self) sim::endProcess(application, "switcher");
+}
+
+@end

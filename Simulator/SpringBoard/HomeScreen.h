@@ -1,0 +1,70 @@
+// The home-screen process as its host drives it: what a person, the system and other processes do to it.
+// Everything acts at once, on the main thread, and returns when the platform's own methods have run.
+#pragma once
+
+#include "PlatformFiles.hpp"
+#include "Runtime/Values/Value.hpp"
+
+#include <UIKit/UIKit.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+@class SBIconView;
+
+namespace sim {
+
+struct ApplicationSpec {
+    std::string identifier;
+    std::string name;
+    int badge = 0;
+    bool running = false;
+    std::string folder; // empty: on the home screen itself
+    bool icon = true;   // false: shows the placeholder icon
+    bool snapshot = true;
+    bool dock = false;
+};
+
+struct HomeScreenOptions {
+    std::vector<ApplicationSpec> applications; // in home-screen order; running ones most recent first
+    bool colorBadges = false;       // the other extension with a colour for each badge is installed …
+    bool colorBadgesEnabled = true; // … and on
+    bool colorBadgesBorders = false;
+    bool passcode = false; // the device has one
+    bool passcodeLocked = false;
+};
+
+// Makes the classes of this system version, the application object and the models. Before any library is
+// loaded.
+void prepareHomeScreen(const HomeScreenOptions &options);
+// The launch: `applicationDidFinishLaunching:`, then windows, status bar and icons, then the badges in list
+// order.
+void launchHomeScreen();
+
+// Badge of an application; 0 clears. false when there is no such application.
+bool setBadge(const std::string &identifier, int value);
+// Brings an application to the front. false when there is no such application.
+bool openApplication(const std::string &identifier);
+// Back to the home screen, as one click of the home button does without anything else on the screen.
+void clickHomeButton();
+std::optional<std::string> foregroundApplication();
+// The switcher's list, most recent first.
+std::vector<std::string> switcherApplications();
+// nil when the application has no icon on the home screen.
+SBIconView *homeScreenIconView(const std::string &identifier);
+// The status bar changes its style: items are laid out anew, and what others put on their layers is gone.
+void restyleStatusBar();
+
+// The status-bar library's item of that identifier: {present, visible, image}; and its view, nil when the
+// item is invisible or absent.
+Value statusBarItem(const std::string &identifier);
+UIView *statusBarItemView(const std::string &identifier);
+
+// Sends the assigned event to the gesture launcher's listener. false when no listener has that name.
+bool sendActivatorEvent(const std::string &listener);
+
+// A process of the simulated device got a signal (`kill`): a running application ends on 15 and 9.
+void deliverSignal(int pid, int number);
+
+} // namespace sim

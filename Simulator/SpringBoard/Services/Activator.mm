@@ -1,0 +1,144 @@
+// The gesture launcher: who is registered, and what the event assigned to a listener sets off.
+#include "Activator.h"
+
+#include "Runtime/Process/Events.hpp"
+#include "SpringBoard/Applications/ApplicationLife.h"
+#include "SpringBoard/HomeScreen.h"
+#include "SpringBoard/Lock/LockState.h"
+
+#include <Activator/libactivator.h>
+
+#include <map>
+#include <objc/runtime.h>
+
+@interface NSObject (ActivatorListenerForms)
+- (void)activator:(LAActivator *)activator receiveDeactivateEvent:(LAEvent *)event;
+- (void)activator:(LAActivator *)activator receiveEvent:(LAEvent *)event forListenerName:(NSString *)name;
+@end
+
+namespace {
+
+struct ActivatorState {
+    std::map<std::string, id> listeners; // retained
+};
+
+ActivatorState &state(LAActivator *activator) {
+    if (!activator->_activatorState) activator->_activatorState = new ActivatorState;
+    return *static_cast<ActivatorState *>(activator->_activatorState);
+}
+
+struct EventState {
+    NSString *name = nil, *mode = nil; // retained
+    BOOL handled = NO;
+};
+
+EventState &state(LAEvent *event) {
+    if (!event->_activatorEventState) event->_activatorEventState = new EventState;
+    return *static_cast<EventState *>(event->_activatorEventState);
+}
+
+NSString *currentMode() {
+    if (sim::lockState().screenLocked) return @"lockscreen";
+    return sim::frontApplication() ? @"application" : @"springboard";
+}
+
+LAEvent *makeEvent(NSString *name) {
+    LAEvent *event = [[[objc_getClass("LAEvent") alloc] init] autorelease];
+    if (event) state(event) = {name, currentMode(), NO};
+    return event;
+}
+
+} // namespace
+
+@implementation LAEvent
+
+- (void)dealloc {
+    delete &state(self);
+    [super dealloc];
+}
+
+- (NSString *)name {
+    return state(self).name;
+}
+
+- (NSString *)mode {
+    return state(self).mode;
+}
+
+- (BOOL)isHandled {
+    return state(self).handled;
+}
+
+- (void)setHandled:(BOOL)handled {
+    state(self).handled = handled;
+}
+
+@end
+
+@implementation LAActivator
+
++ (instancetype)sharedInstance {
+    static LAActivator *activator = [self new];
+    return activator;
+}
+
+- (void)registerListener:(id<LAListener>)listener forName:(NSString *)name {
+    if (!listener || !name) return;
+    id &slot = state(self).listeners[[name UTF8String]];
+    [listener retain];
+    [slot release];
+    slot = listener;
+    sim::recordEvent("listener", sim::Object{{"name", [name UTF8String]}});
+}
+
+- (void)unregisterListenerWithName:(NSString *)name {
+    auto &listeners = state(self).listeners;
+    auto found = name ? listeners.find([name UTF8String]) : listeners.end();
+    if (found == listeners.end()) return;
+    [found->second autorelease];
+    listeners.erase(found);
+}
+
+- (BOOL)hasListenerWithName:(NSString *)name {
+    return name && state(self).listeners.count([name UTF8String]) > 0;
+}
+
+- (void)sendEvent:(LAEvent *)event toListenerWithName:(NSString *)name {
+    auto &listeners = state(self).listeners;
+    auto found = name ? listeners.find([name UTF8String]) : listeners.end();
+    if (found == listeners.end()) return;
+    id listener = [[found->second retain] autorelease];
+    if ([listener respondsToSelector:@selector(activator:receiveEvent:forListenerName:)]) {
+        [listener activator:self receiveEvent:event forListenerName:name];
+    } else if ([listener respondsToSelector:@selector(activator:receiveEvent:)]) {
+        [listener activator:self receiveEvent:event];
+    }
+}
+
+- (NSString *)currentEventMode {
+    return currentMode();
+}
+
+@end
+
+namespace sim {
+
+bool sendActivatorEvent(const std::string &listener) {
+    NSString *name = [NSString stringWithUTF8String:listener.c_str()];
+    LAActivator *activator = [objc_getClass("LAActivator") sharedInstance];
+    if (![activator hasListenerWithName:name]) return false;
+    [activator sendEvent:makeEvent(@"libactivator.statusbar.hold") toListenerWithName:name];
+    return true;
+}
+
+bool sendActivatorDeactivateEvent() {
+    LAActivator *activator = [objc_getClass("LAActivator") sharedInstance];
+    if (!activator) return false;
+    LAEvent *event = makeEvent(@"libactivator.menu.press.single");
+    for (const auto &[name, listener] : std::map(state(activator).listeners))
+        if ([listener respondsToSelector:@selector(activator:receiveDeactivateEvent:)])
+            [listener activator:activator receiveDeactivateEvent:event];
+    return [event isHandled];
+}
+
+} // namespace sim

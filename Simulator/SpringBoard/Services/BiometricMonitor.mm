@@ -1,0 +1,101 @@
+// The fingerprint sensor, as far as observers and matching go.
+#include "Runtime/Process/Device.hpp"
+#include "Runtime/Process/Events.hpp"
+
+#include <BiometricKit/BiometricKit.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+struct MonitorState {
+    std::vector<id> observers; // not retained
+    bool matching = false;
+};
+
+MonitorState &state(SBUIBiometricEventMonitor *monitor) {
+    if (!monitor->_monitorState) monitor->_monitorState = new MonitorState;
+    return *static_cast<MonitorState *>(monitor->_monitorState);
+}
+
+void note(const char *what) { sim::recordEvent("biometric", sim::Object{{"what", what}}); }
+
+} // namespace
+
+@implementation SBUIBiometricEventMonitor
+
++ (instancetype)sharedInstance {
+    static SBUIBiometricEventMonitor *monitor = [self new];
+    return monitor;
+}
+
+- (instancetype)init {
+    if ((self = [super init])) [[BiometricKit manager] setDelegate:self];
+    return self;
+}
+
+- (void)addObserver:(id)observer {
+    auto &observers = state(self).observers;
+    if (!observer || std::find(observers.begin(), observers.end(), observer) != observers.end()) return;
+    observers.push_back(observer);
+    note("observe");
+}
+
+- (void)removeObserver:(id)observer {
+    if (std::erase(state(self).observers, observer) > 0) note("unobserve");
+}
+
+- (void)_startMatching {
+    note("start");
+}
+
+- (void)_stopMatching {
+    [self _setMatchingEnabled:NO];
+}
+
+- (void)_setMatchingEnabled:(BOOL)enabled {
+    if (state(self).matching == (enabled == YES)) return;
+    state(self).matching = enabled;
+    note(enabled ? "matching_on" : "matching_off");
+}
+
+- (BOOL)isMatchingEnabled {
+    return state(self).matching;
+}
+
+- (BOOL)hasEnrolledIdentities {
+    return sim::device().touchSensor;
+}
+
+@end
+
+@implementation BiometricKit
+
++ (instancetype)manager {
+    static BiometricKit *kit = [self new];
+    return kit;
+}
+
+- (id)delegate {
+    return static_cast<id>(_biometricState);
+}
+
+- (void)setDelegate:(id)delegate {
+    _biometricState = delegate;
+}
+
+- (int)match:(id)identities {
+    return [self match:identities withOptions:nil];
+}
+
+- (int)match:(id)identities withOptions:(id)options {
+    [[SBUIBiometricEventMonitor sharedInstance] _setMatchingEnabled:YES];
+    return 0;
+}
+
+- (void)cancel {
+    [[SBUIBiometricEventMonitor sharedInstance] _setMatchingEnabled:NO];
+}
+
+@end

@@ -1,0 +1,49 @@
+// The controllers behind the switcher's own screen, as far as other code sends them away with an application.
+#include "SwitcherModel.h"
+
+#include "SpringBoard/Applications/Applications.h"
+#include "SpringBoard/Versions.hpp"
+
+#include <UIKit/UIKit.h>
+
+@interface SBAppSliderController : UIViewController
+@end
+
+@interface SBAppSwitcherController : UIViewController
+@end
+
+namespace {
+
+void quit(NSString *identifier) {
+    [[SBAppSwitcherModel sharedInstance] remove:sim::switcherEntry(identifier)];
+    if (SBApplication *application = sim::findApplication(identifier))
+        sim::endProcess(application, "switcher");
+}
+
+void quitAppAtIndex(id, SEL, unsigned long long index) {
+    auto identifiers = sim::switcherIdentifiers();
+    if (index < identifiers.size()) quit([NSString stringWithUTF8String:identifiers[index].c_str()]);
+}
+
+void quitAppWithDisplayItem(id, SEL, SBDisplayItem *item) { quit([item displayIdentifier]); }
+
+const sim::VersionedMethod kMethods[] = {
+    {"SBAppSliderController", "_quitAppAtIndex:", "v@:Q", sim::implementation(quitAppAtIndex), sim::kOldest,
+     sim::kLast7},
+    {"SBAppSwitcherController", "_quitAppWithDisplayItem:", "v@:@",
+     sim::implementation(quitAppWithDisplayItem), sim::kFirst8, sim::kNewest},
+};
+const sim::ClassVersions kClasses[] = {
+    {"SBAppSliderController", sim::kOldest, sim::kLast7},
+    {"SBAppSwitcherController", sim::kFirst8, sim::kNewest},
+};
+const bool kRegistered =
+    (sim::registerVersionedMethods(kMethods), sim::registerClassVersions(kClasses), true);
+
+} // namespace
+
+@implementation SBAppSliderController
+@end
+
+@implementation SBAppSwitcherController
+@end
