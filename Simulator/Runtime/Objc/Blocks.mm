@@ -1,12 +1,10 @@
 #import <Foundation/Foundation.h>
 
 #include "Blocks.hpp"
-#include "Methods.hpp"
-
-#include <objc/runtime.h>
 
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 
 namespace {
 
@@ -77,11 +75,17 @@ void dropByref(Byref *variable) {
 
 extern "C" {
 
-// The class records that block literals point at; filled by installBlocks().
 #define EXPORTED __attribute__((visibility("default")))
-EXPORTED void *_NSConcreteStackBlock[32];
-EXPORTED void *_NSConcreteMallocBlock[32];
-EXPORTED void *_NSConcreteGlobalBlock[32];
+
+// What block literals point at: other names of the class records below, so that the runtime keeps their
+// dispatch tables up to date like those of any class.
+extern void *_NSConcreteMallocBlock[];
+__asm__(R"(
+    .globl _NSConcreteStackBlock, _NSConcreteMallocBlock, _NSConcreteGlobalBlock
+    .set _NSConcreteStackBlock, _OBJC_CLASS_SimStackBlock
+    .set _NSConcreteMallocBlock, _OBJC_CLASS_SimMallocBlock
+    .set _NSConcreteGlobalBlock, _OBJC_CLASS_SimGlobalBlock
+)");
 
 EXPORTED void *_Block_copy(const void *literal) {
     auto *block = static_cast<Block *>(const_cast<void *>(literal));
@@ -169,20 +173,8 @@ EXPORTED void _Block_object_dispose(const void *object, const int kind) {
 namespace sim {
 
 void installBlocks() {
-    struct {
-        Class blockClass;
-        void *record;
-    } const kinds[] = {{[SimStackBlock class], _NSConcreteStackBlock},
-                       {[SimMallocBlock class], _NSConcreteMallocBlock},
-                       {[SimGlobalBlock class], _NSConcreteGlobalBlock}};
-    for (const auto &kind : kinds) {
-        // The record is a copy of a class whose dispatch table must exist before it is copied.
-        struct {
-            Class isa;
-        } probe = {kind.blockClass};
-        [reinterpret_cast<id>(&probe) isKindOfClass:kind.blockClass];
-        memcpy(kind.record, kind.blockClass, kClassRecordSize);
-    }
+    // A class is complete only once it has got a message.
+    for (Class kind : {[SimStackBlock class], [SimMallocBlock class], [SimGlobalBlock class]}) [kind self];
 }
 
 } // namespace sim

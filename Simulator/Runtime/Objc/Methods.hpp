@@ -3,12 +3,7 @@
 
 #include <objc/runtime.h>
 
-#include <cstddef>
-
 namespace sim {
-
-// A class record of this runtime is seventeen words.
-constexpr size_t kClassRecordSize = 17 * sizeof(void *);
 
 // clang marks metaclasses with a bit that the runtime reads as "still under construction", and refuses to
 // add methods to them. Clears it; harmless on every other class.

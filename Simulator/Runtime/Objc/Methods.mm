@@ -1,5 +1,8 @@
 #include "Methods.hpp"
 
+// The runtime's own; it has no declaration in its headers.
+extern "C" void __objc_update_dispatch_table_for_class(Class changed);
+
 namespace sim {
 
 void finishConstruction(Class target) {
@@ -12,8 +15,10 @@ IMP replaceMethod(Class target, SEL selector, IMP implementation) {
     finishConstruction(target);
     Method method = class_getInstanceMethod(target, selector);
     IMP previous = method_getImplementation(method);
-    if (!class_addMethod(target, selector, implementation, method_getTypeEncoding(method)))
-        previous = method_setImplementation(method, implementation);
+    if (class_addMethod(target, selector, implementation, method_getTypeEncoding(method))) return previous;
+    previous = method_setImplementation(method, implementation);
+    // Setting alone leaves the old implementation in the tables of some subclasses that are in use.
+    __objc_update_dispatch_table_for_class(target);
     return previous;
 }
 

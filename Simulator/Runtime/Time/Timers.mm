@@ -30,7 +30,8 @@ namespace {
 constexpr double kShortestInterval = 0.0001;
 
 std::set<SimTimer *> &scheduled() {
-    static std::set<SimTimer *> timers;
+    // Never destroyed: what is scheduled at the end of the process is no leak.
+    static auto &timers = *new std::set<SimTimer *>;
     return timers;
 }
 
@@ -136,6 +137,14 @@ id scheduledTimer(id, SEL, NSTimeInterval interval, id target, SEL action, id in
     return timer;
 }
 
+id initTimer(NSTimer *self, SEL, NSDate *fireDate, NSTimeInterval interval, id target, SEL action, id info,
+             BOOL repeats) {
+    [self release];
+    SimTimer *timer = [makeTimer(interval, target, action, info, repeats) retain];
+    [timer setFireDate:fireDate];
+    return timer;
+}
+
 void addTimer(id, SEL, id timer, id) { [static_cast<SimTimer *>(timer) schedule]; }
 
 } // namespace
@@ -161,7 +170,7 @@ void addTimer(id, SEL, id timer, id) { [static_cast<SimTimer *>(timer) schedule]
 namespace {
 
 std::vector<SimDelayedPerform *> &performs() {
-    static std::vector<SimDelayedPerform *> waiting;
+    static auto &waiting = *new std::vector<SimDelayedPerform *>;
     return waiting;
 }
 
@@ -212,6 +221,8 @@ void installTimers() {
                   reinterpret_cast<IMP>(unscheduledTimer));
     replaceMethod(timers, @selector(scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:),
                   reinterpret_cast<IMP>(scheduledTimer));
+    replaceMethod([NSTimer class], @selector(initWithFireDate:interval:target:selector:userInfo:repeats:),
+                  reinterpret_cast<IMP>(initTimer));
     replaceMethod([NSRunLoop class], @selector(addTimer:forMode:), reinterpret_cast<IMP>(addTimer));
     replaceMethod([NSObject class], @selector(performSelector:withObject:afterDelay:),
                   reinterpret_cast<IMP>(performAfterDelay));

@@ -43,6 +43,11 @@ NSString *badgeText(SBIcon *icon) {
     return nil;
 }
 
+// Sets of icons are enumerated in the same order in every process.
+- (NSUInteger)hash {
+    return [[self nodeIdentifier] hash];
+}
+
 - (NSString *)displayName {
     return nil;
 }

@@ -1,0 +1,28 @@
+// The folder that stands for the device's file system. Paths of the device land in it wherever the process
+// hands them to the C library, and so for every way of reaching files that Foundation has.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace sim {
+
+// From now on paths of the device lie below `root`, which must exist; also makes the folders above the
+// device's own in it. Before the first call all paths stay as they are. Throws std::runtime_error.
+void setSandboxRoot(const std::string &root);
+
+// Where the machine has a path of the device: below the root. Other paths (relative, below the root already,
+// or of places that the machine's own libraries need, such as /usr/share, /etc or /tmp) come back as they
+// are.
+std::string resolvePath(std::string_view devicePath);
+
+// The other way: what the device calls a path below the root; other paths come back as they are.
+std::string devicePathOf(std::string_view path);
+
+// From now on every call that would make or change a file or folder at or below the path fails with that
+// error, as on a full or damaged disk. Reading and removing go on as before. The path need not end at a
+// name's end: "/var/a" is in front of "/var/abc" as well. An error of 0 ends all of this.
+void failWrites(std::string_view devicePathPrefix, int error);
+
+} // namespace sim

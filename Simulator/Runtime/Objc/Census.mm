@@ -1,0 +1,94 @@
+#import <Foundation/Foundation.h>
+
+#include "Census.hpp"
+#include "Methods.hpp"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+
+#define INTERPOSED __attribute__((visibility("default")))
+
+namespace {
+
+// A table of fixed size that needs no constructor: objects are made before any has run, and by every thread.
+struct Entry {
+    std::atomic<void *> counted; // a class; the compiler's atomics take no such pointers
+    std::atomic<long> live;
+};
+constexpr size_t kTableSize = 1 << 14;
+constinit std::array<Entry, kTableSize> table{};
+
+// Null when the table is full.
+Entry *entryOf(void *counted) {
+    size_t start = reinterpret_cast<size_t>(counted) / sizeof(void *) * 0x9e3779b97f4a7c15 >> 40;
+    for (size_t step = 0; step < kTableSize; ++step) {
+        Entry &entry = table[(start + step) % kTableSize];
+        void *found = entry.counted.load(std::memory_order_acquire);
+        if (!found && entry.counted.compare_exchange_strong(found, counted)) return &entry;
+        if (found == counted) return &entry;
+    }
+    return nullptr;
+}
+
+void add(Class counted, long amount) {
+    if (Entry *entry = entryOf(static_cast<void *>(counted)))
+        entry->live.fetch_add(amount, std::memory_order_relaxed);
+}
+
+} // namespace
+
+extern "C" {
+
+INTERPOSED id NSAllocateObject(Class target, NSUInteger extraBytes, NSZone *zone) {
+    static const auto next =
+        reinterpret_cast<decltype(&NSAllocateObject)>(dlsym(RTLD_NEXT, "NSAllocateObject"));
+    id object = next(target, extraBytes, zone);
+    if (object) add(target, 1);
+    return object;
+}
+
+INTERPOSED void NSDeallocateObject(id object) {
+    static const auto next =
+        reinterpret_cast<decltype(&NSDeallocateObject)>(dlsym(RTLD_NEXT, "NSDeallocateObject"));
+    if (object) add(object_getClass(object), -1);
+    next(object);
+}
+
+} // extern "C"
+
+namespace sim {
+
+namespace {
+
+// Foundation's own of these two have the calls above inlined.
+id allocate(Class self, SEL, NSZone *zone) { return NSAllocateObject(self, 0, zone); }
+void deallocate(id self, SEL) { NSDeallocateObject(self); }
+
+} // namespace
+
+void installCensus() {
+    replaceMethod(object_getClass([NSObject class]), @selector(allocWithZone:),
+                  reinterpret_cast<IMP>(allocate));
+    replaceMethod([NSObject class], @selector(dealloc), reinterpret_cast<IMP>(deallocate));
+}
+
+std::map<std::string, size_t> liveObjects() {
+    std::map<std::string, size_t> result;
+    for (const Entry &entry : table) {
+        long live = entry.live;
+        if (live > 0)
+            result[class_getName(static_cast<Class>(entry.counted.load()))] += static_cast<size_t>(live);
+    }
+    return result;
+}
+
+size_t liveCount(const char *className) {
+    auto counts = liveObjects();
+    auto found = counts.find(className);
+    return found == counts.end() ? 0 : found->second;
+}
+
+} // namespace sim

@@ -1,0 +1,92 @@
+#import <Foundation/Foundation.h>
+
+#include "ClassLayout.hpp"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+namespace sim {
+
+namespace {
+
+std::string canonical(const char *path) {
+    char resolved[PATH_MAX];
+    return path && realpath(path, resolved) ? resolved : "";
+}
+
+template <typename Predicate>
+std::vector<Class> classesWhere(Predicate belongs) {
+    std::vector<Class> all(static_cast<size_t>(objc_getClassList(nullptr, 0)));
+    objc_getClassList(all.data(), static_cast<int>(all.size()));
+    std::erase_if(all, [&](Class candidate) {
+        Dl_info where;
+        // Classes made at run time lie in no file.
+        return !dladdr(reinterpret_cast<const void *>(candidate), &where) || !belongs(where);
+    });
+    std::sort(all.begin(), all.end(),
+              [](Class a, Class b) { return strcmp(class_getName(a), class_getName(b)) < 0; });
+    return all;
+}
+
+std::vector<Ivar> variablesOf(Class owner) {
+    unsigned count = 0;
+    Ivar *list = class_copyIvarList(owner, &count);
+    std::vector<Ivar> result(list, list + count);
+    free(list);
+    return result;
+}
+
+// Where a subclass's variables may begin at the earliest: behind the last variable, for the compiler uses the
+// padding that ends a class. Of a variable that is no plain number or pointer it is only known that it takes
+// a byte.
+size_t contentEnd(Class owner) {
+    if (!owner) return 0;
+    auto variables = variablesOf(owner);
+    if (variables.empty()) return std::max(contentEnd(class_getSuperclass(owner)), sizeof(Class));
+    const char *type = ivar_getTypeEncoding(variables.back());
+    NSUInteger size = 1, alignment = 1;
+    if (type && strchr("@#:^*cCsSiIlLqQfdB", *type)) NSGetSizeAndAlignment(type, &size, &alignment);
+    return static_cast<size_t>(ivar_getOffset(variables.back())) + size;
+}
+
+} // namespace
+
+std::vector<Class> classesOf(const std::string &libraryPath) {
+    std::string wanted = canonical(libraryPath.c_str());
+    if (wanted.empty()) return {};
+    return classesWhere([&](const Dl_info &where) { return canonical(where.dli_fname) == wanted; });
+}
+
+std::vector<Class> classesOfProgram() {
+    Dl_info own;
+    dladdr(reinterpret_cast<const void *>(&classesOfProgram), &own);
+    return classesWhere([&](const Dl_info &where) { return where.dli_fbase == own.dli_fbase; });
+}
+
+std::vector<std::string> brokenLayouts(std::span<const Class> classes) {
+    std::vector<std::string> sentences;
+    for (Class owner : classes) {
+        Class parent = class_getSuperclass(owner);
+        if (!parent) continue;
+        std::string name = class_getName(owner), parentName = class_getName(parent);
+        size_t size = class_getInstanceSize(owner), parentSize = class_getInstanceSize(parent);
+        if (size < parentSize)
+            sentences.push_back(name + " is " + std::to_string(size) + " bytes long, its superclass " +
+                                parentName + " " + std::to_string(parentSize));
+        size_t begin = contentEnd(parent);
+        for (Ivar variable : variablesOf(owner)) {
+            auto offset = static_cast<size_t>(ivar_getOffset(variable));
+            if (offset >= begin) continue;
+            sentences.push_back(name + " keeps " + ivar_getName(variable) + " at byte " +
+                                std::to_string(offset) + ", within its superclass " + parentName +
+                                ", which reaches to byte " + std::to_string(begin));
+        }
+    }
+    return sentences;
+}
+
+} // namespace sim

@@ -1,0 +1,67 @@
+// The ways of finding a class by its name, of the runtime and of Foundation, as the program and every library
+// in it call them: hidden classes are not found.
+#import <Foundation/Foundation.h>
+
+#include "HiddenClasses.hpp"
+
+#include "Availability.hpp"
+
+#include <dlfcn.h>
+
+#include <set>
+#include <string>
+
+#define INTERPOSED __attribute__((visibility("default")))
+
+namespace {
+
+// Classes are looked up before the first constructor has run and after the last destructor; it is made when
+// the first class is hidden and never goes.
+constinit std::set<std::string, std::less<>> *hidden = nullptr;
+
+bool isHidden(const char *name) { return hidden && name && hidden->contains(std::string_view(name)); }
+
+template <typename Function>
+Function *next(Function *, const char *name) {
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+extern "C" {
+
+INTERPOSED Class objc_getClass(const char *name) {
+    static const auto real = next(objc_getClass, "objc_getClass");
+    return isHidden(name) ? Nil : real(name);
+}
+
+INTERPOSED Class objc_lookUpClass(const char *name) {
+    static const auto real = next(objc_lookUpClass, "objc_lookUpClass");
+    return isHidden(name) ? Nil : real(name);
+}
+
+INTERPOSED Class objc_getMetaClass(const char *name) {
+    static const auto real = next(objc_getMetaClass, "objc_getMetaClass");
+    return isHidden(name) ? Nil : real(name);
+}
+
+INTERPOSED Class NSClassFromString(NSString *name) {
+    static const auto real = next(NSClassFromString, "NSClassFromString");
+    return isHidden([name UTF8String]) ? Nil : real(name);
+}
+
+} // extern "C"
+
+namespace sim {
+
+Class findHiddenClass(const char *name) {
+    static const auto real = next(objc_lookUpClass, "objc_lookUpClass");
+    return real(name);
+}
+
+void hideClass(const std::string &name) {
+    if (!hidden) hidden = new std::set<std::string, std::less<>>;
+    hidden->insert(name);
+}
+
+} // namespace sim

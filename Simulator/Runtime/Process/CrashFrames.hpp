@@ -1,0 +1,28 @@
+// The stack at the moment of a crash. All of it may be called in a signal handler.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <sys/ucontext.h>
+
+namespace sim {
+
+// Puts text into a descriptor, byte by byte buffered by the kernel alone.
+class CrashWriter {
+public:
+    explicit CrashWriter(int descriptor) : descriptor_(descriptor) {}
+    CrashWriter &put(const char *text);
+    CrashWriter &putHexadecimal(uintptr_t number);
+
+private:
+    int descriptor_;
+};
+
+// Does beforehand what must not be done in a handler.
+void prepareFrames();
+
+// A line a frame of the code that was interrupted, "frame PATH+0xOFFSET", innermost first. The context is no
+// longer one to go on from.
+void writeFrames(CrashWriter &out, ucontext_t &context);
+
+} // namespace sim

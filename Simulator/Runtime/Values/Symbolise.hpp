@@ -1,0 +1,12 @@
+// Turns the report of a crashed process into something to read.
+#pragma once
+
+#include <string>
+
+namespace sim {
+
+// Lines "frame PATH+0xOFFSET" become "FUNCTION (FILE:LINE) in LIBRARY", as far as the machine's tools find
+// out; other lines, and all of them when there is no such tool, stay as they are.
+std::string symbolise(const std::string &report);
+
+} // namespace sim
