@@ -1,0 +1,59 @@
+#include "Device/Protocol/Descriptors.hpp"
+#include "Device/Protocol/PictureMemory.hpp"
+#include "Render/Renderer.hpp"
+#include "Requests.h"
+#include "Runtime/Files/FoundationFiles.hpp"
+#include "Runtime/Objc/Census.hpp"
+#include "Runtime/Time/Timers.hpp"
+#include "UIKit/Application/ApplicationState.h"
+
+#include <objc/runtime.h>
+
+namespace sim {
+
+namespace {
+
+bool isKind(const std::string &name, Class wanted) {
+    for (Class candidate = objc_lookUpClass(name.c_str()); candidate;
+         candidate = class_getSuperclass(candidate))
+        if (candidate == wanted) return true;
+    return false;
+}
+
+Value counters(const Value &) {
+    FileCounts files = fileCounts();
+    Object live;
+    int64_t views = 0;
+    for (const auto &[name, count] : liveObjects()) {
+        live.emplace(name, count);
+        if (isKind(name, [UIView class])) views += static_cast<int64_t>(count);
+    }
+    return Object{{"settings_reads", files.reads},
+                  {"settings_writes", files.writes},
+                  {"timers", scheduledTimers()},
+                  {"windows", allWindows().size()},
+                  {"views", views},
+                  {"live", live}};
+}
+
+Value resetCounters(const Value &) {
+    resetFileCounts();
+    return {};
+}
+
+// Puts the screen of this moment into the supervisor's picture file.
+Value draw(const Value &) {
+    static render::Renderer renderer;
+    writePicture(kPictureDescriptor, renderer.draw(currentScene()));
+    return {};
+}
+
+} // namespace
+
+std::span<const Request> observingRequests() {
+    static const Request requests[] = {
+        {"counters", counters}, {"reset_counters", resetCounters}, {"draw", draw}};
+    return requests;
+}
+
+} // namespace sim

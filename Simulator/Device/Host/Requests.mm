@@ -1,0 +1,35 @@
+#include "Requests.h"
+
+#include "Runtime/Time/Clock.hpp"
+
+#include <map>
+#include <string>
+
+namespace sim {
+
+namespace {
+
+const std::map<std::string, Request> &requests() {
+    static const std::map<std::string, Request> table = [] {
+        std::map<std::string, Request> all;
+        for (auto family : {bootRequests(), timeRequests(), touchRequests(), lookingRequests(),
+                            homeScreenRequests(), observingRequests()})
+            for (const auto &request : family) all.emplace(request.name, request);
+        return all;
+    }();
+    return table;
+}
+
+} // namespace
+
+Value handleRequest(const Value &name, const Value &arguments) {
+    auto found = requests().find(name.string());
+    if (found == requests().end()) throw BadRequest("unknown request '" + name.string() + "'");
+    @autoreleasepool {
+        Value result = found->second.handle(arguments);
+        Clock::shared().settleNow();
+        return result;
+    }
+}
+
+} // namespace sim

@@ -1,0 +1,15 @@
+// The screen as the person who holds it sees it: upright, however the device is turned.
+#pragma once
+
+#include <UIKit/UIKit.h>
+
+namespace sim {
+
+// Between points seen upright and points of the screen held in portrait, in which windows lie.
+CGPoint fromUpright(CGPoint point);
+CGRect toUpright(CGRect rect);
+
+// The smallest upright rectangle around what the view shows at this moment.
+CGRect presentedOnScreen(UIView *view);
+
+} // namespace sim

@@ -1,0 +1,17 @@
+// Views as plain values.
+#pragma once
+
+#include "Runtime/Values/Value.hpp"
+
+#include <UIKit/UIKit.h>
+
+#include <vector>
+
+namespace sim {
+
+// {"matches": [number], "views": [view]}: the views, and all that lie below them, once each. A view is an
+// object with the fields that scripts know, its "number", and the numbers of its "children". Lengths are
+// rounded to millionths.
+Value snapshot(const std::vector<UIView *> &views);
+
+} // namespace sim

@@ -1,0 +1,34 @@
+// The package that is simulated, as the build describes it: everything that the supervisor knows of it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace sim {
+
+// Where the parts of a build lie.
+struct Installation {
+    std::filesystem::path programs;  // the folder of the simulated processes' programs
+    std::filesystem::path stageRoot; // the installed files, laid out as on the device
+    std::filesystem::path platform;  // pictures of the simulated platform, applications.json
+    std::filesystem::path manifest;  // package.json
+};
+
+// Beside the running program.
+Installation findInstallation();
+
+struct Package {
+    std::string library;            // path on the device
+    std::string settingsFile;       // path on the device
+    std::string statusBarItem;      // identifier
+    std::string activatorListener;  // name
+    std::string otherExtensionList; // the file by which the other extension is known; path on the device
+};
+
+// Throws std::runtime_error naming the file and what is wrong with it.
+Package readPackage(const std::filesystem::path &manifest);
+
+// The whole file. Throws std::runtime_error naming the file.
+std::string readFile(const std::filesystem::path &path);
+
+} // namespace sim

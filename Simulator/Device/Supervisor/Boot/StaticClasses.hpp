@@ -1,0 +1,13 @@
+// Which classes a library names statically, so that it cannot be loaded where they are missing.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace sim {
+
+// Names of the classes, sorted, that the 64-bit ELF library in `file` (its bytes) refers to by symbol and
+// does not define. Throws std::runtime_error when the bytes are no such library.
+std::vector<std::string> staticClasses(const std::string &file);
+
+} // namespace sim

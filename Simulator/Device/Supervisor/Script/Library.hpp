@@ -1,0 +1,25 @@
+// The global functions of scripts, and what the language's own library may do here.
+#pragma once
+
+#include "Binding.hpp"
+
+namespace sim {
+
+// Opens what of the language's library gives the same results on every run: no `os`, `io`, `require` or
+// `debug`; `pairs` and `next` in the order of keys; `tostring`, `print` and `string.format` without
+// addresses; `math.random` seeded; `dofile` relative to the script's folder.
+void openLibrary(lua_State *lua, const ScriptOptions &options);
+
+// `expect`, `expect_eq`, `expect_near`.
+void openExpectations(lua_State *lua);
+
+// `boot`, `each_profile` and the functions that are still to come.
+void openDevices(lua_State *lua);
+
+// Loads the text of a script file without running it. Throws std::runtime_error with file and line.
+void loadScript(lua_State *lua, const std::filesystem::path &file);
+
+// Adds a global function.
+void setGlobal(lua_State *lua, const char *name, lua_CFunction function);
+
+} // namespace sim

@@ -1,0 +1,46 @@
+#include "Conversion.hpp"
+#include "Phone.hpp"
+
+#include <stdexcept>
+
+namespace sim {
+
+namespace {
+
+// phone:set(key, value), where no value removes the key; phone:set{key = value, …}.
+int set(lua_State *lua, Phone &phone, Script &) {
+    Object changes;
+    if (lua_istable(lua, 2)) {
+        if (lua_gettop(lua) > 2) throw std::runtime_error("phone:set takes a key and a value, or one table");
+        Value table = toValue(lua, 2);
+        if (!table.isObject()) throw std::runtime_error("phone:set takes a table with names, not a list");
+        changes = table.object();
+    } else {
+        changes.emplace(text(lua, 2, "the key"), toValue(lua, 3));
+    }
+    phone.device.settings().change(changes);
+    return 0;
+}
+
+int settings(lua_State *lua, Phone &phone, Script &) {
+    std::string problem;
+    auto content = phone.device.settings().read(&problem);
+    if (!problem.empty()) phone.device.warn("the settings file cannot be read: " + problem);
+    push(lua, content ? *content : Value());
+    return 1;
+}
+
+int deleteSettings(lua_State *, Phone &phone, Script &) {
+    phone.device.settings().remove();
+    return 0;
+}
+
+} // namespace
+
+std::span<const Method> settingsMethods() {
+    static const Method methods[] = {
+        {"set", 2, set}, {"settings", 0, settings}, {"delete_settings", 0, deleteSettings}};
+    return methods;
+}
+
+} // namespace sim

@@ -1,0 +1,1 @@
+return { add = function(a, b) return a + b end }, "second"
