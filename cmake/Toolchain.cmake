@@ -43,7 +43,7 @@ target_include_directories(objective_cxx SYSTEM INTERFACE /usr/include/GNUstep)
 target_link_libraries(objective_cxx INTERFACE warnings gnustep-base objc)
 
 if(PENDIX_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize=function -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(PENDIX_COVERAGE)

@@ -33,8 +33,8 @@ void registerClassVersions(std::span<const ClassVersions> rows);
 // already.
 void applyAvailability(Version version);
 
-// From now on nobody in this process finds the class by its name, not even code that names it in its own
-// text: the compiler has that looked up as well.
+// From now on nobody in this process finds the class by its name. Code that names it in its own text, and its
+// subclasses, go on having it.
 void hideClass(const std::string &name);
 
 } // namespace sim

@@ -1,5 +1,6 @@
 // The ways of finding a class by its name, of the runtime and of Foundation, as the program and every library
-// in it call them: hidden classes are not found.
+// in it call them: hidden classes are not found. The language runtime's own look-ups, for superclasses and for
+// classes that code names in its text, find them still.
 #import <Foundation/Foundation.h>
 
 #include "HiddenClasses.hpp"
@@ -26,24 +27,37 @@ Function *next(Function *, const char *name) {
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
+// Whether the caller at `address` is the language runtime itself.
+bool isRuntime(const void *address) {
+    Dl_info caller, runtime;
+    return dladdr(address, &caller) && dladdr(dlsym(RTLD_NEXT, "objc_getClass"), &runtime) &&
+           caller.dli_fbase == runtime.dli_fbase;
+}
+
+#define HIDDEN_FROM_CALLER(name) (isHidden(name) && !isRuntime(__builtin_return_address(0)))
+
 } // namespace
 
 extern "C" {
 
 INTERPOSED Class objc_getClass(const char *name) {
     static const auto real = next(objc_getClass, "objc_getClass");
-    return isHidden(name) ? Nil : real(name);
+    return HIDDEN_FROM_CALLER(name) ? Nil : real(name);
 }
 
 INTERPOSED Class objc_lookUpClass(const char *name) {
     static const auto real = next(objc_lookUpClass, "objc_lookUpClass");
-    return isHidden(name) ? Nil : real(name);
+    return HIDDEN_FROM_CALLER(name) ? Nil : real(name);
 }
 
 INTERPOSED Class objc_getMetaClass(const char *name) {
     static const auto real = next(objc_getMetaClass, "objc_getMetaClass");
-    return isHidden(name) ? Nil : real(name);
+    return HIDDEN_FROM_CALLER(name) ? Nil : real(name);
 }
+
+// What the compiler makes of a class that code names in its text; inside the runtime it is a jump to
+// objc_lookUpClass, which could not tell who asks.
+INTERPOSED Class objc_lookup_class(const char *name) { return sim::findHiddenClass(name); }
 
 INTERPOSED Class NSClassFromString(NSString *name) {
     static const auto real = next(NSClassFromString, "NSClassFromString");

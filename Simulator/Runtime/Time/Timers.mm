@@ -224,9 +224,11 @@ void installTimers() {
     replaceMethod([NSTimer class], @selector(initWithFireDate:interval:target:selector:userInfo:repeats:),
                   reinterpret_cast<IMP>(initTimer));
     replaceMethod([NSRunLoop class], @selector(addTimer:forMode:), reinterpret_cast<IMP>(addTimer));
-    replaceMethod([NSObject class], @selector(performSelector:withObject:afterDelay:),
-                  reinterpret_cast<IMP>(performAfterDelay));
     Class objects = object_getClass([NSObject class]);
+    // Instances, and classes, which answer what instances of the root class do.
+    for (Class target : {[NSObject class], objects})
+        replaceMethod(target, @selector(performSelector:withObject:afterDelay:),
+                      reinterpret_cast<IMP>(performAfterDelay));
     replaceMethod(objects, @selector(cancelPreviousPerformRequestsWithTarget:),
                   reinterpret_cast<IMP>(cancelAllPerforms));
     replaceMethod(objects, @selector(cancelPreviousPerformRequestsWithTarget:selector:object:),
