@@ -31,13 +31,10 @@ target_compile_options(warnings INTERFACE -Wall -Wextra -Werror)
 add_library(objective_cxx INTERFACE)
 target_compile_options(
     objective_cxx
-    INTERFACE $<$<COMPILE_LANGUAGE:OBJCXX>:-fblocks
-              -fobjc-runtime=gcc
-              -fconstant-string-class=NSConstantString
-              -Wundeclared-selector
-              -Wstrict-selector-match
-              -Wobjc-missing-property-synthesis
-              "SHELL:-idirafter ${gcc_include}">)
+    INTERFACE
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:-fblocks;-fobjc-runtime=gcc;-fconstant-string-class=NSConstantString>"
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:-Wundeclared-selector;-Wstrict-selector-match;-Wobjc-missing-property-synthesis>"
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:SHELL:-idirafter ${gcc_include}>")
 target_include_directories(objective_cxx INTERFACE ${CMAKE_SOURCE_DIR}/Platform ${CMAKE_SOURCE_DIR}/Simulator/Runtime/Shim)
 target_include_directories(objective_cxx SYSTEM INTERFACE /usr/include/GNUstep)
 target_link_libraries(objective_cxx INTERFACE warnings gnustep-base objc)

@@ -3,6 +3,7 @@
 
 #include "Runtime/Files/FoundationFiles.hpp"
 #include "Runtime/Objc/Blocks.hpp"
+#include "Runtime/Process/Singletons.hpp"
 #include "Runtime/Time/Timers.hpp"
 #include "UIKit/Application/ApplicationState.h"
 
@@ -10,6 +11,7 @@
 
 int main(int argc, char **argv) {
     sim::installBlocks();
+    sim::makeFoundationSingletons();
     sim::installTimers();
     sim::installPropertyLists();
     sim::installRunLoop();

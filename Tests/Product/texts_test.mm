@@ -13,9 +13,13 @@ std::string text(NSString *string) { return string ? [string UTF8String] : "nil"
 
 class Texts : public testing::Test {
 protected:
+    // As the process was told when it started; nothing is stored.
     void prefer(NSString *language) {
         NSArray *languages = [NSArray arrayWithObjects:language, @"en", nil];
-        [[NSUserDefaults standardUserDefaults] setObject:languages forKey:@"AppleLanguages"];
+        NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+        [defaults removeVolatileDomainForName:NSArgumentDomain];
+        [defaults setVolatileDomain:[NSDictionary dictionaryWithObject:languages forKey:@"AppleLanguages"]
+                            forName:NSArgumentDomain];
     }
 
     void put(const std::string &language, const std::string &table) {

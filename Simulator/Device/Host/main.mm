@@ -7,11 +7,13 @@
 #include "Runtime/Objc/Census.hpp"
 #include "Runtime/Objc/Exceptions.hpp"
 #include "Runtime/Process/Crash.hpp"
+#include "Runtime/Process/Singletons.hpp"
 #include "Session.hpp"
 
 int main() {
     sim::installBlocks();
     sim::installCensus();
+    sim::makeFoundationSingletons();
     sim::installExceptions();
     sim::installCrashHandler(sim::kCrashDescriptor);
     @autoreleasepool {
