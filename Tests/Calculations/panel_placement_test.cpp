@@ -1,5 +1,5 @@
-// The panel stands where a person expects it for every screen, anchor and way of holding the device: on the screen,
-// under the indicator, in the middle or at the lower edge.
+// The panel stands where a person expects it for every screen, anchor and way of holding the device: on the
+// screen, under the indicator, in the middle or at the lower edge.
 #include "Tweak/Core/Geometry/PanelPlacement.hpp"
 
 #include <gtest/gtest.h>
@@ -25,18 +25,40 @@ struct Case {
 TEST(PanelPlacement, StandsWhereItIsExpected) {
     const Case cases[] = {
         {"under the item", {320, 568}, {200, 0, 14, 20}, false, Anchor::item, 96, {32, 30, 256, 96}, 1},
-        {"item near the right end: no bubble", {320, 568}, kItem, false, Anchor::item, 96, {32, 30, 256, 96}, 0},
+        {"item near the right end: no bubble",
+         {320, 568},
+         kItem,
+         false,
+         Anchor::item,
+         96,
+         {32, 30, 256, 96},
+         0},
         {"middle", {375, 667}, kItem, false, Anchor::middle, 97, {37.5, 285, 300, 97}, 0},
-        {"bottom, as far from below as from the side", {375, 667}, kItem, false, Anchor::bottom, 97,
-         {37.5, 532.5, 300, 97}, 0},
-        {"turned: its right end under the item", {320, 568}, {500, 0, 14, 20}, true, Anchor::item, 96,
-         {285, 30, 256, 96}, 1},
+        {"bottom, as far from below as from the side",
+         {375, 667},
+         kItem,
+         false,
+         Anchor::bottom,
+         97,
+         {37.5, 532.5, 300, 97},
+         0},
+        {"turned: its right end under the item",
+         {320, 568},
+         {500, 0, 14, 20},
+         true,
+         Anchor::item,
+         96,
+         {285, 30, 256, 96},
+         1},
         {"turned, middle", {320, 568}, kItem, true, Anchor::middle, 96, {156, 112, 256, 96}, 0},
         {"turned, bottom", {320, 568}, kItem, true, Anchor::bottom, 96, {156, 199, 256, 96}, 0},
     };
     for (const Case &c : cases) {
-        Placement placed = placePanel(
-            {.item = c.item, .screen = c.screen, .landscape = c.landscape, .anchor = c.anchor, .height = c.height});
+        Placement placed = placePanel({.item = c.item,
+                                       .screen = c.screen,
+                                       .landscape = c.landscape,
+                                       .anchor = c.anchor,
+                                       .height = c.height});
         EXPECT_EQ(placed.panel, c.panel) << c.what << ": " << placed.panel.x << " " << placed.panel.y;
         EXPECT_EQ(placed.bubbleAlpha, c.bubbleAlpha) << c.what;
     }
@@ -74,10 +96,10 @@ TEST(PanelPlacement, AnchorFollowsSettingsBeforeReachability) {
         bool reachability;
         Anchor expected;
     } const cases[] = {
-        {false, Position::top, false, Anchor::item},      {false, Position::middle, false, Anchor::item},
-        {false, Position::top, true, Anchor::bottom},     {false, Position::middle, true, Anchor::bottom},
-        {true, Position::top, true, Anchor::item},        {true, Position::middle, true, Anchor::middle},
-        {true, Position::bottom, false, Anchor::bottom},  {true, Position::middle, false, Anchor::middle},
+        {false, Position::top, false, Anchor::item},     {false, Position::middle, false, Anchor::item},
+        {false, Position::top, true, Anchor::bottom},    {false, Position::middle, true, Anchor::bottom},
+        {true, Position::top, true, Anchor::item},       {true, Position::middle, true, Anchor::middle},
+        {true, Position::bottom, false, Anchor::bottom}, {true, Position::middle, false, Anchor::middle},
     };
     for (const auto &c : cases) EXPECT_EQ(anchorFor(c.rech, c.position, c.reachability), c.expected);
 }

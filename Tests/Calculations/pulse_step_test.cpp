@@ -1,5 +1,5 @@
-// The pulse breathes: it goes all the way down and all the way up, for ever, whatever a view does with an alpha
-// above one. A regression shows as an indicator that sticks at full strength or fades away.
+// The pulse breathes: it goes all the way down and all the way up, for ever, whatever a view does with an
+// alpha above one. A regression shows as an indicator that sticks at full strength or fades away.
 #include "Tweak/StatusBar/PulseStep.hpp"
 
 #include <gtest/gtest.h>

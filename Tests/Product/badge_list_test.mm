@@ -1,5 +1,5 @@
-// The list of badged applications: newest change first, nobody twice, nobody hidden. It is the order in which the
-// panel will show them.
+// The list of badged applications: newest change first, nobody twice, nobody hidden. It is the order in which
+// the panel will show them.
 #include "Tweak/Core/HookTable.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/StatusBar/SpringBoard+Badges.h"

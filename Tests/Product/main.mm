@@ -1,4 +1,5 @@
-// The product's units linked into a simulated home screen, without the constructor: a case installs what it needs.
+// The product's units linked into a simulated home screen, without the constructor: a case installs what it
+// needs.
 #import <Foundation/Foundation.h>
 
 #include "Runtime/Files/FoundationFiles.hpp"

@@ -1,4 +1,5 @@
-// Which text a person reads for a key, in which language, and how a label finds its key again. A regression shows as
+// Which text a person reads for a key, in which language, and how a label finds its key again. A regression
+// shows as
 // "(null)" on the screen or a setting stored under the wrong name.
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "Tweak/Core/Translator.h"
@@ -42,8 +43,8 @@ TEST_F(Texts, FollowTheFirstLanguageOnBothSides) {
         NSString *language;
         const char *home, *pane, *paneLanguage;
     } const cases[] = {
-        {@"en", "Close", "Close", "en"},  {@"it", "Chiudi", "Chiudi", "it"}, {@"es", "Cerrar", "Close", "en"},
-        {@"fr", "Close", "Close", "en"},  {@"IT", "Close", "Close", "en"},
+        {@"en", "Close", "Close", "en"}, {@"it", "Chiudi", "Chiudi", "it"}, {@"es", "Cerrar", "Close", "en"},
+        {@"fr", "Close", "Close", "en"}, {@"IT", "Close", "Close", "en"},
     };
     for (const auto &c : cases) {
         prefer(c.language);
@@ -64,7 +65,8 @@ TEST_F(Texts, FallBackToEnglishForAKeyButNotForATable) {
     EXPECT_EQ(text(pendix::Translator(@"nowhere")), "(null)");
 
     std::filesystem::remove(folder() / "en.plist");
-    EXPECT_EQ(text(pendix::Translator(@"nowhere")), "nil") << "without an English table the value comes as it is";
+    EXPECT_EQ(text(pendix::Translator(@"nowhere")), "nil")
+        << "without an English table the value comes as it is";
     put("en", "{ close = Close; }");
     std::filesystem::remove(folder() / "it.plist");
     EXPECT_EQ(text(pendix::Translator(@"close")), "(null)") << "a language without a table";
@@ -78,7 +80,8 @@ TEST_F(Texts, EveryLabelFindsItsKeyAgain) {
         std::filesystem::copy(std::string(LANGUAGES "/") + language + ".plist", folder());
     for (NSString *language in [NSArray arrayWithObjects:@"en", @"it", nil]) {
         prefer(language);
-        for (NSString *key in [NSArray arrayWithObjects:@"enable", @"hide_t", @"b", @"light", @"where", @"passw", nil])
+        for (NSString *key in
+             [NSArray arrayWithObjects:@"enable", @"hide_t", @"b", @"light", @"where", @"passw", nil])
             EXPECT_EQ(text(pendix::pane::getNotTranslated(pendix::pane::Translator(key))), text(key));
     }
     EXPECT_EQ(text(pendix::pane::getNotTranslated(@"no label reads like this")), "(null)");

@@ -1,6 +1,6 @@
 // The ways of finding a class by its name, of the runtime and of Foundation, as the program and every library
-// in it call them: hidden classes are not found. The language runtime's own look-ups, for superclasses and for
-// classes that code names in its text, find them still.
+// in it call them: hidden classes are not found. The language runtime's own look-ups, for superclasses and
+// for classes that code names in its text, find them still.
 #import <Foundation/Foundation.h>
 
 #include "HiddenClasses.hpp"
