@@ -14,6 +14,8 @@ void setSharedApplication(UIApplication *application);
 
 // Windows that are not hidden, back to front: by level, then in the order in which they were shown.
 std::vector<UIWindow *> visibleWindows();
+// The same with those that are hidden.
+std::vector<UIWindow *> windowsBackToFront();
 // All windows in the order in which they were made.
 std::vector<UIWindow *> allWindows();
 

@@ -41,7 +41,7 @@ void installRunLoop() {
 }
 
 - (NSArray *)windows {
-    auto list = sim::allWindows();
+    auto list = sim::windowsBackToFront();
     return [NSArray arrayWithObjects:list.data() count:list.size()];
 }
 

@@ -32,6 +32,13 @@ std::vector<UIWindow *> &windows() {
 
 UIWindow *keyWindow = nil;
 
+// A window that was never shown counts as shown before all others.
+void sortBackToFront(std::vector<UIWindow *> &list) {
+    std::stable_sort(list.begin(), list.end(), [](UIWindow *a, UIWindow *b) {
+        return std::pair(state(a).level, state(a).shown) < std::pair(state(b).level, state(b).shown);
+    });
+}
+
 } // namespace
 
 namespace sim {
@@ -42,9 +49,13 @@ std::vector<UIWindow *> visibleWindows() {
     std::vector<UIWindow *> result;
     std::copy_if(windows().begin(), windows().end(), std::back_inserter(result),
                  [](UIWindow *window) { return ![window isHidden]; });
-    std::stable_sort(result.begin(), result.end(), [](UIWindow *a, UIWindow *b) {
-        return std::pair(::state(a).level, ::state(a).shown) < std::pair(::state(b).level, ::state(b).shown);
-    });
+    sortBackToFront(result);
+    return result;
+}
+
+std::vector<UIWindow *> windowsBackToFront() {
+    auto result = windows();
+    sortBackToFront(result);
     return result;
 }
 

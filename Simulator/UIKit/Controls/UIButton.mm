@@ -158,7 +158,7 @@ CGFloat wholePixels(CGFloat points, CGFloat scale) { return std::round(points * 
     CGSize size = [label sizeThatFits:bounds.size];
     size.width = std::min(size.width, bounds.size.width);
     size.height = std::min(size.height, bounds.size.height);
-    CGFloat scale = [self contentScaleFactor];
+    CGFloat scale = [label contentScaleFactor];
     [label setFrame:{{wholePixels(CGRectGetMidX(bounds) - size.width / 2, scale),
                       wholePixels(CGRectGetMidY(bounds) - size.height / 2, scale)},
                      size}];

@@ -27,6 +27,13 @@ NSString *scaledName(NSString *name, int scale) {
     return [NSString stringWithFormat:@"%@@%dx.%@", stem, scale, extension];
 }
 
+// The file itself, or the one that is meant by a name without extension.
+render::BitmapRef loadPlainBitmap(NSString *path) {
+    auto bitmap = loadBitmap(path);
+    bool bare = [[path pathExtension] length] == 0;
+    return bitmap || !bare ? bitmap : loadBitmap([path stringByAppendingPathExtension:@"png"]);
+}
+
 // The file of the screen's scale when there is one, then the others, then the file itself.
 render::BitmapRef loadBestBitmap(NSString *path) {
     int screen = static_cast<int>(device().scale);
@@ -34,9 +41,9 @@ render::BitmapRef loadBestBitmap(NSString *path) {
         NSString *scaled = scale > 1 ? scaledName(path, scale) : nil;
         if (auto bitmap = scaled ? loadBitmap(scaled) : nullptr) return bitmap;
         if (scale == screen && screen == 1)
-            if (auto bitmap = loadBitmap(path)) return bitmap;
+            if (auto bitmap = loadPlainBitmap(path)) return bitmap;
     }
-    return loadBitmap(path);
+    return loadPlainBitmap(path);
 }
 
 UIImage *imageAt(NSString *path, NSString *source) {
@@ -69,7 +76,8 @@ using sim::state;
 @implementation UIImage
 
 + (UIImage *)imageNamed:(NSString *)name {
-    static std::map<std::string, UIImage *> cache;
+    // For the life of the process.
+    static auto &cache = *new std::map<std::string, UIImage *>;
     if ([name length] == 0) return nil;
     auto found = cache.find([name UTF8String]);
     if (found != cache.end()) return found->second;
@@ -87,7 +95,17 @@ using sim::state;
 
 + (UIImage *)imageWithCGImage:(CGImageRef)reference {
     if (!reference) return nil;
-    return sim::wrap(sim::ImageState{.image = sim::object(reference)});
+    SimCGImage *image = sim::object(reference);
+    if (image->bitmap->scale != 1) {
+        // One point a pixel, whatever the pixels were made for.
+        render::Bitmap pixels = *image->bitmap;
+        pixels.scale = 1;
+        SimCGImage *copy = [[SimCGImage new] autorelease];
+        copy->bitmap = std::make_shared<render::Bitmap>(std::move(pixels));
+        copy->fromContext = image->fromContext;
+        image = copy;
+    }
+    return sim::wrap(sim::ImageState{.image = image});
 }
 
 - (void)dealloc {

@@ -33,6 +33,10 @@ private:
 // The innermost open block; null when there is none or animations are switched off.
 std::shared_ptr<AnimationGroup> openAnimationGroup();
 
+// What a block that is started now goes by: within another it takes that one's duration and curve; while
+// animations are switched off it takes no time.
+Timing timingWithinOpenBlock(Timing own);
+
 // Runs `animations` with a block open; a null group runs them without animation.
 void runAnimations(std::shared_ptr<AnimationGroup> group, void (^animations)(void));
 

@@ -44,6 +44,18 @@ std::shared_ptr<AnimationGroup> openAnimationGroup() {
     return openGroups().empty() ? nullptr : openGroups().back();
 }
 
+Timing timingWithinOpenBlock(Timing own) {
+    if (openGroups().empty()) return own;
+    auto outer = openGroups().back();
+    if (!outer) {
+        own.duration = 0;
+    } else if (outer->timing().duration > 0) {
+        own.duration = outer->timing().duration;
+        own.curve = outer->timing().curve;
+    }
+    return own;
+}
+
 void runAnimations(std::shared_ptr<AnimationGroup> group, void (^animations)(void)) {
     openGroups().push_back(group);
     if (animations) animations();

@@ -31,6 +31,17 @@ void replaceCopied(NSArray *&slot, NSArray *value) {
     [super dealloc];
 }
 
+- (id)presentationLayer {
+    CAGradientLayer *copy = [super presentationLayer];
+    replaceCopied(gradient(copy).colors, [self colors]);
+    if (![self locations]) return copy;
+    NSMutableArray *locations = [NSMutableArray array];
+    for (double location : sim::state(copy).model.gradientLocations)
+        [locations addObject:[NSNumber numberWithDouble:location]];
+    replaceCopied(gradient(copy).locations, locations);
+    return copy;
+}
+
 - (NSArray *)colors {
     return gradient(self).colors;
 }

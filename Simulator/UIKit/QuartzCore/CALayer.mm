@@ -5,6 +5,8 @@
 #include <UIKit/UIView.h>
 
 #include <algorithm>
+#include <cmath>
+#include <initializer_list>
 
 using sim::changeProperty;
 using sim::LayerProperties;
@@ -39,10 +41,16 @@ void replaceRetained(Object *&slot, Object *value) {
     slot = value;
 }
 
+// A place or size that is not a number ends the process, unless somebody catches it.
+void requireNumbers(const char *property, std::initializer_list<CGFloat> numbers) {
+    if (std::any_of(numbers.begin(), numbers.end(), [](CGFloat number) { return std::isnan(number); }))
+        [NSException raise:@"CALayerInvalidGeometry" format:@"CALayer %s contains NaN", property];
+}
+
 void detach(CALayer *layer) {
-    sim::cancelAnimations(layer);
     CALayer *superlayer = state(layer).superlayer;
     if (!superlayer) return;
+    sim::cancelAnimations(layer);
     std::erase(state(superlayer).sublayers, layer);
     state(layer).superlayer = nil;
     [layer autorelease];
@@ -71,6 +79,7 @@ void detach(CALayer *layer) {
     [mine->border release];
     [mine->shadow release];
     [mine->shadowPath release];
+    [mine->values release];
     delete mine;
     [super dealloc];
 }
@@ -90,6 +99,7 @@ void detach(CALayer *layer) {
     return state(self).model.bounds;
 }
 - (void)setBounds:(CGRect)bounds {
+    requireNumbers("bounds", {bounds.origin.x, bounds.origin.y, bounds.size.width, bounds.size.height});
     CGSize before = state(self).model.bounds.size;
     changeProperty(self, "bounds", [&](LayerProperties &model) { model.bounds = bounds; });
     if (!CGSizeEqualToSize(before, bounds.size)) [self setNeedsLayout];
@@ -99,6 +109,7 @@ void detach(CALayer *layer) {
     return state(self).model.position;
 }
 - (void)setPosition:(CGPoint)position {
+    requireNumbers("position", {position.x, position.y});
     changeProperty(self, "position", [&](LayerProperties &model) { model.position = position; });
 }
 
@@ -300,8 +311,7 @@ void detach(CALayer *layer) {
 
 - (id)presentationLayer {
     CALayer *copy = [[[[self class] alloc] init] autorelease];
-    state(copy).model = sim::presented(self);
-    [copy setName:[self name]];
+    sim::copyPresentation(self, copy);
     return copy;
 }
 

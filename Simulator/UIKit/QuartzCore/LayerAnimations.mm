@@ -21,15 +21,17 @@ std::set<uint64_t> &unattached() {
     return layers;
 }
 
+void tellDelegate(CAAnimation *animation, bool finished) {
+    id delegate = [[[animation delegate] retain] autorelease];
+    if ([delegate respondsToSelector:@selector(animationDidStop:finished:)])
+        [delegate animationDidStop:animation finished:finished];
+}
+
 void forget(LayerAnimation &animation, bool finished) {
     Clock::shared().cancel(animation.task);
     if (animation.group) animation.group->remove(finished);
-    if (animation.object) {
-        id delegate = [[[animation.object delegate] retain] autorelease];
-        if ([delegate respondsToSelector:@selector(animationDidStop:finished:)])
-            [delegate animationDidStop:animation.object finished:finished];
-        [animation.object autorelease];
-    }
+    if (!animation.over) tellDelegate(animation.object, finished);
+    [animation.object autorelease];
 }
 
 void removeWhere(CALayer *layer, bool finished, auto &&matches) {
@@ -42,24 +44,33 @@ void removeWhere(CALayer *layer, bool finished, auto &&matches) {
     for (auto &animation : removed) forget(animation, finished);
 }
 
+void end(CALayer *layer, uint64_t serial) {
+    for (auto &animation : state(layer).animations) {
+        if (animation.serial != serial || animation.removedOnCompletion) continue;
+        // Stays in effect as its fill mode says.
+        animation.task = 0;
+        animation.over = true;
+        return tellDelegate([[animation.object retain] autorelease], true);
+    }
+    removeWhere(layer, true, [=](const LayerAnimation &animation) { return animation.serial == serial; });
+}
+
+// Whether animation blocks animate that key path of a view's own layer.
+bool animatesWithViews(std::string_view keyPath) {
+    constexpr std::string_view kAnimated[] = {"bounds", "position", "transform", "opacity",
+                                              "backgroundColor"};
+    return std::find(std::begin(kAnimated), std::end(kAnimated), keyPath) != std::end(kAnimated);
+}
+
 } // namespace
 
 void addAnimation(CALayer *layer, LayerAnimation animation) {
     static uint64_t serial = 0;
     if (!animation.key.empty()) removeAnimations(layer, animation.key);
     animation.serial = ++serial;
-    if (auto end = animation.timing.end()) {
-        animation.task =
-            Clock::shared().schedule(*end, Clock::Phase::animation, [layer, id = animation.serial] {
-                for (auto &candidate : state(layer).animations) {
-                    if (candidate.serial != id || candidate.removedOnCompletion) continue;
-                    // Stays in effect as its fill mode says, but is over.
-                    candidate.task = 0;
-                    return;
-                }
-                removeWhere(layer, true,
-                            [&](const LayerAnimation &candidate) { return candidate.serial == id; });
-            });
+    if (auto due = animation.timing.end()) {
+        animation.task = Clock::shared().schedule(*due, Clock::Phase::animation,
+                                                  [layer, serial = animation.serial] { end(layer, serial); });
     }
     if (animation.group) animation.group->add();
     animatedLayers()[state(layer).number] = layer;
@@ -105,6 +116,7 @@ LayerProperties presented(CALayer *layer) {
 void changeProperty(CALayer *layer, const char *keyPath,
                     const std::function<void(LayerProperties &)> &change) {
     auto group = openAnimationGroup();
+    if (state(layer).view && !animatesWithViews(keyPath)) group = nullptr;
     auto &model = state(layer).model;
     AnimatedValue before = group ? valueAt(model, keyPath) : AnimatedValue{};
     AnimatedValue shown = group ? valueAt(presented(layer), keyPath) : AnimatedValue{};

@@ -26,6 +26,7 @@ struct LayerAnimation {
     AnimatedValue from, to; // an empty end stands for the layer's own value
     Timing timing;
     bool removedOnCompletion = true;
+    bool over = false;                     // has come to its end, but stays in effect
     uint64_t serial = 0;                   // in order of addition
     std::shared_ptr<AnimationGroup> group; // of an animation block; none for an explicit animation
     CAAnimation *object = nil;             // retained; explicit animations only
@@ -45,6 +46,7 @@ struct LayerState {
     NSString *name = nil;
     SimCGColor *background = nil, *border = nil, *shadow = nil; // retained
     SimCGPath *shadowPath = nil;                                // retained
+    NSMutableDictionary *values = nil;                          // retained; under keys that are no property
     std::vector<LayerAnimation> animations;
 };
 
@@ -53,8 +55,12 @@ LayerState &state(CALayer *layer);
 // The model with the animations of this moment applied.
 LayerProperties presented(CALayer *layer);
 
+// Gives a fresh layer what `layer` shows at this moment, its name and its values.
+void copyPresentation(CALayer *layer, CALayer *copy);
+
 // Changes the model through `change`, and animates the key path when an animation block is open and the layer
-// is in a window. Every setter of an animatable property goes through here.
+// is in a window. Every setter of an animatable property goes through here. Of a view's layer, blocks animate
+// place, size, transform, opacity and background; corners, borders and shadows change at once.
 void changeProperty(CALayer *layer, const char *keyPath,
                     const std::function<void(LayerProperties &)> &change);
 

@@ -3,6 +3,7 @@
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UILabel.h>
+#include <UIKit/UIScreen.h>
 
 #include <algorithm>
 #include <cmath>
@@ -45,6 +46,7 @@ CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * sca
 - (instancetype)initWithFrame:(CGRect)frame {
     if (!(self = [super initWithFrame:frame])) return nil;
     [self setUserInteractionEnabled:NO];
+    [self setContentScaleFactor:[[UIScreen mainScreen] scale]];
     [self setOpaque:NO];
     return self;
 }
@@ -127,7 +129,8 @@ CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * sca
     if ([mine.text length] == 0) return;
     render::TextRun run{
         .text = [mine.text UTF8String], .style = style(mine), .color = {}, .pattern = {}, .box = node.bounds};
-    if (mine.shrinks) {
+    // Text of several lines breaks instead.
+    if (mine.shrinks && mine.lines == 1) {
         CGFloat width = render::measureText(run.text, run.style, 0).width;
         if (width > node.bounds.width && width > 0) run.style.size *= node.bounds.width / width;
     }

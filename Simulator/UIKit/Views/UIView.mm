@@ -215,6 +215,7 @@ using sim::state;
                        .autoreverses = (options & UIViewAnimationOptionAutoreverse) != 0,
                        .fill = sim::FillMode::backwards,
                        .curve = curves[options >> 16 & kCurveMask]};
+    timing = sim::timingWithinOpenBlock(timing);
     sim::runAnimations(std::make_shared<sim::AnimationGroup>(timing, completion), animations);
 }
 
