@@ -17,8 +17,16 @@
 
 @protocol LAListener <NSObject>
 @optional
+// The event assigned to the listener. The first form goes before the second; one that sets the event handled
+// keeps the system from acting on it as well.
+- (void)activator:(LAActivator *)activator receiveEvent:(LAEvent *)event forListenerName:(NSString *)name;
 - (void)activator:(LAActivator *)activator receiveEvent:(LAEvent *)event;
+// The event became part of a longer one.
 - (void)activator:(LAActivator *)activator abortEvent:(LAEvent *)event;
+// A press of the home button: who shows something closes it.
+- (void)activator:(LAActivator *)activator receiveDeactivateEvent:(LAEvent *)event;
+// Another listener took its event: who shows something closes it.
+- (void)activator:(LAActivator *)activator otherListenerDidHandleEvent:(LAEvent *)event;
 - (UIImage *)activator:(LAActivator *)activator
     requiresIconForListenerName:(NSString *)name
                           scale:(CGFloat)scale;
@@ -41,7 +49,13 @@
 - (void)registerListener:(id<LAListener>)listener forName:(NSString *)name;
 - (void)unregisterListenerWithName:(NSString *)name;
 - (BOOL)hasListenerWithName:(NSString *)name;
-// Nothing happens when no listener has that name.
+- (id<LAListener>)listenerForName:(NSString *)name;
+@property (nonatomic, readonly) NSArray *availableListenerNames; // sorted
+// YES for a listener that names no modes.
+- (BOOL)listenerWithName:(NSString *)name isCompatibleWithEventMode:(NSString *)mode;
+- (NSString *)localizedTitleForListenerName:(NSString *)name;
+- (NSString *)localizedDescriptionForListenerName:(NSString *)name;
+// Nothing happens when no listener has that name, or it does not go with the event's mode.
 - (void)sendEvent:(LAEvent *)event toListenerWithName:(NSString *)name;
 // "springboard", "application" or "lockscreen".
 @property (nonatomic, readonly) NSString *currentEventMode;

@@ -3,7 +3,7 @@
 
 #include <UIKit/UIView.h>
 
-// States: 0 idle, 1 scanning, 6 ticked.
+// States: 0 idle, 1 scanning, 6 ticked. The completion runs when the drawing has come to rest.
 @interface PKGlyphView : UIView {
 @public
     void *_glyphState;
@@ -14,6 +14,7 @@
 - (void)setState:(NSInteger)state animated:(BOOL)animated completionHandler:(void (^)(void))completion;
 @end
 
+// The ridges of the fingerprint, each a shape layer of which a share from 0 to 1 is in the primary colour.
 @interface PKFingerprintGlyphView : UIView {
 @public
     void *_fingerprintState;

@@ -3,4 +3,5 @@
 #include <QuartzCore/CAAnimation.h>
 #include <QuartzCore/CAGradientLayer.h>
 #include <QuartzCore/CALayer.h>
+#include <QuartzCore/CAShapeLayer.h>
 #include <QuartzCore/CATransform3D.h>

@@ -1,15 +1,26 @@
+// The lock screen: who holds it up, and the controller of what it shows.
 #pragma once
 
 #import <Foundation/Foundation.h>
 #include <UIKit/UIViewController.h>
 
-@interface SBLockScreenViewController : UIViewController {
+@interface SBAlert : UIViewController
+@end
+
+@interface SBLockScreenViewControllerBase : SBAlert
+- (void)prepareForUIUnlock;
+@end
+
+@interface SBLockScreenViewController : SBLockScreenViewControllerBase {
 @public
     void *_lockScreenState;
 }
 - (void)_handleDisplayTurnedOff;
+// The lock screen is about to go.
 - (void)prepareForUIUnlock;
+// It is gone.
 - (void)finishUIUnlockFromSource:(int)source;
+// Asks for the device's passcode, or stops asking.
 - (void)setPasscodeLockVisible:(BOOL)visible
                       animated:(BOOL)animated
               withUnlockSource:(int)source
@@ -31,7 +42,12 @@
     void *_lockManagerState;
 }
 + (instancetype)sharedInstance;
++ (instancetype)sharedInstanceIfExists;
 @property (nonatomic, readonly) BOOL isUILocked;
 - (SBLockScreenViewController *)lockScreenViewController;
+- (void)lockUIFromSource:(int)source withOptions:(id)options;
+// Asks for the passcode first when the device has one.
 - (void)unlockUIFromSource:(int)source withOptions:(id)options;
+// YES, and the lock screen goes, for the right passcode.
+- (BOOL)attemptUnlockWithPasscode:(NSString *)passcode;
 @end

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QuartzCore/QuartzCore.h>
+#include <UIKit/UIAlertView.h>
 #include <UIKit/UIApplication.h>
 #include <UIKit/UIBackdropView.h>
+#include <UIKit/UIBarButtonItem.h>
 #include <UIKit/UIBezierPath.h>
 #include <UIKit/UIColor.h>
 #include <UIKit/UIControl.h>
@@ -12,9 +14,17 @@
 #include <UIKit/UIImage.h>
 #include <UIKit/UIImageView.h>
 #include <UIKit/UILabel.h>
+#include <UIKit/UINavigationController.h>
+#include <UIKit/UIPageControl.h>
+#include <UIKit/UIPageViewController.h>
 #include <UIKit/UIScreen.h>
 #include <UIKit/UIScrollView.h>
+#include <UIKit/UISegmentedControl.h>
 #include <UIKit/UIStatusBar.h>
+#include <UIKit/UISwitch.h>
+#include <UIKit/UITableView.h>
+#include <UIKit/UITableViewCell.h>
+#include <UIKit/UITextField.h>
 #include <UIKit/UITouch.h>
 #include <UIKit/UIViewController.h>
 #include <UIKit/UIWindow.h>

@@ -2,7 +2,7 @@
 // Everything acts at once, on the main thread, and returns when the platform's own methods have run.
 #pragma once
 
-#include "PlatformFiles.hpp"
+#include "Runtime/Files/PlatformFiles.hpp"
 #include "Runtime/Values/Value.hpp"
 
 #include <UIKit/UIKit.h>
@@ -46,9 +46,22 @@ void launchHomeScreen();
 bool setBadge(const std::string &identifier, int value);
 // Brings an application to the front. false when there is no such application.
 bool openApplication(const std::string &identifier);
-// Back to the home screen, as one click of the home button does without anything else on the screen.
+// One click, and a double one that no single click goes before. On a dark device they turn the display on.
 void clickHomeButton();
+void clickHomeButtonTwice();
+// nothing while the home screen or the lock screen is in front.
 std::optional<std::string> foregroundApplication();
+
+// Turning the display off locks the device, which shows the lock screen when it is on again.
+void setDisplay(bool on);
+// The button at the device's edge: off, or on again.
+void pressLockButton();
+// Out of the lock screen, with the passcode if there is one. Nothing happens while it is not to be seen.
+void unlockDevice();
+// A notification's banner slides in; the text is the message of the first application that has messages.
+void presentBanner(const std::string &text);
+// An event of the fingerprint sensor; see Platform/BiometricKit. false on a device without a sensor.
+bool sendFingerEvent(unsigned event);
 // The switcher's list, most recent first.
 std::vector<std::string> switcherApplications();
 // nil when the application has no icon on the home screen.

@@ -15,6 +15,10 @@
 
 #include <algorithm>
 
+@interface SpringBoard (HomeButton)
+- (void)handleMenuDoubleTap;
+@end
+
 namespace sim {
 
 namespace {
@@ -36,7 +40,8 @@ bool listed(const std::vector<ApplicationSpec> &applications, const std::string 
 
 void prepareHomeScreen(const HomeScreenOptions &options) {
     specs() = options.applications;
-    lockState().passcode = options.passcode;
+    lockState().passcode = options.passcode || options.passcodeLocked;
+    lockState().screenLocked = lockState().passcodeLocked = options.passcodeLocked;
     installColorBadges(options);
     for (const auto &spec : specs()) installApplication(spec);
     if (!listed(specs(), kWebViewService))
@@ -76,12 +81,23 @@ bool openApplication(const std::string &identifier) {
     return application != nil;
 }
 
+// A press on a dark device wakes it and does no more.
 void clickHomeButton() {
+    if (!displayIsOn()) return turnDisplay(true);
     if (!sendActivatorDeactivateEvent()) [[SBUIController sharedInstance] clickedMenuButton];
 }
 
+void clickHomeButtonTwice() {
+    if (!displayIsOn()) return turnDisplay(true);
+    [static_cast<SpringBoard *>([UIApplication sharedApplication]) handleMenuDoubleTap];
+}
+
+void setDisplay(bool on) { turnDisplay(on); }
+void pressLockButton() { turnDisplay(!displayIsOn()); }
+void unlockDevice() { unlockByPerson(); }
+
 std::optional<std::string> foregroundApplication() {
-    SBApplication *front = frontApplication();
+    SBApplication *front = lockState().screenLocked ? nil : frontApplication();
     return front ? std::optional(record(front).identifier) : std::nullopt;
 }
 

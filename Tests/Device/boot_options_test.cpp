@@ -77,7 +77,6 @@ TEST(BootOptions, RefusalsSayWhatToChange) {
         {{{"apps", Array{Object{{"id", "x"}, {"badge", -1}}}}}, "must not be negative"},
         {{{"apps", Array{Object{{"id", "x"}}, Object{{"id", "x"}}}}}, "apps[2]: 'x' is listed twice"},
         {{{"color_badges", Object{{"border", true}}}}, "did you mean 'borders'?"},
-        {{{"passcode_locked", true}}, "not simulated yet"},
         {{{"color_badges", true}, {"passcod", true}}, "did you mean 'passcode'?"},
     };
     for (const auto &test : cases) {

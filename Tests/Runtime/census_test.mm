@@ -64,6 +64,8 @@ TEST(Census, ReturnsToWhereItWasForFoundationsClasses) {
         {"mutable array", [] { return [NSMutableArray arrayWithObject:@"a"]; }},
         {"dictionary", [] { return [NSDictionary dictionaryWithObject:@"a" forKey:@"b"]; }},
         {"mutable dictionary", [] { return [[[NSDictionary dictionary] mutableCopy] autorelease]; }},
+        {"array made immutable",
+         [] { return [[NSFileManager defaultManager] contentsOfDirectoryAtPath:@"/" error:nullptr]; }},
         {"set", [] { return [NSSet setWithObject:@"a"]; }},
         {"data", [] { return [NSData dataWithBytes:"abc" length:3]; }},
         {"date", [] { return [NSDate date]; }},

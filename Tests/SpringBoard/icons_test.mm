@@ -2,7 +2,7 @@
 // applications without a drawing of their own can be told by the placeholder's pixels.
 #include "Harness.h"
 
-#include "SpringBoard/Icons/IconColors.hpp"
+#include "UIKit/Images/IconColors.hpp"
 #include "UIKit/Images/ImageState.h"
 
 #include <UIKit/UIKit.h>
@@ -71,6 +71,7 @@ TEST(Icons, AreRoundedImagesAtTheScreensScale) {
 TEST(Icons, OnTabletsAreLarger) {
     harness::boot(harness::profile("iPad 2"));
     EXPECT_EQ([SBIconView defaultIconSize].width, 76);
+    EXPECT_GT([SBIconView defaultIconSize].height, 76) << "with room for the label";
     EXPECT_EQ([[[harness::iconView("org.example.1") _iconImageView] contentsImage] size].width, 76);
 }
 

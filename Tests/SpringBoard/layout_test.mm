@@ -17,14 +17,16 @@ struct Case {
 const Case kCases[] = {{"iPhone 4S", 4, 60},     {"iPhone 5", 5, 60}, {"iPhone 6", 6, 60},
                        {"iPhone 6 Plus", 6, 60}, {"iPad 2", 5, 76},   {"iPad Air", 5, 76}};
 
+// Upright, or on its side.
+sim::HomeLayout layoutOf(const sim::Device &device, bool turned = false) {
+    return sim::homeLayout(device.pad, turned ? render::Size{device.height, device.width}
+                                              : render::Size{device.width, device.height});
+}
+
 class Layout : public testing::TestWithParam<Case> {};
 
-} // namespace
-
-TEST_P(Layout, KeepsThingsApart) {
-    sim::HomeLayout layout = sim::homeLayout(harness::profile(GetParam().device));
-    EXPECT_EQ(layout.rows, GetParam().rows);
-    EXPECT_EQ(layout.icon, GetParam().icon);
+void keepsThingsApart(const sim::HomeLayout &layout, double icon) {
+    EXPECT_EQ(layout.icon, icon);
     constexpr double kStatusBar = 20, kLabel = 20, kDots = 7, kBadge = 10;
     auto first = layout.iconFrame(0), last = layout.iconFrame(layout.perPage() - 1);
     EXPECT_GE(first.y - kBadge, kStatusBar - 5) << "badges may touch the status bar, no more";
@@ -32,7 +34,7 @@ TEST_P(Layout, KeepsThingsApart) {
     EXPECT_LE(last.x + last.width + kBadge, layout.screen.width);
     for (size_t i = 1; i < layout.perPage(); ++i) {
         auto before = layout.iconFrame(i - 1), frame = layout.iconFrame(i);
-        if (i % 4) {
+        if (i % static_cast<size_t>(layout.columns)) {
             EXPECT_GE(frame.x - before.x - before.width, 15);
         } else {
             EXPECT_GE(frame.y - before.y - before.height, kLabel + 5);
@@ -48,9 +50,20 @@ TEST_P(Layout, KeepsThingsApart) {
     }
 }
 
+} // namespace
+
+TEST_P(Layout, KeepsThingsApart) {
+    auto device = harness::profile(GetParam().device);
+    EXPECT_EQ(layoutOf(device).rows, GetParam().rows);
+    for (bool turned : {false, true}) {
+        SCOPED_TRACE(turned ? "on its side" : "upright");
+        keepsThingsApart(layoutOf(device, turned), GetParam().icon);
+    }
+}
+
 TEST_P(Layout, PlacesTheViews) {
     auto device = harness::profile(GetParam().device);
-    harness::boot(device, harness::applications(sim::homeLayout(device).columns * GetParam().rows + 3));
+    harness::boot(device, harness::applications(layoutOf(device).columns * GetParam().rows + 3));
     SBIconView *first = harness::iconView("org.example.1"),
                *dock = harness::iconView("com.apple.mobilephone");
     EXPECT_EQ([first frame].size.width, GetParam().icon);

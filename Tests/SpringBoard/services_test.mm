@@ -12,6 +12,7 @@
 @public
     std::vector<std::string> *_received;
     BOOL _swallows;
+    NSArray *_modes; // not retained; nil: any
 }
 @end
 
@@ -19,6 +20,16 @@
 
 - (void)activator:(LAActivator *)activator receiveEvent:(LAEvent *)event {
     _received->push_back("event in " + harness::text([event mode]));
+    [event setHandled:_swallows];
+}
+
+- (void)activator:(LAActivator *)activator otherListenerDidHandleEvent:(LAEvent *)event {
+    _received->push_back("another's event");
+}
+
+- (NSArray *)activator:(LAActivator *)activator
+    requiresCompatibleEventModesForListenerWithName:(NSString *)name {
+    return _modes;
 }
 
 - (void)activator:(LAActivator *)activator receiveDeactivateEvent:(LAEvent *)event {
@@ -62,6 +73,37 @@ TEST(Activator, SendsEventsToTheListenerByName) {
     harness::wait(1);
     EXPECT_FALSE(sim::foregroundApplication());
     EXPECT_EQ(received, (Lines{"event in springboard", "event in application", "home", "home"}));
+}
+
+TEST(Activator, KeepsToTheModesOfAListenerAndTellsTheOthers) {
+    harness::boot();
+    Lines received, others;
+    TestListener *listener = [[TestListener new] autorelease], *other = [[TestListener new] autorelease];
+    listener->_received = &received;
+    other->_received = &others;
+    LAActivator *activator = [LAActivator sharedInstance];
+    [activator registerListener:other forName:@"org.example.Another"];
+    [activator registerListener:listener forName:@"org.example.Listener"];
+    NSArray *names = [NSArray arrayWithObjects:@"org.example.Another", @"org.example.Listener", nil];
+    EXPECT_TRUE([[activator availableListenerNames] isEqual:names]);
+    EXPECT_EQ([activator listenerForName:@"org.example.Another"], other);
+    EXPECT_EQ(harness::text([activator localizedTitleForListenerName:@"org.example.Another"]),
+              "org.example.Another");
+    listener->_modes = [NSArray arrayWithObjects:@"application", @"lockscreen", nil];
+    EXPECT_TRUE(sim::sendActivatorEvent("org.example.Listener"));
+    EXPECT_EQ(received, Lines{}) << "not on the home screen";
+    sim::setDisplay(false);
+    sim::setDisplay(true);
+    sim::sendActivatorEvent("org.example.Listener");
+    EXPECT_EQ(received, Lines{"event in lockscreen"});
+    EXPECT_EQ(others, Lines{}) << "it was not handled";
+    listener->_swallows = YES;
+    sim::sendActivatorEvent("org.example.Listener");
+    EXPECT_EQ(others, Lines{"another's event"});
+    [activator unregisterListenerWithName:@"org.example.Listener"];
+    EXPECT_FALSE(sim::sendActivatorEvent("org.example.Listener"));
+    EXPECT_FALSE([activator listenerWithName:@"org.example.Listener"
+                   isCompatibleWithEventMode:@"application"]);
 }
 
 TEST(Biometrics, TellOfObserversAndMatching) {

@@ -1,34 +1,14 @@
 // Proves that a finger on the home screen does what it does on a phone: opens, pages, folders.
-#include "Harness.h"
-
-#include "UIKit/Touch/TouchInput.h"
+#include "Fingers.h"
 
 #include <UIKit/UIKit.h>
 
+using harness::middle;
+using harness::tap;
+
 namespace {
 
-void tap(CGPoint point) {
-    sim::touchBegan(1, point);
-    harness::wait(0.1);
-    sim::touchEnded(1);
-    harness::wait(0.5);
-}
-
-void swipe(CGPoint from, CGFloat dx) {
-    constexpr int kSamples = 9;
-    sim::touchBegan(1, from);
-    for (int i = 1; i <= kSamples; ++i) {
-        harness::wait(1.0 / 60);
-        sim::touchMoved(1, CGPointMake(from.x + dx * i / kSamples, from.y));
-    }
-    sim::touchEnded(1);
-    harness::wait(2);
-}
-
-CGPoint middle(UIView *view) {
-    CGRect frame = [view convertRect:[view bounds] toView:nil];
-    return {CGRectGetMidX(frame), CGRectGetMidY(frame)};
-}
+void swipe(CGPoint from, CGFloat dx) { harness::swipe(from, dx, 0); }
 
 } // namespace
 

@@ -1,44 +1,15 @@
 // From a bare process to a home screen that has finished launching.
+#include "BootDevice.h"
 #include "ExtensionLoader.h"
 #include "Requests.h"
-#include "Session.hpp"
 
-#include "Runtime/Files/FoundationFiles.hpp"
-#include "Runtime/Files/Sandbox.hpp"
-#include "Runtime/Objc/Availability.hpp"
-#include "Runtime/Process/Device.hpp"
-#include "Runtime/Process/Events.hpp"
 #include "Runtime/Process/Interposed.hpp"
-#include "Runtime/Time/Clock.hpp"
-#include "Runtime/Time/Timers.hpp"
 #include "SpringBoard/Applications/Applications.h"
 #include "SpringBoard/HomeScreen.h"
-#include "UIKit/Application/ApplicationState.h"
 
 namespace sim {
 
 namespace {
-
-void setDevice(const Value &profile) {
-    const auto &version = profile["version"].string();
-    device() = {.name = profile["name"].string(),
-                .machine = profile["machine"].string(),
-                .width = profile["width"].number(),
-                .height = profile["height"].number(),
-                .scale = profile["scale"].number(),
-                .pad = profile["pad"].boolean(),
-                .touchSensor = profile["touch_sensor"].boolean(),
-                .reachability = profile["reachability"].boolean(),
-                .version = {std::stoi(version), std::stoi(version.substr(version.find('.') + 1))},
-                .language = profile["language"].string()};
-}
-
-void setTime(const Value &message) {
-    Clock::shared().start(message["now"].integer());
-    setEventEpoch(0);
-    setWallClock(message["wall_clock"].number());
-    publishTime(Clock::shared().now());
-}
 
 HomeScreenOptions homeScreenOptions(const Value &message) {
     HomeScreenOptions options;
@@ -61,14 +32,6 @@ HomeScreenOptions homeScreenOptions(const Value &message) {
     return options;
 }
 
-void hideClasses(const Array &names) {
-    for (const auto &name : names) {
-        if (!objc_lookUpClass(name.string().c_str()))
-            recordWarning("no class '" + name.string() + "' to hide");
-        hideClass(name.string());
-    }
-}
-
 bool isRunning(int process) {
     for (SBApplication *application : installedApplications())
         if (record(application).pid == process) return true;
@@ -82,18 +45,8 @@ bool passSignal(int process, int number) {
 }
 
 Value boot(const Value &message) {
-    setSandboxRoot(message["root"].string());
-    setPlatformFolder(message["platform"].string());
-    setDevice(message["device"]);
-    setTime(message);
-    installTimers();
-    installRunLoop();
-    installPropertyLists();
-    watchFile(message["count_reads_of"].string());
-    onRespringRequest(askForRespring);
+    bootDevice(message);
     onSignal(passSignal);
-    applyAvailability(device().version);
-    hideClasses(message["hide_classes"].array());
     prepareHomeScreen(homeScreenOptions(message));
     if (message["load_extensions"].boolean()) loadExtensions("com.apple.springboard", "SpringBoard");
     launchHomeScreen();

@@ -11,4 +11,7 @@ namespace sim {
 // platform's.
 void loadExtensions(const std::string &bundle, const std::string &executable);
 
+// Loads one library by its path on the device. Throws BadRequest likewise.
+void loadLibrary(const std::string &devicePath);
+
 } // namespace sim

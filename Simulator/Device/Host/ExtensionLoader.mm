@@ -48,6 +48,12 @@ void load(const fs::path &library) {
 
 } // namespace
 
+void loadLibrary(const std::string &devicePath) {
+    fs::path library = resolvePath(devicePath);
+    if (!fs::exists(library)) throw BadRequest("there is no " + devicePath);
+    load(library);
+}
+
 void loadExtensions(const std::string &bundle, const std::string &executable) {
     for (const auto &path : filters()) {
         auto bytes = readWholeFile(path);

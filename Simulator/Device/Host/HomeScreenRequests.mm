@@ -1,6 +1,7 @@
 #include "MethodCall.h"
 #include "Requests.h"
 #include "SpringBoard/HomeScreen.h"
+#include "SpringBoard/System/Interface.h"
 #include "ViewSearch.h"
 
 namespace sim {
@@ -24,6 +25,15 @@ Value restyle(const Value &) {
     restyleStatusBar();
     return {};
 }
+
+// {"orientation": 1 to 4}
+Value rotate(const Value &arguments) {
+    turnDevice(static_cast<UIInterfaceOrientation>(arguments["orientation"].integer()));
+    return {};
+}
+
+// {"on"}: false on a device without it.
+Value reachability(const Value &arguments) { return setReachability(arguments["on"].boolean()); }
 
 // {"listener": name}: false when none has it.
 Value activator(const Value &arguments) { return sendActivatorEvent(arguments["listener"].string()); }
@@ -54,6 +64,7 @@ Value call(const Value &arguments) {
 std::span<const Request> homeScreenRequests() {
     static const Request requests[] = {{"badge", badge},         {"run", run},
                                        {"home", home},           {"restyle", restyle},
+                                       {"rotate", rotate},       {"reachability", reachability},
                                        {"activator", activator}, {"foreground", foreground},
                                        {"switcher", switcher},   {"call", call}};
     return requests;

@@ -5,6 +5,7 @@
 
 #include <span>
 #include <stdexcept>
+#include <vector>
 
 namespace sim {
 
@@ -20,13 +21,22 @@ struct Request {
     Value (*handle)(const Value &arguments);
 };
 
-std::span<const Request> bootRequests();    // boot
-std::span<const Request> timeRequests();    // advance, busy
-std::span<const Request> touchRequests();   // touch_down, touch_move, touch_up
-std::span<const Request> lookingRequests(); // find, view, windows, icon, indicator
-std::span<const Request>
-homeScreenRequests(); // badge, run, home, restyle, activator, foreground, switcher, call
+std::span<const Request> timeRequests();      // advance, busy
+std::span<const Request> touchRequests();     // touch_down, touch_move, touch_up
+std::span<const Request> lookingRequests();   // find, view, windows
 std::span<const Request> observingRequests(); // counters, reset_counters, draw
+
+// What one kind of process answers besides; each program has its own.
+std::vector<std::span<const Request>> ownRequests();
+// What its every reply says besides.
+void addOwnState(Object &reply);
+
+// Of the home screen:
+std::span<const Request> bootRequests();              // boot
+std::span<const Request> homeScreenLookingRequests(); // icon, indicator
+std::span<const Request> homeScreenRequests(); // badge, run, home, restyle, rotate, reachability, activator,
+                                               // foreground, switcher, call
+std::span<const Request> lockRequests();       // display, lock, unlock, home_twice, banner, finger
 
 // Carries out the request, and what is due at this moment after it.
 Value handleRequest(const Value &name, const Value &arguments);

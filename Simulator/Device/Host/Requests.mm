@@ -12,8 +12,10 @@ namespace {
 const std::map<std::string, Request> &requests() {
     static const std::map<std::string, Request> table = [] {
         std::map<std::string, Request> all;
-        for (auto family : {bootRequests(), timeRequests(), touchRequests(), lookingRequests(),
-                            homeScreenRequests(), observingRequests()})
+        auto families = ownRequests();
+        for (auto family : {timeRequests(), touchRequests(), lookingRequests(), observingRequests()})
+            families.push_back(family);
+        for (auto family : families)
             for (const auto &request : family) all.emplace(request.name, request);
         return all;
     }();

@@ -7,6 +7,8 @@
 #include "Runtime/Process/Events.hpp"
 #include "Runtime/Time/Clock.hpp"
 
+#include <utility>
+
 namespace sim {
 
 namespace {
@@ -24,7 +26,8 @@ Value answer(const Value &request) {
     auto next = Clock::shared().next();
     reply.emplace("now", Clock::shared().now());
     reply.emplace("next", next ? Value(*next) : Value());
-    if (respring) reply.emplace("respring", true);
+    if (std::exchange(respring, false)) reply.emplace("respring", true);
+    addOwnState(reply);
     return reply;
 }
 

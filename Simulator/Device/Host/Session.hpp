@@ -8,7 +8,7 @@ namespace sim {
 // Answers requests until the supervisor hangs up.
 void serve();
 
-// The home screen is to be started anew: said with the next answer.
+// The home screen is to be started anew: said with the next answer, and then done with.
 void askForRespring();
 bool respringAsked();
 

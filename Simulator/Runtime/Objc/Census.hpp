@@ -11,8 +11,9 @@ namespace sim {
 // which belongs to the beginning of main().
 void installCensus();
 
-// By class name, without the classes that have none. An object that changed its class while it lived is taken
-// off the class that it had at its end; a count never shows below zero.
+// By class name, without the classes that have none. Foundation's mutable collections count with the
+// immutable ones, which they may become ("GSArray" for both). Any other object that changed its class while
+// it lived is taken off the class that it had at its end; a count never shows below zero.
 std::map<std::string, size_t> liveObjects();
 
 // Of that very class, without subclasses.

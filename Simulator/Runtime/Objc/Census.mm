@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <string_view>
 
 #define INTERPOSED __attribute__((visibility("default")))
 
@@ -67,6 +68,13 @@ namespace {
 id allocate(Class self, SEL, NSZone *zone) { return NSAllocateObject(self, 0, zone); }
 void deallocate(id self, SEL) { NSDeallocateObject(self); }
 
+// Foundation turns some of its mutable collections into immutable ones where they lie.
+std::string countedName(Class counted) {
+    std::string name = class_getName(counted);
+    constexpr std::string_view kMutable = "GSMutable";
+    return name.starts_with(kMutable) ? "GS" + name.substr(kMutable.size()) : name;
+}
+
 } // namespace
 
 void installCensus() {
@@ -76,12 +84,12 @@ void installCensus() {
 }
 
 std::map<std::string, size_t> liveObjects() {
+    std::map<std::string, long> sums;
+    for (const Entry &entry : table)
+        if (long live = entry.live) sums[countedName(static_cast<Class>(entry.counted.load()))] += live;
     std::map<std::string, size_t> result;
-    for (const Entry &entry : table) {
-        long live = entry.live;
-        if (live > 0)
-            result[class_getName(static_cast<Class>(entry.counted.load()))] += static_cast<size_t>(live);
-    }
+    for (const auto &[name, live] : sums)
+        if (live > 0) result[name] = static_cast<size_t>(live);
     return result;
 }
 

@@ -5,6 +5,7 @@
 #include "Runtime/Process/Events.hpp"
 #include "SpringBoard/Home/FolderOverlay.h"
 #include "SpringBoard/Switcher/SwitcherModel.h"
+#include "SpringBoard/Switcher/SwitcherScreen.h"
 
 #include <utility>
 
@@ -29,6 +30,7 @@ void launch(SBApplication *application, bool suspended) {
         [before willAnimateDeactivation:YES];
     }
     closeFolder(false);
+    closeSwitcher(true);
     showApplicationWindow(application);
     if ([application respondsToSelector:@selector(didActivate)]) [application didActivate];
 }

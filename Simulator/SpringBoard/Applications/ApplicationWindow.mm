@@ -2,11 +2,14 @@
 
 #include "ApplicationScreen.h"
 #include "Applications.h"
+#include "Runtime/Process/Device.hpp"
 #include "Runtime/Time/Clock.hpp"
 #include "SpringBoard/Home/HomeViews.h"
+#include "SpringBoard/Icons/IconImages.h"
 #include "SpringBoard/Icons/Icons.h"
+#include "SpringBoard/Lock/LockState.h"
+#include "SpringBoard/System/BarStyle.h"
 #include "UIKit/Application/ApplicationState.h"
-#include "UIKit/StatusBar/StatusBarState.h"
 
 #include <UIKit/UIKit.h>
 
@@ -17,11 +20,14 @@ constexpr NSTimeInterval kZoomDuration = 0.4, kFadeDuration = 0.15;
 UIWindow *front = nil; // retained
 
 UIWindow *makeWindow(SBApplication *application) {
-    UIWindow *window = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
+    UIWindow *window =
+        [[UIWindow alloc] initWithFrame:CGRectMake(0, 0, sim::device().width, sim::device().height)];
+    sim::fillInterface(window);
     sim::setRole(window, sim::WindowRole::application);
     [window setClipsToBounds:YES];
     ApplicationScreenView *screen = [[ApplicationScreenView alloc] initWithFrame:[window bounds]];
     screen->_application = application;
+    [screen setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];
     [window addSubview:screen];
     [screen release];
     return window;
@@ -34,27 +40,27 @@ void shrink(UIWindow *window, SBApplication *application) {
     CGRect screen = [window bounds];
     CGPoint middle = {CGRectGetMidX(screen), CGRectGetMidY(screen)};
     CGRect icon = CGRectMake(middle.x, middle.y, 0, 0);
-    icon.size = [SBIconView defaultIconSize];
-    icon = CGRectOffset(icon, -icon.size.width / 2, -icon.size.height / 2);
-    if (iconView) icon = [iconView convertRect:[iconView bounds] toView:nil];
+    icon = CGRectInset(icon, -sim::iconSide() / 2, -sim::iconSide() / 2);
+    SBIconImageView *image = [iconView _iconImageView];
+    if (image) icon = [image convertRect:[image bounds] toView:nil];
     CGFloat factor = icon.size.width / screen.size.width;
     CGAffineTransform place =
         CGAffineTransformMakeTranslation(CGRectGetMidX(icon) - middle.x, CGRectGetMidY(icon) - middle.y);
-    [window setTransform:CGAffineTransformConcat(CGAffineTransformMakeScale(factor, factor), place)];
+    CGAffineTransform onIcon = CGAffineTransformConcat(CGAffineTransformMakeScale(factor, factor), place);
+    [window setTransform:CGAffineTransformConcat(onIcon, sim::interfaceTransform())];
     [[window layer] setCornerRadius:sim::kIconCornerRatio * screen.size.width];
 }
 
 void fill(UIWindow *window) {
-    [window setTransform:CGAffineTransformIdentity];
+    sim::fillInterface(window);
     [[window layer] setCornerRadius:0];
 }
 
 // Half way through the zoom the larger part of the bar lies over what comes.
 void styleStatusBar() {
     sim::Clock &clock = sim::Clock::shared();
-    clock.schedule(clock.now() + sim::fromSeconds(kZoomDuration / 2), sim::Clock::Phase::animation, [] {
-        sim::setStatusBarStyle(front ? sim::StatusBarStyle::darkContent : sim::StatusBarStyle::lightContent);
-    });
+    clock.schedule(clock.now() + sim::fromSeconds(kZoomDuration / 2), sim::Clock::Phase::animation,
+                   sim::updateStatusBarStyle);
 }
 
 void close(UIWindow *window) {
@@ -67,12 +73,18 @@ void close(UIWindow *window) {
 
 namespace sim {
 
+UIWindow *frontApplicationWindow() { return front; }
+void focusFrontWindow() {
+    if (!lockState().screenLocked) [(front ? front : homeWindow()) makeKeyWindow];
+}
+
 void showApplicationWindow(SBApplication *application) {
     UIWindow *below = front, *window = makeWindow(application);
     front = window;
     shrink(window, application);
     [window setAlpha:0];
-    [window makeKeyAndVisible];
+    [window setHidden:NO];
+    focusFrontWindow();
     [UIView animateWithDuration:kFadeDuration animations:^{ [window setAlpha:1]; }];
     [UIView animateWithDuration:kZoomDuration
         animations:^{ fill(window); }
@@ -83,7 +95,7 @@ void showApplicationWindow(SBApplication *application) {
 void hideApplicationWindow(SBApplication *application) {
     UIWindow *window = front;
     front = nil;
-    [homeWindow() makeKeyWindow];
+    focusFrontWindow();
     [UIView animateWithDuration:kZoomDuration
         animations:^{ shrink(window, application); }
         completion:^(BOOL) { close(window); }];

@@ -43,8 +43,9 @@ UIView *makePanel(SBIcon *icon, const sim::HomeLayout &layout) {
     for (size_t i = 0; i < icons.size(); ++i) {
         SBIconView *view = [[SBIconViewMap homescreenMap] iconViewForIcon:icons[i]];
         auto column = static_cast<CGFloat>(i % kAcross), row = static_cast<CGFloat>(i / kAcross);
-        [view setCenter:CGPointMake(kMargin + layout.icon / 2 + column * layout.across,
-                                    kMargin + layout.icon / 2 + row * layout.down)];
+        CGSize size = [SBIconView defaultIconSize];
+        [view setFrame:CGRectMake(kMargin + column * layout.across, kMargin + row * layout.down, size.width,
+                                  size.height)];
         [panel addSubview:view];
     }
     return panel;
@@ -81,7 +82,7 @@ void openFolder(SBIconView *folderView) {
     UIWindow *window = homeWindow();
     overlay = [[SBFolderContainerView alloc] initWithFrame:[window bounds]];
     UIView *blur = makeGlass([window bounds], kDark, 0.35, [UIColor colorWithWhite:0 alpha:0.6]);
-    UIView *panel = makePanel(openIcon, homeLayout(device()));
+    UIView *panel = makePanel(openIcon, currentHomeLayout());
     [blur setUserInteractionEnabled:NO];
     [overlay addSubview:blur];
     [overlay addSubview:makeTitle(openIcon, [panel frame])];

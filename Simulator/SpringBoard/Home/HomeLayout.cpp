@@ -1,5 +1,7 @@
 #include "HomeLayout.hpp"
 
+#include <span>
+
 namespace sim {
 
 namespace {
@@ -19,37 +21,54 @@ constexpr Grid kPhones[] = {
     {736, 6, 38, 100, 96, 10, 14},
 };
 constexpr Grid kPad = {1024, 5, 70, 165, 126, 18, 22};
+// On its side; inferred, for phones above all.
+constexpr Grid kTurnedPhones[] = {{320, 2, 27, 88, 96, 10, 9}, {414, 3, 30, 88, 96, 10, 9}};
+constexpr Grid kTurnedPad = {768, 4, 55, 143, 126, 18, 22};
 
-Grid grid(const Device &device) {
-    if (device.pad) return kPad;
-    Grid result = kPhones[0];
-    for (const auto &candidate : kPhones)
-        if (candidate.height <= device.height) result = candidate;
+Grid tallestThatFits(std::span<const Grid> grids, double height) {
+    Grid result = grids.front();
+    for (const auto &candidate : grids)
+        if (candidate.height <= height) result = candidate;
     return result;
 }
 
+bool isTurned(render::Size screen) { return screen.width > screen.height; }
+
+Grid grid(bool pad, render::Size screen) {
+    if (pad) return isTurned(screen) ? kTurnedPad : kPad;
+    if (isTurned(screen)) return tallestThatFits(kTurnedPhones, screen.height);
+    return tallestThatFits(kPhones, screen.height);
+}
+
+int columns(bool pad, render::Size screen) {
+    if (!isTurned(screen)) return 4;
+    return pad || screen.width < 667 ? 5 : 6;
+}
+
 // The margin at the sides, by the width of the screen.
-double margin(const Device &device) {
-    if (device.pad) return 92;
-    return device.width >= 414 ? 35 : device.width >= 375 ? 27 : 16;
+double margin(bool pad, render::Size screen) {
+    if (pad) return isTurned(screen) ? 110 : 92;
+    if (isTurned(screen)) return 40;
+    return screen.width >= 414 ? 35 : screen.width >= 375 ? 27 : 16;
 }
 
 } // namespace
 
-HomeLayout homeLayout(const Device &device) {
+HomeLayout homeLayout(bool pad, render::Size screen) {
     constexpr double kPhoneIcon = 60, kPadIcon = 76;
-    Grid chosen = grid(device);
+    Grid chosen = grid(pad, screen);
     HomeLayout result;
-    result.screen = {device.width, device.height};
+    result.screen = screen;
+    result.columns = columns(pad, screen);
     result.rows = chosen.rows;
-    result.icon = device.pad ? kPadIcon : kPhoneIcon;
-    result.left = margin(device);
+    result.icon = pad ? kPadIcon : kPhoneIcon;
+    result.left = margin(pad, screen);
     result.top = chosen.top;
-    result.across = (device.width - 2 * result.left - result.icon) / (result.columns - 1);
+    result.across = (screen.width - 2 * result.left - result.icon) / (result.columns - 1);
     result.down = chosen.down;
     result.dockHeight = chosen.dockHeight;
     result.dockIconTop = chosen.dockIconTop;
-    result.pageDots = device.height - chosen.dockHeight - chosen.dotsAboveDock;
+    result.pageDots = screen.height - chosen.dockHeight - chosen.dotsAboveDock;
     return result;
 }
 

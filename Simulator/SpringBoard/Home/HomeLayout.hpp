@@ -1,8 +1,7 @@
-// Where things stand on the home screen in portrait, in points.
+// Where things stand on the home screen, in points.
 #pragma once
 
 #include "Render/Geometry.hpp"
-#include "Runtime/Process/Device.hpp"
 
 #include <cstddef>
 
@@ -26,6 +25,7 @@ struct HomeLayout {
     render::Rect dockFrame() const { return {0, screen.height - dockHeight, screen.width, dockHeight}; }
 };
 
-HomeLayout homeLayout(const Device &device);
+// `screen` as seen upright: wider than high on its side.
+HomeLayout homeLayout(bool pad, render::Size screen);
 
 } // namespace sim

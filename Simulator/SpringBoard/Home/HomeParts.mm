@@ -2,8 +2,8 @@
 #include "HomeViews.h"
 
 #include "Render/Bitmap.hpp"
+#include "Runtime/Files/PlatformFiles.hpp"
 #include "Runtime/Process/Device.hpp"
-#include "SpringBoard/PlatformFiles.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <algorithm>

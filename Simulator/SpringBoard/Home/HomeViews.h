@@ -1,6 +1,8 @@
 // The home screen's window: wallpaper, pages of icons with their dots, dock.
 #pragma once
 
+#include "HomeLayout.hpp"
+
 #include <UIKit/UIKit.h>
 
 @interface SBWallpaperView : UIView
@@ -30,6 +32,10 @@ Class homeWindowClass();
 // Builds and shows the window with the views of all icons. Once a process.
 void showHomeWindow();
 UIWindow *homeWindow();
+// For the interface as it is turned now.
+HomeLayout currentHomeLayout();
+// Pages, dots and dock anew, for the size that the window has now; the first page shows.
+void layOutHomeAnew();
 
 // The page whose middle is nearest gets the bright dot.
 void showCurrentPage();

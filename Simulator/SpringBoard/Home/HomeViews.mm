@@ -1,7 +1,7 @@
 #include "HomeViews.h"
 
 #include "Glass.h"
-#include "HomeLayout.hpp"
+#include "Runtime/Process/Device.hpp"
 #include "SBIconController.h"
 #include "SpringBoard/Icons/Icons.h"
 #include "UIKit/Application/ApplicationState.h"
@@ -14,8 +14,10 @@ namespace {
 
 struct HomeViews {
     UIWindow *window = nil; // retained, as what follows is by it
+    SBWallpaperView *wallpaper = nil;
     SBIconScrollView *scroll = nil;
     SBIconListPageControl *dots = nil;
+    SBDockView *dock = nil;
     size_t pages = 1;
 };
 
@@ -26,9 +28,11 @@ HomeViews &home() {
 
 CGRect toPlatform(const render::Rect &rect) { return CGRectMake(rect.x, rect.y, rect.width, rect.height); }
 
+// The view's image lies in `frame`, its label below.
 void place(SBIcon *icon, UIView *list, const render::Rect &frame) {
     SBIconView *view = [[SBIconViewMap homescreenMap] iconViewForIcon:icon];
-    [view setCenter:CGPointMake(frame.x + frame.width / 2, frame.y + frame.height / 2)];
+    CGSize size = [SBIconView defaultIconSize];
+    [view setFrame:CGRectMake(frame.x, frame.y, size.width, size.height)];
     [list addSubview:view];
 }
 
@@ -90,8 +94,27 @@ Class homeWindowClass() {
     return subclass("SBWindow", superclass);
 }
 
+HomeLayout currentHomeLayout() {
+    CGSize size = interfaceSize();
+    return homeLayout(device().pad, {size.width, size.height});
+}
+
+void layOutHomeAnew() {
+    auto &mine = home();
+    HomeLayout layout = currentHomeLayout();
+    [mine.scroll removeFromSuperview];
+    [mine.dots removeFromSuperview];
+    [mine.dock removeFromSuperview];
+    [mine.wallpaper setFrame:[mine.window bounds]];
+    mine.scroll = makePages(layout);
+    mine.dots = makeDots(layout);
+    mine.dock = makeDock(layout);
+    for (UIView *view : {static_cast<UIView *>(mine.scroll), static_cast<UIView *>(mine.dots),
+                         static_cast<UIView *>(mine.dock)})
+        [mine.window addSubview:view];
+}
+
 void showHomeWindow() {
-    HomeLayout layout = homeLayout(device());
     UIWindow *window =
         [[homeWindowClass() alloc] initWithFrame:CGRectMake(0, 0, device().width, device().height)];
     home().window = window;
@@ -100,12 +123,9 @@ void showHomeWindow() {
     [window setWindowLevel:kLevel];
     setRole(window, WindowRole::home);
     makeIconViews();
-    [window addSubview:[[[SBWallpaperView alloc] initWithFrame:[window bounds]] autorelease]];
-    home().scroll = makePages(layout);
-    home().dots = makeDots(layout);
-    [window addSubview:home().scroll];
-    [window addSubview:home().dots];
-    [window addSubview:makeDock(layout)];
+    home().wallpaper = [[[SBWallpaperView alloc] initWithFrame:[window bounds]] autorelease];
+    [window addSubview:home().wallpaper];
+    layOutHomeAnew();
     [window makeKeyAndVisible];
 }
 

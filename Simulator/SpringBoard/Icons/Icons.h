@@ -2,13 +2,11 @@
 #pragma once
 
 #include "SpringBoard/Applications/Applications.h"
+#include "UIKit/Images/ApplicationIcons.h"
 
 #include <SpringBoard/SBIcon.h>
 
 namespace sim {
-
-// The radius of an icon's corners, as a share of its side.
-constexpr double kIconCornerRatio = 13.5 / 60;
 
 struct IconState {
     SBApplication *application = nil; // of an application's icon

@@ -12,6 +12,8 @@ namespace {
 constexpr CGFloat kBadgeRight = 10, kBadgeTop = 9;
 constexpr CGFloat kTouchMargin = 8; // at the sides: half of what lies between two icons
 constexpr CGFloat kLabelGap = 4, kLabelHeight = 16, kLabelOverhang = 13;
+// What an icon's view is taller than its image, for the label; the tablet's is inferred.
+constexpr CGFloat kPhoneLabelRoom = 14, kPadLabelRoom = 17;
 
 struct ViewParts {
     SBIcon *icon = nil;           // retained
@@ -26,9 +28,9 @@ ViewParts &parts(SBIconView *view) {
     return *static_cast<ViewParts *>(view->_iconViewState);
 }
 
-UILabel *makeLabel(CGSize icon) {
-    CGRect frame =
-        CGRectMake(-kLabelOverhang, icon.height + kLabelGap, icon.width + 2 * kLabelOverhang, kLabelHeight);
+UILabel *makeLabel() {
+    CGFloat side = sim::iconSide();
+    CGRect frame = CGRectMake(-kLabelOverhang, side + kLabelGap, side + 2 * kLabelOverhang, kLabelHeight);
     UILabel *label = [[UILabel alloc] initWithFrame:frame];
     constexpr CGFloat kPhoneSize = 12, kPadSize = 14;
     [label setFont:[UIFont fontWithName:@"HelveticaNeue" size:sim::device().pad ? kPadSize : kPhoneSize]];
@@ -53,13 +55,14 @@ Class imageClass(SBIcon *icon) {
 @implementation SBIconView
 
 + (CGSize)defaultIconSize {
-    return CGSizeMake(sim::iconSide(), sim::iconSide());
+    CGFloat side = sim::iconSide();
+    return CGSizeMake(side, side + (sim::device().pad ? kPadLabelRoom : kPhoneLabelRoom));
 }
 
 - (instancetype)initWithDefaultSize {
     CGSize size = [[self class] defaultIconSize];
     if (!(self = [super initWithFrame:CGRectMake(0, 0, size.width, size.height)])) return nil;
-    parts(self).label = makeLabel(size);
+    parts(self).label = makeLabel();
     [self addSubview:parts(self).label];
     [self setOpaque:NO];
     return self;
@@ -86,7 +89,7 @@ Class imageClass(SBIcon *icon) {
     mine.icon = icon;
     [mine.image removeFromSuperview];
     [mine.image release];
-    mine.image = [[imageClass(icon) alloc] initWithFrame:[self bounds]];
+    mine.image = [[imageClass(icon) alloc] initWithFrame:CGRectMake(0, 0, sim::iconSide(), sim::iconSide())];
     [mine.image setIcon:icon];
     [self insertSubview:mine.image atIndex:0];
     [mine.label setText:[icon displayName]];
@@ -132,7 +135,7 @@ Class imageClass(SBIcon *icon) {
 // The label belongs to what can be touched.
 - (BOOL)pointInside:(CGPoint)point withEvent:(UIEvent *)event {
     CGRect reach = [self bounds];
-    reach.size.height += kLabelGap + kLabelHeight;
+    reach.size.height = sim::iconSide() + kLabelGap + kLabelHeight;
     return CGRectContainsPoint(CGRectInset(reach, -kTouchMargin, 0), point);
 }
 

@@ -1,13 +1,32 @@
 #include "LockState.h"
+#include "LockWindow.h"
+
+#include "SpringBoard/Switcher/SwitcherScreen.h"
+#include "SpringBoard/System/BarStyle.h"
 
 #include <SpringBoard/SBLockScreen.h>
 
 namespace sim {
 
+const char *const kDevicePasscode = "1234";
+
 LockState &lockState() {
     static LockState state;
     return state;
 }
+
+namespace {
+
+void finishUnlock(int source) {
+    SBLockScreenViewController *controller = [[SBLockScreenManager sharedInstance] lockScreenViewController];
+    [controller prepareForUIUnlock];
+    lockState().screenLocked = lockState().passcodeLocked = false;
+    hideLockWindow();
+    updateStatusBarStyle();
+    [controller finishUIUnlockFromSource:source];
+}
+
+} // namespace
 
 } // namespace sim
 
@@ -32,12 +51,30 @@ LockState &lockState() {
     return controller;
 }
 
+// The application in front stays what it is, behind the lock screen. (Inferred: it hears nothing of it.)
+- (void)lockUIFromSource:(int)source withOptions:(id)options {
+    sim::lockState().screenLocked = true;
+    sim::lockState().passcodeLocked = sim::lockState().passcode;
+    sim::closeSwitcher(false);
+    sim::showLockWindow();
+    sim::updateStatusBarStyle();
+}
+
 - (void)unlockUIFromSource:(int)source withOptions:(id)options {
     if (!sim::lockState().screenLocked) return;
-    SBLockScreenViewController *controller = [self lockScreenViewController];
-    [controller prepareForUIUnlock];
-    sim::lockState().screenLocked = sim::lockState().passcodeLocked = false;
-    [controller finishUIUnlockFromSource:source];
+    if (!sim::lockState().passcodeLocked) return sim::finishUnlock(source);
+    [[self lockScreenViewController] setPasscodeLockVisible:YES
+                                                   animated:YES
+                                           withUnlockSource:source
+                                                 andOptions:options];
+}
+
+- (BOOL)attemptUnlockWithPasscode:(NSString *)passcode {
+    NSString *right = [NSString stringWithUTF8String:sim::kDevicePasscode];
+    if (!sim::lockState().passcodeLocked || ![passcode isEqual:right]) return NO;
+    sim::lockState().passcodeLocked = false;
+    [self unlockUIFromSource:0 withOptions:nil];
+    return YES;
 }
 
 @end

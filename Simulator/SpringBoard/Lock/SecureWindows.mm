@@ -1,37 +1,32 @@
-// Windows that may show over a locked screen; from 8.0 on.
+// Windows that may show while the device is locked; from 8.0 on. Before, all may.
 #include "SpringBoard/Versions.hpp"
-#include "UIKit/QuartzCore/LayerState.h"
+#include "UIKit/Application/ApplicationState.h"
 
 #include <UIKit/UIWindow.h>
 
-#include <set>
-
 @interface UIWindow (Secure)
-- (BOOL)_isSecure;
++ (BOOL)_isSecure;
 @end
 
 namespace {
 
-// Windows by the number of their layer, which none has twice.
-std::set<uint64_t> &secureWindows() {
-    static std::set<uint64_t> numbers;
-    return numbers;
-}
-
 BOOL classIsSecure(id, SEL) { return NO; }
 
-BOOL isSecure(UIWindow *self, SEL) { return secureWindows().count(sim::state([self layer]).number) > 0; }
+BOOL isSecure(UIWindow *self, SEL) { return sim::isContextSecure(self); }
 
-void setSecure(UIWindow *self, SEL, BOOL secure) {
-    uint64_t number = sim::state([self layer]).number;
-    if (secure) {
-        secureWindows().insert(number);
-    } else {
-        secureWindows().erase(number);
+void setSecure(UIWindow *self, SEL, BOOL secure) { sim::setContextSecure(self, secure); }
+
+// The system's own that belong over the lock screen are. (Inferred: which these are.)
+BOOL shouldCreateContextAsSecure(UIWindow *self, SEL) {
+    switch (sim::role(self)) {
+    case sim::WindowRole::statusBar:
+    case sim::WindowRole::lock:
+    case sim::WindowRole::alert:
+        return YES;
+    default:
+        return [[self class] _isSecure] || sim::isContextSecure(self);
     }
 }
-
-BOOL shouldCreateContextAsSecure(UIWindow *self, SEL) { return [self _isSecure]; }
 
 const sim::VersionedMethod kMethods[] = {
     {"UIWindow", "+_isSecure", "B@:", sim::implementation(classIsSecure), sim::kFirst8, sim::kNewest},

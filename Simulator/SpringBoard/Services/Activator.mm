@@ -11,11 +11,6 @@
 #include <map>
 #include <objc/runtime.h>
 
-@interface NSObject (ActivatorListenerForms)
-- (void)activator:(LAActivator *)activator receiveDeactivateEvent:(LAEvent *)event;
-- (void)activator:(LAActivator *)activator receiveEvent:(LAEvent *)event forListenerName:(NSString *)name;
-@end
-
 namespace {
 
 struct ActivatorState {
@@ -35,6 +30,24 @@ struct EventState {
 EventState &state(LAEvent *event) {
     if (!event->_activatorEventState) event->_activatorEventState = new EventState;
     return *static_cast<EventState *>(event->_activatorEventState);
+}
+
+id find(LAActivator *activator, NSString *name) {
+    auto &listeners = state(activator).listeners;
+    auto found = name ? listeners.find([name UTF8String]) : listeners.end();
+    return found == listeners.end() ? nil : found->second;
+}
+
+// false when the listener has none of the two methods.
+bool deliver(id<LAListener> listener, LAActivator *activator, LAEvent *event, NSString *name) {
+    if ([listener respondsToSelector:@selector(activator:receiveEvent:forListenerName:)]) {
+        [listener activator:activator receiveEvent:event forListenerName:name];
+    } else if ([listener respondsToSelector:@selector(activator:receiveEvent:)]) {
+        [listener activator:activator receiveEvent:event];
+    } else {
+        return false;
+    }
+    return true;
 }
 
 NSString *currentMode() {
@@ -100,19 +113,50 @@ LAEvent *makeEvent(NSString *name) {
 }
 
 - (BOOL)hasListenerWithName:(NSString *)name {
-    return name && state(self).listeners.count([name UTF8String]) > 0;
+    return find(self, name) != nil;
+}
+
+- (id<LAListener>)listenerForName:(NSString *)name {
+    return find(self, name);
+}
+
+- (NSArray *)availableListenerNames {
+    NSMutableArray *names = [NSMutableArray array];
+    for (const auto &[name, listener] : state(self).listeners)
+        [names addObject:[NSString stringWithUTF8String:name.c_str()]];
+    return names;
+}
+
+- (BOOL)listenerWithName:(NSString *)name isCompatibleWithEventMode:(NSString *)mode {
+    id<LAListener> listener = find(self, name);
+    if (![listener respondsToSelector:@selector(activator:requiresCompatibleEventModesForListenerWithName:)])
+        return listener != nil;
+    NSArray *modes = [listener activator:self requiresCompatibleEventModesForListenerWithName:name];
+    return !modes || [modes containsObject:mode];
+}
+
+- (NSString *)localizedTitleForListenerName:(NSString *)name {
+    id<LAListener> listener = find(self, name);
+    return [listener respondsToSelector:@selector(activator:requiresLocalizedTitleForListenerName:)]
+               ? [listener activator:self requiresLocalizedTitleForListenerName:name]
+               : name;
+}
+
+- (NSString *)localizedDescriptionForListenerName:(NSString *)name {
+    id<LAListener> listener = find(self, name);
+    return [listener respondsToSelector:@selector(activator:requiresLocalizedDescriptionForListenerName:)]
+               ? [listener activator:self requiresLocalizedDescriptionForListenerName:name]
+               : nil;
 }
 
 - (void)sendEvent:(LAEvent *)event toListenerWithName:(NSString *)name {
-    auto &listeners = state(self).listeners;
-    auto found = name ? listeners.find([name UTF8String]) : listeners.end();
-    if (found == listeners.end()) return;
-    id listener = [[found->second retain] autorelease];
-    if ([listener respondsToSelector:@selector(activator:receiveEvent:forListenerName:)]) {
-        [listener activator:self receiveEvent:event forListenerName:name];
-    } else if ([listener respondsToSelector:@selector(activator:receiveEvent:)]) {
-        [listener activator:self receiveEvent:event];
-    }
+    if (![self listenerWithName:name isCompatibleWithEventMode:[event mode]]) return;
+    id listener = [[find(self, name) retain] autorelease];
+    if (!deliver(listener, self, event, name) || ![event isHandled]) return;
+    for (const auto &[other, candidate] : std::map(state(self).listeners))
+        if (candidate != listener && [candidate respondsToSelector:@selector(activator:
+                                                                       otherListenerDidHandleEvent:)])
+            [candidate activator:self otherListenerDidHandleEvent:event];
 }
 
 - (NSString *)currentEventMode {

@@ -1,4 +1,5 @@
 #include "Runtime/Process/Device.hpp"
+#include "SpringBoard/System/Interface.h"
 #include "SpringBoard/Versions.hpp"
 
 #include <SpringBoard/SpringBoard.h>
@@ -21,9 +22,8 @@ const bool kRegistered = (sim::registerClassVersions(kClasses), true);
     return sim::device().reachability;
 }
 
-// Nothing turns it on yet.
 - (BOOL)reachabilityModeActive {
-    return NO;
+    return sim::reachabilityIsOn();
 }
 
 @end

@@ -1,4 +1,4 @@
-// The controllers behind the switcher's own screen, as far as other code sends them away with an application.
+// The controllers behind the switcher's own screen, as far as they send an application away.
 #include "SwitcherModel.h"
 
 #include "SpringBoard/Applications/Applications.h"
@@ -6,10 +6,18 @@
 
 #include <UIKit/UIKit.h>
 
+#include <algorithm>
+#include <objc/runtime.h>
+
 @interface SBAppSliderController : UIViewController
 @end
 
 @interface SBAppSwitcherController : UIViewController
+@end
+
+@interface UIViewController (Quitting)
+- (void)_quitAppAtIndex:(unsigned long long)index;
+- (void)_quitAppWithDisplayItem:(SBDisplayItem *)item;
 @end
 
 namespace {
@@ -47,3 +55,22 @@ const bool kRegistered =
 
 @implementation SBAppSwitcherController
 @end
+
+namespace sim {
+
+void quitFromSwitcher(SBApplication *application) {
+    auto list = switcherIdentifiers();
+    auto place = std::find(list.begin(), list.end(), record(application).identifier);
+    if (place == list.end()) return;
+    NSString *identifier = identifierOf(application);
+    if (Class newer = objc_getClass("SBAppSwitcherController")) {
+        static UIViewController *controller = [newer new];
+        [controller _quitAppWithDisplayItem:[objc_getClass("SBDisplayItem") displayItemWithType:@"App"
+                                                                              displayIdentifier:identifier]];
+    } else {
+        static UIViewController *controller = [objc_getClass("SBAppSliderController") new];
+        [controller _quitAppAtIndex:static_cast<unsigned long long>(place - list.begin())];
+    }
+}
+
+} // namespace sim

@@ -25,6 +25,9 @@ namespace sim {
 // What the list holds for an application: its identifier (7.x) or a display layout (8.x).
 id switcherEntry(NSString *identifier);
 void moveToSwitcherFront(SBApplication *application);
+// Takes the application out of the list and ends its process, through the switcher's controller of this
+// system version.
+void quitFromSwitcher(SBApplication *application);
 // Identifiers, most recent first.
 std::vector<std::string> switcherIdentifiers();
 

@@ -15,6 +15,7 @@
 - (void)applicationDidFinishLaunching:(id)application {
     sim::showHomeWindow();
     sim::showStatusBar();
+    if (sim::lockState().passcodeLocked) sim::startLocked();
     // Which makes itself known to the sensor.
     [objc_getClass("SBUIBiometricEventMonitor") sharedInstance];
 }

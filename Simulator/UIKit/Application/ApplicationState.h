@@ -16,6 +16,9 @@ void setSharedApplication(UIApplication *application);
 std::vector<UIWindow *> visibleWindows();
 // The same with those that are hidden.
 std::vector<UIWindow *> windowsBackToFront();
+// Those of them that the screen shows and that touches reach: none while the display is off, and only secure
+// ones while it shows nothing else.
+std::vector<UIWindow *> displayedWindows();
 // All windows in the order in which they were made.
 std::vector<UIWindow *> allWindows();
 
@@ -30,7 +33,26 @@ enum class WindowRole { overlay, statusBar, home, lock, alert, application };
 void setRole(UIWindow *window, WindowRole role);
 WindowRole role(UIWindow *window);
 
+// What the display server is told. A window's context is made, secure or not, when the window is first shown.
+struct Display {
+    bool on = true;
+    bool secureOnly = false;
+};
+Display &display();
+void setContextSecure(UIWindow *window, bool secure);
+bool isContextSecure(UIWindow *window);
+
 void setInterfaceOrientation(UIInterfaceOrientation orientation);
+// The screen as seen upright.
+CGSize interfaceSize();
+// From the screen's own coordinates to those of a person who looks at it upright.
+CGAffineTransform uprightTransform();
+// How far the interface is let down for the thumb, in points; 0 at first.
+void setInterfaceDrop(CGFloat points);
+// Of a window that follows the interface, around the screen's middle.
+CGAffineTransform interfaceTransform();
+// Lets the window fill the interface.
+void fillInterface(UIWindow *window);
 void setStatusBarHidden(bool hidden);
 void setDeviceOrientation(UIDeviceOrientation orientation); // posts the notification when somebody listens
 

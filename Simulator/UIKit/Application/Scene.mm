@@ -52,6 +52,14 @@ render::Node node(CALayer *layer) {
                                                 .rect = result.bounds,
                                                 .caps = {},
                                                 .tint = {}});
+    if (p.path)
+        result.drawings.push_back(render::Shape{.path = *p.path,
+                                                .fill = p.fill,
+                                                .stroke = p.stroke,
+                                                .strokeWidth = p.lineWidth,
+                                                .strokeStart = p.strokeStart,
+                                                .strokeEnd = p.strokeEnd,
+                                                .roundCaps = p.roundCaps});
     if (own.view) [own.view appendDrawingsTo:result];
     for (CALayer *sublayer : drawnSublayers(layer))
         if (!state(sublayer).model.hidden) result.children.push_back(node(sublayer));
@@ -64,8 +72,13 @@ render::Node node(CALayer *layer) {
 namespace sim {
 
 render::Scene currentScene() {
-    render::Scene scene{.size = {device().width, device().height}, .scale = device().scale, .roots = {}};
-    for (UIWindow *window : visibleWindows()) scene.roots.push_back(node([window layer]));
+    CGSize size = interfaceSize();
+    render::Scene scene{.size = {size.width, size.height}, .scale = device().scale, .roots = {}};
+    for (UIWindow *window : displayedWindows()) {
+        scene.roots.push_back(node([window layer]));
+        CGAffineTransform own = presented([window layer]).toSuperlayer();
+        scene.roots.back().transform = toRender(CGAffineTransformConcat(own, uprightTransform()));
+    }
     return scene;
 }
 

@@ -1,4 +1,5 @@
 #include "ApplicationState.h"
+#include "UIKit/Controllers/ControllerState.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIViewController.h>
@@ -10,13 +11,19 @@ const UIWindowLevel UIWindowLevelNormal = 0;
 const UIWindowLevel UIWindowLevelStatusBar = 1000;
 const UIWindowLevel UIWindowLevelAlert = 2000;
 
+// From 8.0 on.
+@interface UIWindow (Contexts)
+- (BOOL)_shouldCreateContextAsSecure;
+@end
+
 namespace {
 
 struct WindowState {
     UIWindowLevel level = UIWindowLevelNormal;
     UIViewController *controller = nil; // retained
     sim::WindowRole role = sim::WindowRole::overlay;
-    uint64_t shown = 0; // a later one lies above an earlier one of the same level
+    uint64_t shown = 0;  // a later one lies above an earlier one of the same level
+    bool secure = false; // its context
 };
 
 WindowState &state(UIWindow *window) {
@@ -39,6 +46,11 @@ void sortBackToFront(std::vector<UIWindow *> &list) {
     });
 }
 
+void createContext(UIWindow *window) {
+    if ([window respondsToSelector:@selector(_shouldCreateContextAsSecure)])
+        sim::setContextSecure(window, [window _shouldCreateContextAsSecure]);
+}
+
 } // namespace
 
 namespace sim {
@@ -58,6 +70,21 @@ std::vector<UIWindow *> windowsBackToFront() {
     sortBackToFront(result);
     return result;
 }
+
+std::vector<UIWindow *> displayedWindows() {
+    if (!display().on) return {};
+    auto result = visibleWindows();
+    if (display().secureOnly)
+        std::erase_if(result, [](UIWindow *window) { return !isContextSecure(window); });
+    return result;
+}
+
+Display &display() {
+    static Display shared;
+    return shared;
+}
+void setContextSecure(UIWindow *window, bool secure) { ::state(window).secure = secure; }
+bool isContextSecure(UIWindow *window) { return ::state(window).secure; }
 
 void setRole(UIWindow *window, WindowRole role) { ::state(window).role = role; }
 WindowRole role(UIWindow *window) { return ::state(window).role; }
@@ -83,8 +110,13 @@ WindowRole role(UIWindow *window) { return ::state(window).role; }
 
 - (void)setHidden:(BOOL)hidden {
     static uint64_t shown = 0;
-    if ([self isHidden] && !hidden) state(self).shown = ++shown;
+    bool changes = [self isHidden] != hidden;
+    if (changes && !hidden) {
+        if (!state(self).shown) createContext(self);
+        state(self).shown = ++shown;
+    }
     [super setHidden:hidden];
+    if (changes && state(self).controller) sim::changeAppearance(state(self).controller, !hidden);
 }
 
 - (UIWindowLevel)windowLevel {
@@ -100,12 +132,14 @@ WindowRole role(UIWindow *window) { return ::state(window).role; }
 - (void)setRootViewController:(UIViewController *)controller {
     auto &mine = state(self);
     if (controller == mine.controller) return;
+    if (mine.controller && ![self isHidden]) sim::changeAppearance(mine.controller, false);
     [[mine.controller view] removeFromSuperview];
     [controller retain];
     [mine.controller release];
     mine.controller = controller;
     [[controller view] setFrame:[self bounds]];
     [self addSubview:[controller view]];
+    if (controller && ![self isHidden]) sim::changeAppearance(controller, true);
 }
 
 - (BOOL)isKeyWindow {

@@ -39,6 +39,13 @@ struct LayerProperties {
     CGPoint gradientStart = {0.5, 0};
     CGPoint gradientEnd = {0.5, 1};
 
+    // Shape layers only.
+    std::optional<render::Path> path;
+    std::optional<render::Rgba> fill, stroke;
+    CGFloat lineWidth = 1;
+    CGFloat strokeStart = 0, strokeEnd = 1;
+    bool roundCaps = false;
+
     // The smallest upright rectangle, in the superlayer's coordinates, around the transformed bounds.
     CGRect frame() const;
     // Moves and sizes the layer so that frame() becomes `frame`, keeping anchor point and transform.

@@ -111,6 +111,7 @@ UIStatusBarWindow *showStatusBar() {
     setRole(window, WindowRole::statusBar);
     CGRect frame = CGRectMake(0, 0, device().width, kStatusBarHeight);
     UIStatusBar *view = [[[UIStatusBar alloc] initWithFrame:frame] autorelease];
+    [view setAutoresizingMask:UIViewAutoresizingFlexibleWidth];
     [window addSubview:view];
     bar().window = window;
     bar().foreground = [[view subviews] objectAtIndex:1];

@@ -50,7 +50,7 @@ struct Hit {
 
 // A window whose hit test gives nothing lets the touch through to the one below.
 Hit hitTest(CGPoint point) {
-    auto windows = visibleWindows();
+    auto windows = displayedWindows();
     for (auto window = windows.rbegin(); window != windows.rend(); ++window)
         if (UIView *view = [*window hitTest:fromScreen(point, *window, nil) withEvent:touchesEvent()])
             return {*window, view};

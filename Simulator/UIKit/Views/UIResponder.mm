@@ -1,9 +1,23 @@
+#include "FirstResponder.h"
 #include "ViewState.h"
 
 #include <UIKit/UIResponder.h>
 #include <UIKit/UITouch.h>
 
+namespace {
+UIResponder *first = nil; // not retained: one that goes resigns
+}
+
+namespace sim {
+UIResponder *firstResponder() { return first; }
+} // namespace sim
+
 @implementation UIResponder
+
+- (void)dealloc {
+    if (self == first) first = nil;
+    [super dealloc];
+}
 
 - (UIResponder *)nextResponder {
     return nil;
@@ -12,13 +26,17 @@
     return NO;
 }
 - (BOOL)becomeFirstResponder {
-    return NO;
+    if (self == first) return YES;
+    if (![self canBecomeFirstResponder] || (first && ![first resignFirstResponder])) return NO;
+    first = self;
+    return YES;
 }
 - (BOOL)resignFirstResponder {
+    if (self == first) first = nil;
     return YES;
 }
 - (BOOL)isFirstResponder {
-    return NO;
+    return self == first;
 }
 
 - (void)touchesBegan:(NSSet *)touches withEvent:(UIEvent *)event {

@@ -1,5 +1,6 @@
 #include "ViewState.h"
 
+#include <UIKit/UIViewController.h>
 #include <UIKit/UIWindow.h>
 
 #include <algorithm>
@@ -143,11 +144,11 @@ void forgetPendingLayout(UIView *view) { std::erase(pendingLayout(), view); }
 }
 
 - (void)bringSubviewToFront:(UIView *)view {
-    if (state(view).superview == self) [self addSubview:view];
+    if (view && state(view).superview == self) [self addSubview:view];
 }
 
 - (void)sendSubviewToBack:(UIView *)view {
-    if (state(view).superview == self) [self insertSubview:view atIndex:0];
+    if (view && state(view).superview == self) [self insertSubview:view atIndex:0];
 }
 
 - (void)removeFromSuperview {
@@ -193,7 +194,12 @@ void forgetPendingLayout(UIView *view) { std::erase(pendingLayout(), view); }
 
 - (void)layoutIfNeeded {
     sim::forgetPendingLayout(self);
-    if (std::exchange(state(self).needsLayout, false)) [self layoutSubviews];
+    if (std::exchange(state(self).needsLayout, false)) {
+        UIViewController *controller = state(self).controller;
+        [controller viewWillLayoutSubviews];
+        [self layoutSubviews];
+        [controller viewDidLayoutSubviews];
+    }
     for (UIView *view : sim::subviews(self))
         if ([view superview] == self) [view layoutIfNeeded];
 }

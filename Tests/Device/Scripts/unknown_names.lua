@@ -34,6 +34,5 @@ local cases = {
   { "a view of another phone", "another phone", function() boot { extension = false }:tap(view) end },
   { "a filter", "did you mean 'device'?", function() each_profile(print, { devices = "iPad 2" }) end },
   { "a filter that leaves nothing", "leaves no device", function() each_profile(print, { device = "iPad 9" }) end },
-  { "what is still to come", "phone:rotate is not simulated yet", function() phone:rotate(1) end },
 }
 for _, case in ipairs(cases) do refused(case[1], case[2], case[3]) end

@@ -141,7 +141,7 @@ BootOptions readBootOptions(const Value &table, std::string_view stockApplicatio
     readColorBadges(reader, options);
     options.passcode = reader.boolean("passcode").value_or(false);
     options.passcodeLocked = reader.boolean("passcode_locked").value_or(false);
-    if (options.passcodeLocked) reader.fail("'passcode_locked' is not simulated yet");
+    options.passcode = options.passcode || options.passcodeLocked;
     options.otherExtension = reader.boolean("apex").value_or(false);
     options.root = reader.string("root").value_or("");
     reader.finish();

@@ -33,6 +33,7 @@ Package readPackage(const fs::path &manifest) {
                 .settingsFile = content["settings_file"].string(),
                 .statusBarItem = content["status_bar_item"].string(),
                 .activatorListener = content["activator_listener"].string(),
+                .settingsEntry = content["settings_entry"].string(),
                 .otherExtensionList = content["other_extension_list"].string()};
     } catch (const ValueError &error) {
         throw std::runtime_error(manifest.string() + ": " + error.what());

@@ -22,6 +22,7 @@ struct Package {
     std::string settingsFile;       // path on the device
     std::string statusBarItem;      // identifier
     std::string activatorListener;  // name
+    std::string settingsEntry;      // of its page: the entry's file, without the extension, or its bundle
     std::string otherExtensionList; // the file by which the other extension is known; path on the device
 };
 

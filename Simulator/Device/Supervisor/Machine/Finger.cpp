@@ -1,6 +1,7 @@
 #include "Finger.hpp"
 
 #include "Nanoseconds.hpp"
+#include "SimulatedProcess.hpp"
 
 #include <algorithm>
 

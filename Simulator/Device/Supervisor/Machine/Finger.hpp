@@ -1,7 +1,7 @@
 // One finger on a device's screen. Points are of the screen as seen upright.
 #pragma once
 
-#include "SimulatedDevice.hpp"
+#include "SimulatedScreen.hpp"
 
 namespace sim {
 
@@ -16,7 +16,7 @@ struct TouchTarget {
 // dropped.
 class Finger {
 public:
-    explicit Finger(SimulatedDevice &device) : device_(device) {}
+    explicit Finger(SimulatedScreen &device) : device_(device) {}
 
     void down(const TouchTarget &target);
     void move(double x, double y);
@@ -36,7 +36,7 @@ private:
     void path(double dx, double dy, double seconds);
     void lift();
 
-    SimulatedDevice &device_;
+    SimulatedScreen &device_;
     bool touching_ = false;
     unsigned generation_ = 0;
     double x_ = 0, y_ = 0;

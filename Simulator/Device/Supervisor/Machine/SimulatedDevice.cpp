@@ -1,33 +1,25 @@
 #include "SimulatedDevice.hpp"
 
 #include "BootMessage.hpp"
+#include "CrashText.hpp"
 #include "Device/Supervisor/Boot/StaticClasses.hpp"
 #include "Interrupt.hpp"
 #include "Nanoseconds.hpp"
-#include "Runtime/Values/Symbolise.hpp"
+#include "SettingsProcess.hpp"
 
 #include <algorithm>
 #include <fstream>
 #include <iostream>
-#include <regex>
+#include <limits>
 #include <utility>
 
 namespace sim {
 
-namespace {
-
-// A crash report as text that is the same on every run: without the addresses of objects.
-std::string crashText(const std::string &report) {
-    static const std::regex address("([^+])0x[0-9a-f]+");
-    return std::regex_replace(symbolise(report), address, "$010x…");
-}
-
-} // namespace
-
-SimulatedDevice::SimulatedDevice(const DeviceSetup &setup, BootOptions options)
+SimulatedDevice::SimulatedDevice(const DeviceSetup &setup, BootOptions options, bool homeScreen)
     : setup_(setup), options_(std::move(options)), root_(options_.root),
-      settings_(root_.at(setup.package.settingsFile)) {
+      settings_(root_.at(setup.package.settingsFile)), homeScreen_(homeScreen) {
     prepareFiles();
+    if (!homeScreen_) return;
     try {
         boot();
     } catch (const RequestError &error) {
@@ -58,16 +50,22 @@ void SimulatedDevice::prepareFiles() {
     if (options_.otherExtension) std::ofstream(root_.at(setup_.package.otherExtensionList)) << "/.\n";
 }
 
+ChildProcess::Setup SimulatedDevice::processSetup(const char *program) const {
+    return {.program = setup_.installation.programs / program,
+            // Foundation reads the preferred languages from the command line.
+            .arguments = {"-AppleLanguages", "(" + options_.language + ")"},
+            .home = root_.at("/var/mobile"),
+            .debugger = setup_.debugger};
+}
+
+Object SimulatedDevice::bootMessage() const { return sim::bootMessage(setup_, options_, root_.path(), now_); }
+
 void SimulatedDevice::boot() {
     ++generation_;
-    ChildProcess::Setup process{.program = setup_.installation.programs / "pendix-home",
-                                // Foundation reads the preferred languages from the command line.
-                                .arguments = {"-AppleLanguages", "(" + options_.language + ")"},
-                                .home = root_.at("/var/mobile"),
-                                .debugger = setup_.debugger};
-    home_ = std::make_unique<SimulatedProcess>(process, [this](Value event) { note(std::move(event)); });
+    home_ = std::make_unique<SimulatedProcess>(processSetup("pendix-home"),
+                                               [this](Value event) { note(std::move(event)); });
     try {
-        Reply reply = home_->request("boot", bootMessage(setup_, options_, root_.path(), now_));
+        Reply reply = home_->request("boot", bootMessage());
         next_ = reply.next;
     } catch (const ProcessDied &death) {
         recordCrash(death.ending);
@@ -106,14 +104,13 @@ void SimulatedDevice::recordCrash(const Ending &ending) {
 }
 
 void SimulatedDevice::end() {
-    Ending ending = home_->end();
+    troubles_ += troublesOf(home_->end(), "The home screen");
     home_.reset();
-    if (!ending.clean())
-        troubles_ += "The home screen did not end well: " + ending.reason() + "\n" + ending.errorOutput +
-                     crashText(ending.crashReport);
+    next_.reset();
 }
 
 std::string SimulatedDevice::shutDown() {
+    homeScreen_ = false;
     if (home_) end();
     return std::exchange(troubles_, "");
 }
@@ -124,13 +121,30 @@ void SimulatedDevice::respring() {
     boot();
 }
 
+void SimulatedDevice::attach(SettingsProcess *process) {
+    if (settingsProcess_) settingsProcess_->close();
+    settingsProcess_ = process;
+}
+
+void SimulatedDevice::detach(SettingsProcess *process) {
+    if (settingsProcess_ == process) settingsProcess_ = nullptr;
+}
+
+void SimulatedDevice::restartFromSettings(int64_t time) {
+    now_ = time;
+    if (home_) respring();
+}
+
 Value SimulatedDevice::perform(const char *request, Object &arguments, bool *died) {
     *died = false;
-    if (!home_) throw RequestError("the home screen does not run: it could not be started again");
+    if (!home_)
+        throw RequestError(homeScreen_ ? "the home screen does not run: it could not be started again"
+                                       : "the device has no home screen");
     try {
         Reply reply = home_->request(request, std::move(arguments));
         now_ = reply.now;
         next_ = reply.next;
+        options_.passcodeLocked = reply.locked;
         if (reply.respring) {
             end();
             boot();
@@ -164,25 +178,31 @@ Value SimulatedDevice::ask(const char *request, Object arguments) {
 
 void SimulatedDevice::advance(int64_t duration) {
     int64_t target = now_ + duration;
-    // Again after a crash or a respring on the way, which cut it short.
-    do act("advance", {{"to", target}});
-    while (now_ < target);
+    if (settingsProcess_ && settingsProcess_->running()) return advanceBoth(target);
+    runHome(target);
 }
 
-int64_t SimulatedDevice::settle(int64_t limit) {
-    int64_t start = now_;
-    for (;;) {
-        Value busy = ask("busy");
-        if (busy.array().empty()) return now_ - start;
-        if (!next_ || *next_ > start + limit) {
-            std::string text = "still busy after " + std::to_string(inSeconds(limit)) + " s: ";
-            for (const auto &item : busy.array())
-                text += (&item == &busy.array()[0] ? "" : "; ") + item.string();
-            advance(start + limit - now_);
-            throw SettleError(text);
-        }
-        advance(std::max<int64_t>(*next_ - now_, 0));
+// Again after a crash or a respring on the way, which cut it short.
+void SimulatedDevice::runHome(int64_t time) {
+    if (!home_ && !homeScreen_) {
+        now_ = std::max(now_, time);
+        return;
     }
+    do act("advance", {{"to", time}});
+    while (now_ < time);
+}
+
+// In steps, so that each process finds the files as they are at its time. At equal times the home screen goes
+// first: it runs through the moment for which Settings waits, and Settings up to just before the home
+// screen's.
+void SimulatedDevice::advanceBoth(int64_t target) {
+    constexpr int64_t kNever = std::numeric_limits<int64_t>::max();
+    do {
+        runHome(std::min(target, settingsProcess_->next().value_or(kNever)));
+        int64_t homeNext = next_.value_or(kNever);
+        settingsProcess_->runTo(std::min(target, homeNext - 1));
+        if (!settingsProcess_->running()) runHome(target);
+    } while (now_ < target || (settingsProcess_->running() && settingsProcess_->time() < target));
 }
 
 render::Bitmap SimulatedDevice::picture() {

@@ -1,12 +1,10 @@
-// A device: its file system, its processes, the one clock that they share, and what has happened on it.
+// A device: its file system, its processes, the one clock that they share, and what has happened on it. What
+// can be done to a screen is done to the home screen's.
 #pragma once
 
-#include "Device/Supervisor/Boot/BootOptions.hpp"
-#include "Device/Supervisor/Boot/Package.hpp"
-#include "EventList.hpp"
 #include "SandboxFolder.hpp"
-#include "SettingsFile.hpp"
 #include "SimulatedProcess.hpp"
+#include "SimulatedScreen.hpp"
 
 #include <memory>
 #include <string>
@@ -20,45 +18,44 @@ struct DeviceSetup {
     bool debugger = false;
 };
 
-class SimulatedDevice {
+class SettingsProcess;
+
+class SimulatedDevice : public SimulatedScreen {
 public:
-    // Boots it; the launch is finished on return. Throws BootError.
-    SimulatedDevice(const DeviceSetup &setup, BootOptions options);
-    ~SimulatedDevice();
+    // Boots it; the launch is finished on return. Throws BootError. Without a home screen there are only the
+    // files and the clock.
+    SimulatedDevice(const DeviceSetup &setup, BootOptions options, bool homeScreen = true);
+    ~SimulatedDevice() override;
     SimulatedDevice(const SimulatedDevice &) = delete;
     SimulatedDevice &operator=(const SimulatedDevice &) = delete;
 
-    // Nanoseconds since the first boot.
-    int64_t now() const { return now_; }
-    // Lets that much time pass, in nanoseconds.
-    void advance(int64_t duration);
-    // Lets time pass until nothing that ends by itself is under way, and returns how much. Throws SettleError
-    // when more than `limit` would pass.
-    int64_t settle(int64_t limit);
-
-    // Asks the home screen to do something. A crash becomes an event and another boot. Throws RequestError.
-    Value act(const char *request, Object arguments = {});
-    // The same for a question, which a crash leaves without an answer: that is a RequestError.
-    Value ask(const char *request, Object arguments = {});
-    // The screen at this moment.
-    render::Bitmap picture();
+    int64_t now() const override { return now_; }
+    void advance(int64_t duration) override;
+    // A crash of the home screen becomes an event and another boot.
+    Value act(const char *request, Object arguments = {}) override;
+    Value ask(const char *request, Object arguments = {}) override;
+    render::Bitmap picture() override;
+    // Counts the boots of the home screen.
+    unsigned generation() const override { return generation_; }
+    const EventList &events() const override { return events_; }
+    void warn(const std::string &text) override;
+    const SettingsFile &settings() const override { return settings_; }
+    const BootOptions &options() const override { return options_; }
+    const Package &package() const override { return setup_.package; }
+    std::string description() const override;
+    const char *reportedWindow() const override { return "overlay"; }
+    std::string shutDown() override;
 
     // Ends the home screen and starts it anew; the rest of the device goes on.
     void respring();
-    // Counts the boots: what was seen of one home screen says nothing of the next.
-    unsigned generation() const { return generation_; }
 
-    const EventList &events() const { return events_; }
-    void warn(const std::string &text);
-    const SettingsFile &settings() const { return settings_; }
-    const BootOptions &options() const { return options_; }
-    const Package &package() const { return setup_.package; }
-    // "iPhone 6, iOS 8.1"
-    std::string description() const;
-
-    // Ends the processes; afterwards the device is of no further use. Returns what went wrong in them at the
-    // end (leaks, say); empty when nothing did.
-    std::string shutDown();
+    // For the Settings application, of which there is one at most:
+    void attach(SettingsProcess *process);
+    void detach(SettingsProcess *process);
+    ChildProcess::Setup processSetup(const char *program) const;
+    Object bootMessage() const;
+    // Settings asked for a restart of the home screen at that time, up to which nothing was due there.
+    void restartFromSettings(int64_t time);
 
 private:
     void prepareFiles();
@@ -67,21 +64,22 @@ private:
     void recordCrash(const Ending &ending);
     void end();
     Value perform(const char *request, Object &arguments, bool *died);
+    void runHome(int64_t time);
+    void advanceBoth(int64_t target);
+    std::optional<int64_t> next() const override { return next_; }
 
     DeviceSetup setup_;
-    BootOptions options_; // the applications as they are by now
+    BootOptions options_; // applications and lock as they are by now
     SandboxFolder root_;
     SettingsFile settings_;
     EventList events_;
+    bool homeScreen_;
     std::unique_ptr<SimulatedProcess> home_;
-    std::string troubles_; // of processes that have ended
+    SettingsProcess *settingsProcess_ = nullptr; // owned by whoever opened it
+    std::string troubles_;                       // of processes that have ended
     int64_t now_ = 0;
     std::optional<int64_t> next_;
     unsigned generation_ = 0;
-};
-
-struct SettleError : std::runtime_error {
-    using std::runtime_error::runtime_error;
 };
 
 } // namespace sim

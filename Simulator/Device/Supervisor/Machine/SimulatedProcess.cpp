@@ -16,6 +16,7 @@ Reply SimulatedProcess::request(const char *name, Object arguments) {
         Reply reply{.result = (*message)["result"], .now = (*message)["now"].integer()};
         if (message->has("next")) reply.next = (*message)["next"].integer();
         reply.respring = message->has("respring");
+        reply.locked = message->has("locked");
         return reply;
     }
     throw ProcessDied{child_.end()};

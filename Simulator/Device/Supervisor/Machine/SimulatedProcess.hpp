@@ -24,6 +24,7 @@ struct Reply {
     int64_t now = 0;             // its virtual time, nanoseconds
     std::optional<int64_t> next; // when something is due next
     bool respring = false;       // it asked for a restart of the home screen
+    bool locked = false;         // it is locked by its passcode
 };
 
 class SimulatedProcess {

@@ -66,16 +66,12 @@ int eachProfile(lua_State *lua, Script &) {
     return 0;
 }
 
-int settingsApplication(lua_State *, Script &) {
-    throw std::runtime_error("settings_app is not simulated yet");
-}
-
 } // namespace
 
 void openDevices(lua_State *lua) {
     setGlobal(lua, "boot", bound<boot>);
     setGlobal(lua, "each_profile", bound<eachProfile>);
-    setGlobal(lua, "settings_app", bound<settingsApplication>);
+    setGlobal(lua, "settings_app", bound<bootSettings>);
 }
 
 } // namespace sim

@@ -10,10 +10,14 @@ namespace sim {
 
 namespace {
 
-constexpr const char *kPhone = "phone";
+constexpr const char *kPhone = "phone", *kPane = "pane";
+
+// What the object is called, and so the name of its kind.
+const char *word(const Phone &phone) { return phone.pane ? kPane : kPhone; }
 
 Phone &self(lua_State *lua) {
     void *object = luaL_testudata(lua, 1, kPhone);
+    if (!object) object = luaL_testudata(lua, 1, kPane);
     if (!object) throw std::runtime_error("call methods of a phone as phone:method(…)");
     return **static_cast<Phone **>(object);
 }
@@ -26,18 +30,10 @@ int callMethod(lua_State *lua, Script &script) {
     const Method &method = currentMethod(lua);
     Phone &phone = self(lua);
     if (lua_gettop(lua) - 1 > method.arguments)
-        throw std::runtime_error(std::string("phone:") + method.name + " takes " +
+        throw std::runtime_error(word(phone) + std::string(":") + method.name + " takes " +
                                  (method.arguments ? "at most " + std::to_string(method.arguments) : "no") +
                                  " argument" + (method.arguments == 1 ? "" : "s"));
     return method.run(lua, phone, script);
-}
-
-const char *pendingName(lua_State *lua) {
-    return static_cast<const char *>(lua_touserdata(lua, lua_upvalueindex(1)));
-}
-
-int refusePending(lua_State *lua, Script &) {
-    throw std::runtime_error(std::string("phone:") + pendingName(lua) + " is not simulated yet");
 }
 
 std::vector<std::string> methodNames(lua_State *lua, int table) {
@@ -53,13 +49,14 @@ int lookUp(lua_State *lua, Script &) {
     lua_pushvalue(lua, lua_upvalueindex(1));
     int methods = lua_gettop(lua);
     if (lua_getfield(lua, methods, name.c_str()) == LUA_TNIL)
-        throw std::runtime_error("a phone has no method '" + name + "'" +
+        throw std::runtime_error(std::string("a ") + word(self(lua)) + " has no method '" + name + "'" +
                                  suggestion(name, methodNames(lua, methods)));
     return 1;
 }
 
 int refuseWriting(lua_State *lua, Script &) {
-    throw std::runtime_error("a phone has no field " + describe(lua, 2) + " to be set");
+    throw std::runtime_error(std::string("a ") + word(self(lua)) + " has no field " + describe(lua, 2) +
+                             " to be set");
 }
 
 int collect(lua_State *lua, Script &script) {
@@ -68,24 +65,45 @@ int collect(lua_State *lua, Script &script) {
 }
 
 int phoneToString(lua_State *lua, Script &) {
-    lua_pushstring(lua, ("phone (" + self(lua).device.description() + ")").c_str());
+    lua_pushstring(lua, (word(self(lua)) + (" (" + self(lua).owner->description() + ")")).c_str());
     return 1;
 }
 
-void pushMethods(lua_State *lua) {
+std::vector<std::span<const Method>> families(const Phone &phone) {
+    std::vector<std::span<const Method>> result = {timeMethods(), touchMethods(), lookingMethods(),
+                                                   settingsMethods(), observingMethods()};
+    if (phone.pane) {
+        result.push_back(paneMethods());
+    } else {
+        result.push_back(homeScreenMethods());
+        result.push_back(lockMethods());
+        result.push_back(openingMethods());
+    }
+    return result;
+}
+
+void pushMethods(lua_State *lua, const Phone &phone) {
     lua_newtable(lua);
-    for (auto family : {timeMethods(), touchMethods(), lookingMethods(), homeScreenMethods(),
-                        settingsMethods(), observingMethods()}) {
+    for (auto family : families(phone)) {
         for (const auto &method : family) {
             lua_pushlightuserdata(lua, const_cast<Method *>(&method));
             lua_pushcclosure(lua, bound<callMethod>, 1);
             lua_setfield(lua, -2, method.name);
         }
     }
-    for (const char *name : pendingMethods()) {
-        lua_pushlightuserdata(lua, const_cast<char *>(name));
-        lua_pushcclosure(lua, bound<refusePending>, 1);
-        lua_setfield(lua, -2, name);
+}
+
+// The table of options, and the list of the applications that a device comes with.
+BootOptions readOptions(lua_State *lua, const Script &script, const char *function) {
+    if (lua_gettop(lua) > 1) throw BootError(std::string(function) + ": takes one table of options");
+    try {
+        Value table = toValue(lua, 1);
+        std::string stock = readFile(script.setup().installation.platform / "applications.json");
+        return readBootOptions(table, stock);
+    } catch (const BootError &) {
+        throw;
+    } catch (const std::runtime_error &error) {
+        throw BootError(std::string(function) + ": " + error.what());
     }
 }
 
@@ -93,8 +111,8 @@ void pushMethods(lua_State *lua) {
 
 void pushPhone(lua_State *lua, Phone &phone) {
     *static_cast<Phone **>(lua_newuserdatauv(lua, sizeof(Phone *), 0)) = &phone;
-    if (luaL_newmetatable(lua, kPhone)) {
-        pushMethods(lua);
+    if (luaL_newmetatable(lua, word(phone))) {
+        pushMethods(lua, phone);
         lua_pushcclosure(lua, bound<lookUp>, 1);
         lua_setfield(lua, -2, "__index");
         const luaL_Reg events[] = {{"__newindex", bound<refuseWriting>},
@@ -106,21 +124,26 @@ void pushPhone(lua_State *lua, Phone &phone) {
     lua_setmetatable(lua, -2);
 }
 
-int boot(lua_State *lua, Script &script) {
+uint64_t nextSerial() {
     static uint64_t serial = 0;
-    if (lua_gettop(lua) > 1) throw BootError("boot: takes one table of options");
-    Value table;
-    std::string stock;
-    try {
-        table = toValue(lua, 1);
-        stock = readFile(script.setup().installation.platform / "applications.json");
-    } catch (const std::runtime_error &error) {
-        throw BootError(std::string("boot: ") + error.what());
-    }
+    return ++serial;
+}
+
+int boot(lua_State *lua, Script &script) {
+    BootOptions options = readOptions(lua, script, "boot");
     // Phones that the script has let go of end here, in an order that does not depend on memory.
     lua_gc(lua, LUA_GCCOLLECT);
-    pushPhone(lua,
-              script.add(std::make_unique<Phone>(script.setup(), readBootOptions(table, stock), ++serial)));
+    auto device = std::make_shared<SimulatedDevice>(script.setup(), std::move(options));
+    pushPhone(lua, script.add(std::make_unique<Phone>(std::move(device), nextSerial())));
+    return 1;
+}
+
+int bootSettings(lua_State *lua, Script &script) {
+    BootOptions options = readOptions(lua, script, "settings_app");
+    lua_gc(lua, LUA_GCCOLLECT);
+    auto device = std::make_shared<SimulatedDevice>(script.setup(), std::move(options), false);
+    auto pane = std::make_unique<SettingsProcess>(*device);
+    pushPhone(lua, script.add(std::make_unique<Phone>(std::move(device), std::move(pane), nextSerial())));
     return 1;
 }
 

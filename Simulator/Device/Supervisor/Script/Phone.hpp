@@ -1,18 +1,28 @@
-// The `phone` of scripts: one device and the finger on its screen.
+// The `phone` and the `pane` of scripts: a process of a device and the finger on its screen.
 #pragma once
 
 #include "Binding.hpp"
 #include "Device/Supervisor/Machine/Finger.hpp"
+#include "Device/Supervisor/Machine/SettingsProcess.hpp"
+#include "Device/Supervisor/Machine/SimulatedDevice.hpp"
 
+#include <memory>
 #include <span>
 
 namespace sim {
 
 struct Phone {
-    Phone(const DeviceSetup &setup, BootOptions options, uint64_t serial)
-        : device(setup, std::move(options)), finger(device), serial(serial) {}
+    // The home screen of a device.
+    Phone(std::shared_ptr<SimulatedDevice> owner, uint64_t serial)
+        : owner(std::move(owner)), device(*this->owner), finger(device), serial(serial) {}
+    // The Settings application of a device.
+    Phone(std::shared_ptr<SimulatedDevice> owner, std::unique_ptr<SettingsProcess> pane, uint64_t serial)
+        : owner(std::move(owner)), pane(std::move(pane)), device(*this->pane), finger(device),
+          serial(serial) {}
 
-    SimulatedDevice device;
+    std::shared_ptr<SimulatedDevice> owner;
+    std::unique_ptr<SettingsProcess> pane; // of a pane only
+    SimulatedScreen &device;
     Finger finger;
     uint64_t serial; // tells the phones of one script apart
 };
@@ -28,15 +38,19 @@ std::span<const Method> timeMethods();
 std::span<const Method> touchMethods();
 std::span<const Method> lookingMethods();
 std::span<const Method> homeScreenMethods();
+std::span<const Method> lockMethods();
 std::span<const Method> settingsMethods();
 std::span<const Method> observingMethods();
-// Those that the platform does not do yet; calling one says so.
-std::span<const char *const> pendingMethods();
+std::span<const Method> openingMethods(); // a phone's way to its pane
+std::span<const Method> paneMethods();
 
-// Pushes the object of a phone that the script owns.
+// Pushes the object of a phone or pane that the script owns.
 void pushPhone(lua_State *lua, Phone &phone);
+// Tells them apart; never 0.
+uint64_t nextSerial();
 
-// `boot`
+// `boot` and `settings_app`
 int boot(lua_State *lua, Script &script);
+int bootSettings(lua_State *lua, Script &script);
 
 } // namespace sim

@@ -12,9 +12,6 @@ const RecordKind kIndicator{"indicator",
                             {"present", "visible", "image", "alpha", "shadow_opacity", "shadow_radius",
                              "shadow_color", "x", "y", "w", "h", "view"}};
 
-constexpr const char *kPending[] = {"home_twice", "banner",       "display", "lock",         "unlock",
-                                    "rotate",     "reachability", "finger",  "open_settings"};
-
 [[noreturn]] void refuseApplication(const std::string &identifier, const Phone &phone) {
     std::vector<std::string> known;
     for (const auto &application : phone.device.options().applications)
@@ -47,8 +44,24 @@ int restyle(lua_State *, Phone &phone, Script &) {
     return 0;
 }
 
+int rotate(lua_State *lua, Phone &phone, Script &) {
+    int64_t orientation = wholeNumber(lua, 2, "the orientation");
+    if (orientation < 1 || orientation > 4)
+        throw std::runtime_error("an orientation is 1 (upright), 2 (upside down), 3 or 4 (on its side)");
+    phone.device.act("rotate", {{"orientation", orientation}});
+    return 0;
+}
+
+int reachability(lua_State *lua, Phone &phone, Script &) {
+    if (!lua_isboolean(lua, 2)) throw std::runtime_error("Reachability is on (true) or off (false)");
+    bool on = lua_toboolean(lua, 2);
+    if (phone.device.act("reachability", {{"on", on}}) == Value(false))
+        phone.device.warn("this device has no Reachability");
+    return 0;
+}
+
 int respring(lua_State *, Phone &phone, Script &) {
-    phone.device.respring();
+    phone.owner->respring();
     return 0;
 }
 
@@ -109,6 +122,8 @@ std::span<const Method> homeScreenMethods() {
                                      {"home", 0, home},
                                      {"restyle", 0, restyle},
                                      {"respring", 0, respring},
+                                     {"rotate", 1, rotate},
+                                     {"reachability", 1, reachability},
                                      {"activator", 0, activator},
                                      {"call", 2, call},
                                      {"indicator", 0, indicator},
@@ -117,7 +132,5 @@ std::span<const Method> homeScreenMethods() {
                                      {"icon", 1, icon}};
     return methods;
 }
-
-std::span<const char *const> pendingMethods() { return kPending; }
 
 } // namespace sim

@@ -82,14 +82,15 @@ void Script::fail(const std::string &where, const std::string &message) {
 // Nothing when the device looks as it did in the last report.
 void Script::reportDevice() {
     if (phones_.empty()) return;
-    SimulatedDevice &device = phones_.back()->device;
+    SimulatedScreen &device = phones_.back()->device;
     std::string report = "  on " + device.description() + "\n";
     constexpr size_t kLastEvents = 20;
     try {
-        std::string overlay = viewDump(device.ask("windows", {{"window", "overlay"}}));
-        report += "overlay:\n" + (overlay.empty() ? "  (no window)\n" : overlay);
+        std::string window = device.reportedWindow();
+        std::string dump = viewDump(device.ask("windows", {{"window", window}}));
+        report += window + ":\n" + (dump.empty() ? "  (no window)\n" : dump);
     } catch (const std::runtime_error &error) {
-        report += std::string("no overlay: ") + error.what() + "\n";
+        report += std::string("no ") + device.reportedWindow() + ": " + error.what() + "\n";
     }
     report += "last events:\n" + device.events().tail(kLastEvents);
     if (report == reported_) return;

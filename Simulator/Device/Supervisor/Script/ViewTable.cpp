@@ -235,7 +235,7 @@ bool isView(lua_State *lua, int index) { return identity(lua, index) != nullptr;
 int64_t viewNumber(lua_State *lua, int index, const Phone &phone) {
     const Identity *of = identity(lua, index);
     if (!of) throw std::runtime_error("expected a view, not " + describe(lua, index));
-    if (of->snapshot->phone != phone.serial) throw std::runtime_error("the view is of another phone");
+    if (of->snapshot->phone != phone.serial) throw std::runtime_error("the view is of another phone or pane");
     if (of->snapshot->generation != phone.device.generation())
         throw std::runtime_error("the view is from before the home screen booted again");
     return of->number;

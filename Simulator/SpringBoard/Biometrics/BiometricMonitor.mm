@@ -1,6 +1,7 @@
-// The fingerprint sensor, as far as observers and matching go.
+// The fingerprint sensor: who observes it, whether it looks for a match, and what it tells.
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"
+#include "SpringBoard/HomeScreen.h"
 
 #include <BiometricKit/BiometricKit.h>
 
@@ -99,3 +100,20 @@ void note(const char *what) { sim::recordEvent("biometric", sim::Object{{"what",
 }
 
 @end
+
+namespace sim {
+
+// A sensor that looks for no match tells nothing. Each observer of the moment hears of it once, unless one
+// before took it off the list.
+bool sendFingerEvent(unsigned event) {
+    if (!device().touchSensor) return false;
+    SBUIBiometricEventMonitor *monitor = [SBUIBiometricEventMonitor sharedInstance];
+    auto &own = state(monitor);
+    if (!own.matching) return true;
+    for (id observer : std::vector(own.observers))
+        if (std::find(own.observers.begin(), own.observers.end(), observer) != own.observers.end())
+            [observer biometricEventMonitor:monitor handleBiometricEvent:event];
+    return true;
+}
+
+} // namespace sim

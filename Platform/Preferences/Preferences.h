@@ -1,0 +1,5 @@
+#pragma once
+
+#include <Preferences/PSListController.h>
+#include <Preferences/PSSpecifier.h>
+#include <Preferences/PSTableCell.h>

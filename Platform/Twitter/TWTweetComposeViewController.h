@@ -1,0 +1,13 @@
+#pragma once
+
+#include <UIKit/UIViewController.h>
+
+// The sheet in which a tweet is written and sent.
+@interface TWTweetComposeViewController : UIViewController {
+@public
+    void *_tweetState;
+}
++ (BOOL)canSendTweet;
+// NO once the sheet has been shown.
+- (BOOL)setInitialText:(NSString *)text;
+@end

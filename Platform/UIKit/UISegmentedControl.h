@@ -1,0 +1,17 @@
+#pragma once
+
+#include <UIKit/UIControl.h>
+
+enum { UISegmentedControlNoSegment = -1 };
+
+// 29 points high. A tap on another segment selects it and sends the value-changed event.
+@interface UISegmentedControl : UIControl {
+@public
+    void *_segmentedControlState;
+}
+// Strings (images are not offered).
+- (instancetype)initWithItems:(NSArray *)items;
+@property (nonatomic, readonly) NSUInteger numberOfSegments;
+@property (nonatomic) NSInteger selectedSegmentIndex;
+- (NSString *)titleForSegmentAtIndex:(NSUInteger)index;
+@end

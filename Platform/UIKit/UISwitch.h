@@ -1,0 +1,16 @@
+#pragma once
+
+#include <UIKit/UIControl.h>
+
+// Always 51 by 31 points. A tap or a swipe turns it and sends the value-changed event; `setOn:` sends
+// nothing.
+@interface UISwitch : UIControl {
+@public
+    void *_switchState;
+}
+@property (nonatomic, getter=isOn) BOOL on;
+// The track while on; nil is the system's green. May be a pattern.
+@property (nonatomic, retain) UIColor *onTintColor;
+@property (nonatomic, retain) UIColor *thumbTintColor;
+- (void)setOn:(BOOL)on animated:(BOOL)animated;
+@end

@@ -1,0 +1,26 @@
+#include "SimulatedScreen.hpp"
+
+#include "Nanoseconds.hpp"
+
+#include <algorithm>
+
+namespace sim {
+
+int64_t SimulatedScreen::settle(int64_t limit) {
+    int64_t start = now();
+    for (;;) {
+        Value busy = ask("busy");
+        if (busy.array().empty()) return now() - start;
+        auto due = next();
+        if (!due || *due > start + limit) {
+            std::string text = "still busy after " + std::to_string(inSeconds(limit)) + " s: ";
+            for (const auto &item : busy.array())
+                text += (&item == &busy.array()[0] ? "" : "; ") + item.string();
+            advance(start + limit - now());
+            throw SettleError(text);
+        }
+        advance(std::max<int64_t>(*due - now(), 0));
+    }
+}
+
+} // namespace sim

@@ -1,0 +1,60 @@
+// One process of a device as whoever holds the device knows it: a screen that can be touched and looked at.
+#pragma once
+
+#include "Device/Supervisor/Boot/BootOptions.hpp"
+#include "Device/Supervisor/Boot/Package.hpp"
+#include "EventList.hpp"
+#include "Render/Bitmap.hpp"
+#include "SettingsFile.hpp"
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace sim {
+
+class SimulatedScreen {
+public:
+    virtual ~SimulatedScreen() = default;
+
+    // Nanoseconds since the device's first boot.
+    virtual int64_t now() const = 0;
+    // Lets that much time pass on the whole device, in nanoseconds.
+    virtual void advance(int64_t duration) = 0;
+    // Lets time pass until nothing that ends by itself is under way in this process, and returns how much.
+    // Throws SettleError when more than `limit` would pass.
+    int64_t settle(int64_t limit);
+
+    // Asks the process to do something. A crash becomes an event. Throws RequestError.
+    virtual Value act(const char *request, Object arguments = {}) = 0;
+    // The same for a question, which a crash leaves without an answer: that is a RequestError.
+    virtual Value ask(const char *request, Object arguments = {}) = 0;
+    // The screen at this moment.
+    virtual render::Bitmap picture() = 0;
+    // Counts the starts of the process: what was seen of one says nothing of the next.
+    virtual unsigned generation() const = 0;
+
+    virtual const EventList &events() const = 0;
+    virtual void warn(const std::string &text) = 0;
+    virtual const SettingsFile &settings() const = 0;
+    virtual const BootOptions &options() const = 0;
+    virtual const Package &package() const = 0;
+    // "iPhone 6, iOS 8.1"
+    virtual std::string description() const = 0;
+    // The window that a report of a failure shows: "overlay", "app".
+    virtual const char *reportedWindow() const = 0;
+
+    // Ends what this stands for; afterwards it is of no further use. Returns what went wrong at the end
+    // (leaks, say); empty when nothing did.
+    virtual std::string shutDown() = 0;
+
+protected:
+    // When something is due next in the process.
+    virtual std::optional<int64_t> next() const = 0;
+};
+
+struct SettleError : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace sim

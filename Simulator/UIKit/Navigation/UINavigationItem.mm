@@ -1,0 +1,137 @@
+#include "NavigationState.h"
+
+#include <initializer_list>
+
+namespace {
+
+struct NavigationItemState {
+    NSString *title = nil, *prompt = nil;                   // retained
+    UIView *titleView = nil;                                // retained
+    UIBarButtonItem *back = nil, *left = nil, *right = nil; // retained
+    bool hidesBack = false;
+    UINavigationBar *bar = nil; // not retained
+};
+
+NavigationItemState &state(UINavigationItem *item) {
+    if (!item->_navigationItemState) item->_navigationItemState = new NavigationItemState;
+    return *static_cast<NavigationItemState *>(item->_navigationItemState);
+}
+
+// The bar that shows the item lays itself out anew.
+void changed(UINavigationItem *item) {
+    auto &mine = state(item);
+    for (UIBarButtonItem *button : {mine.left, mine.right}) sim::setBar(button, mine.bar);
+    [mine.bar setNeedsLayout];
+}
+
+void replaceButton(UINavigationItem *item, UIBarButtonItem *NavigationItemState::*slot,
+                   UIBarButtonItem *button) {
+    UIBarButtonItem *&held = state(item).*slot;
+    if (held == button) return;
+    sim::setBar(held, nil);
+    [button retain];
+    [held release];
+    held = button;
+    changed(item);
+}
+
+} // namespace
+
+namespace sim {
+void setBar(UINavigationItem *item, UINavigationBar *bar) {
+    if (!item) return;
+    ::state(item).bar = bar;
+    changed(item);
+}
+} // namespace sim
+
+@implementation UINavigationItem
+
+- (instancetype)initWithTitle:(NSString *)title {
+    if ((self = [super init])) state(self).title = [title copy];
+    return self;
+}
+
+- (void)dealloc {
+    auto &mine = state(self);
+    for (UIBarButtonItem *button : {mine.left, mine.right}) sim::setBar(button, nil);
+    [mine.title release];
+    [mine.prompt release];
+    [mine.titleView release];
+    [mine.back release];
+    [mine.left release];
+    [mine.right release];
+    delete &mine;
+    [super dealloc];
+}
+
+- (NSString *)title {
+    return state(self).title;
+}
+- (void)setTitle:(NSString *)title {
+    NSString *copy = [title copy];
+    [state(self).title release];
+    state(self).title = copy;
+    changed(self);
+}
+
+- (NSString *)prompt {
+    return state(self).prompt;
+}
+- (void)setPrompt:(NSString *)prompt {
+    NSString *copy = [prompt copy];
+    [state(self).prompt release];
+    state(self).prompt = copy;
+}
+
+- (UIView *)titleView {
+    return state(self).titleView;
+}
+- (void)setTitleView:(UIView *)view {
+    if (view == state(self).titleView) return;
+    [state(self).titleView removeFromSuperview];
+    [view retain];
+    [state(self).titleView release];
+    state(self).titleView = view;
+    changed(self);
+}
+
+- (BOOL)hidesBackButton {
+    return state(self).hidesBack;
+}
+- (void)setHidesBackButton:(BOOL)hides {
+    state(self).hidesBack = hides;
+    changed(self);
+}
+
+- (UIBarButtonItem *)backBarButtonItem {
+    return state(self).back;
+}
+- (void)setBackBarButtonItem:(UIBarButtonItem *)button {
+    [button retain];
+    [state(self).back release];
+    state(self).back = button;
+    changed(self);
+}
+
+- (UIBarButtonItem *)leftBarButtonItem {
+    return state(self).left;
+}
+- (void)setLeftBarButtonItem:(UIBarButtonItem *)button {
+    replaceButton(self, &NavigationItemState::left, button);
+}
+- (void)setLeftBarButtonItem:(UIBarButtonItem *)button animated:(BOOL)animated {
+    [self setLeftBarButtonItem:button];
+}
+
+- (UIBarButtonItem *)rightBarButtonItem {
+    return state(self).right;
+}
+- (void)setRightBarButtonItem:(UIBarButtonItem *)button {
+    replaceButton(self, &NavigationItemState::right, button);
+}
+- (void)setRightBarButtonItem:(UIBarButtonItem *)button animated:(BOOL)animated {
+    [self setRightBarButtonItem:button];
+}
+
+@end

@@ -1,0 +1,109 @@
+#include "LayerState.h"
+
+#include <QuartzCore/CAShapeLayer.h>
+
+#include <algorithm>
+
+using sim::changeProperty;
+using sim::LayerProperties;
+
+namespace {
+
+// What was handed in, retained; the drawing is made of the model's values.
+struct ShapeState {
+    SimCGPath *path = nil;
+    SimCGColor *fill = nil, *stroke = nil;
+    NSString *cap = nil;
+};
+
+ShapeState &shape(CAShapeLayer *layer) {
+    if (!layer->_shapeState) {
+        layer->_shapeState = new ShapeState{.cap = @"butt"};
+        sim::state(layer).model.fill = render::Rgba{0, 0, 0, 1};
+    }
+    return *static_cast<ShapeState *>(layer->_shapeState);
+}
+
+template <typename Object>
+void replace(Object *&slot, Object *value) {
+    [value retain];
+    [slot release];
+    slot = value;
+}
+
+std::optional<render::Rgba> flat(CGColorRef color) {
+    return color ? std::optional(sim::flatColor(sim::object(color)->paint)) : std::nullopt;
+}
+
+} // namespace
+
+@implementation CAShapeLayer
+
+- (void)dealloc {
+    auto &mine = shape(self);
+    [mine.path release];
+    [mine.fill release];
+    [mine.stroke release];
+    [mine.cap release];
+    delete &mine;
+    [super dealloc];
+}
+
+- (CGPathRef)path {
+    return sim::reference(shape(self).path);
+}
+- (void)setPath:(CGPathRef)path {
+    replace(shape(self).path, sim::object(path));
+    sim::state(self).model.path = path ? std::optional(sim::object(path)->path) : std::nullopt;
+}
+
+- (CGColorRef)fillColor {
+    return sim::reference(shape(self).fill);
+}
+- (void)setFillColor:(CGColorRef)color {
+    replace(shape(self).fill, sim::object(color));
+    sim::state(self).model.fill = flat(color);
+}
+
+- (CGColorRef)strokeColor {
+    return sim::reference(shape(self).stroke);
+}
+- (void)setStrokeColor:(CGColorRef)color {
+    replace(shape(self).stroke, sim::object(color));
+    sim::state(self).model.stroke = flat(color);
+}
+
+- (CGFloat)lineWidth {
+    return sim::state(self).model.lineWidth;
+}
+- (void)setLineWidth:(CGFloat)width {
+    changeProperty(self, "lineWidth", [&](LayerProperties &model) { model.lineWidth = width; });
+}
+
+- (CGFloat)strokeStart {
+    return sim::state(self).model.strokeStart;
+}
+- (void)setStrokeStart:(CGFloat)start {
+    changeProperty(self, "strokeStart",
+                   [&](LayerProperties &model) { model.strokeStart = std::clamp<CGFloat>(start, 0, 1); });
+}
+
+- (CGFloat)strokeEnd {
+    return sim::state(self).model.strokeEnd;
+}
+- (void)setStrokeEnd:(CGFloat)end {
+    changeProperty(self, "strokeEnd",
+                   [&](LayerProperties &model) { model.strokeEnd = std::clamp<CGFloat>(end, 0, 1); });
+}
+
+- (NSString *)lineCap {
+    return shape(self).cap;
+}
+- (void)setLineCap:(NSString *)cap {
+    NSString *copy = [cap copy];
+    [shape(self).cap release];
+    shape(self).cap = copy;
+    sim::state(self).model.roundCaps = [copy isEqual:@"round"];
+}
+
+@end

@@ -1,0 +1,124 @@
+// Proves in which order pages hear of coming and going, how modal pages cover others, and how all of it
+// turns.
+#include "Pages.h"
+#include "UIKit/Controllers/Rotation.h"
+
+using namespace harness;
+
+namespace {
+
+UINavigationController *showNavigation(UIViewController *root) {
+    auto *navigation = [[[UINavigationController alloc] initWithRootViewController:root] autorelease];
+    show(navigation);
+    waitFor(1);
+    takeNotes();
+    return navigation;
+}
+
+TEST(Navigation, PagesHearOfEachStepOfAPushAndAPop) {
+    UINavigationController *navigation = showNavigation(makePage("A"));
+    [navigation pushViewController:makePage("B") animated:YES];
+    EXPECT_THAT(takeNotes(), ElementsAre("A will disappear", "B will appear"));
+    waitFor(1);
+    EXPECT_THAT(takeNotes(), ElementsAre("A did disappear", "B did appear"));
+    [navigation popViewControllerAnimated:NO];
+    EXPECT_THAT(takeNotes(),
+                ElementsAre("B will disappear", "A will appear", "B did disappear", "A did appear"));
+    EXPECT_EQ([navigation popViewControllerAnimated:YES], nil) << "the root stays";
+}
+
+TEST(Navigation, TheBarShowsTheTitleAndTheWayBack) {
+    UINavigationController *navigation = showNavigation(makePage("First"));
+    UIViewController *second = makePage("Second");
+    [navigation pushViewController:second animated:YES];
+    waitFor(1);
+    auto has = [&](NSString *wanted) {
+        for (UIView *label : viewsOf([navigation navigationBar], [UILabel class]))
+            if ([[static_cast<UILabel *>(label) text] isEqualToString:wanted]) return true;
+        return false;
+    };
+    EXPECT_TRUE(has(@"Second"));
+    EXPECT_TRUE(has(@"First"));
+    [[second navigationItem] setTitle:@"Changed"];
+    waitFor(0);
+    EXPECT_TRUE(has(@"Changed"));
+    tapAt({30, 42});
+    waitFor(1);
+    EXPECT_EQ([[navigation viewControllers] count], 1u) << "a tap on the way back pops";
+}
+
+TEST(Navigation, APageFindsItsViewInItsSizeWhenItAppears) {
+    UINavigationController *navigation = showNavigation(makePage("A"));
+    [[navigation view] setFrame:CGRectMake(0, 0, 300, 500)];
+    waitFor(0);
+    NotingPage *page = makePage("B");
+    [[page view] setFrame:CGRectMake(0, 0, 10, 10)];
+    [navigation pushViewController:page animated:NO];
+    EXPECT_EQ([[page view] bounds].size.width, 300);
+    EXPECT_EQ([[page view] bounds].size.height, 500);
+}
+
+TEST(Navigation, AListStartsBelowTheBarAndRunsBehindIt) {
+    TestList *list = showList([](TestList *list) {
+        return [NSArray arrayWithObjects:makeGroup(nil), makeRow(list, @"Row", PSLinkCell), nil];
+    });
+    EXPECT_EQ([[list table] contentInset].top, 64);
+    EXPECT_EQ([[list table] contentOffset].y, -64);
+    EXPECT_EQ([[list view] frame].origin.y, 0);
+}
+
+TEST(ModalPages, CoverAndUncoverWhatPresentedThem) {
+    NotingPage *page = makePage("A"), *sheet = makePage("S");
+    UINavigationController *navigation = showNavigation(page);
+    [page presentViewController:sheet animated:YES completion:^{ note("presented"); }];
+    EXPECT_THAT(takeNotes(), ElementsAre("A will disappear", "S will appear"));
+    waitFor(1);
+    EXPECT_THAT(takeNotes(), ElementsAre("A did disappear", "S did appear", "presented"));
+    EXPECT_EQ([navigation presentedViewController], sheet) << "the one that fills the window presents";
+    EXPECT_EQ([[navigation view] window], nil) << "what is covered leaves the window";
+    // The presented page may ask for its own end.
+    [sheet dismissViewControllerAnimated:YES completion:^{ note("dismissed"); }];
+    EXPECT_THAT(takeNotes(), ElementsAre("S will disappear", "A will appear"));
+    waitFor(1);
+    EXPECT_THAT(takeNotes(), ElementsAre("S did disappear", "A did appear", "dismissed"));
+    EXPECT_EQ([navigation presentedViewController], nil);
+}
+
+TEST(ModalPages, OneAtATime) {
+    NotingPage *page = makePage("A");
+    UINavigationController *navigation = showNavigation(page);
+    [page presentViewController:makePage("S") animated:NO completion:nil];
+    takeNotes();
+    [navigation presentViewController:makePage("T") animated:NO completion:^{ note("presented"); }];
+    EXPECT_THAT(takeNotes(), IsEmpty());
+    [[navigation presentedViewController] presentViewController:makePage("U") animated:NO completion:nil];
+    EXPECT_THAT(takeNotes(),
+                ElementsAre("S will disappear", "U will appear", "S did disappear", "U did appear"))
+        << "the sheet on top may present another";
+}
+
+TEST(Rotation, TheInterfaceTurnsWithTheDevice) {
+    UINavigationController *navigation = showNavigation(makePage("A"));
+    sim::turnInterface(UIInterfaceOrientationLandscapeRight);
+    EXPECT_THAT(takeNotes(), ElementsAre("A will turn", "A turns, wide"));
+    EXPECT_EQ([navigation interfaceOrientation], UIInterfaceOrientationLandscapeRight);
+    waitFor(1);
+    EXPECT_THAT(takeNotes(), ElementsAre("A did turn"));
+    sim::turnInterface(UIInterfaceOrientationLandscapeRight);
+    EXPECT_THAT(takeNotes(), IsEmpty()) << "it stands so already";
+}
+
+TEST(Rotation, TheOutermostPageDecides) {
+    NotingPage *page = makePage("A");
+    page->orientations = UIInterfaceOrientationMaskPortrait;
+    show(page);
+    takeNotes();
+    sim::turnInterface(UIInterfaceOrientationLandscapeLeft);
+    EXPECT_THAT(takeNotes(), IsEmpty());
+    EXPECT_EQ([page interfaceOrientation], UIInterfaceOrientationPortrait);
+    page->orientations = 0;
+    sim::turnInterface(UIInterfaceOrientationPortraitUpsideDown);
+    EXPECT_THAT(takeNotes(), IsEmpty()) << "not upside down on a phone";
+}
+
+} // namespace
