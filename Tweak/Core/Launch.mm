@@ -20,11 +20,8 @@ constexpr NSTimeInterval kPollInterval = 1.0; // seconds
 
 // The pane shows its Touch ID row only where there is a sensor. A file that cannot be read is written anew.
 void recordTouchID(SpringBoard *springBoard) {
-    NSMutableDictionary *settings = [NSMutableDictionary dictionary];
-    if (NSDictionary *stored = readSettings()) [settings addEntriesFromDictionary:stored];
     NSNumber *hasSensor = [NSNumber numberWithBool:[springBoard hasTouchID]];
-    [settings setObject:[hasSensor stringValue] forKey:@"hasTouchID"];
-    [settings writeToFile:names::settingsFile atomically:YES];
+    writeSetting(@"hasTouchID", [hasSensor stringValue]);
 }
 
 void registerListener() {

@@ -16,6 +16,9 @@ Anchor currentAnchor(BOOL reachability);
 inline Rect toRect(CGRect rect) { return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height}; }
 inline CGRect toCGRect(const Rect &rect) { return CGRectMake(rect.x, rect.y, rect.width, rect.height); }
 
+// The panel's frame with another height, where its anchor leaves it; by the status bar's orientation.
+CGRect frameWithHeight(UIView *panel, CGFloat height);
+
 // Whether the panel follows a landscape orientation.
 BOOL isLandscape();
 

@@ -1,5 +1,6 @@
 #include "Tweak/Core/PanelAnchor.h"
 
+#include "Tweak/Core/Screen.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 
@@ -17,6 +18,18 @@ Anchor currentAnchor(BOOL reachability) {
     if ([name isEqualToString:@"middle"]) position = Position::middle;
     if ([name isEqualToString:@"bottom"]) position = Position::bottom;
     return anchorFor(rech, position, reachability);
+}
+
+CGRect frameWithHeight(UIView *panel, CGFloat height) {
+    CGRect frame = panel.frame;
+    CGSize screen = portraitScreenBounds().size;
+    UIInterfaceOrientation orientation = [UIApplication sharedApplication].statusBarOrientation;
+    BOOL turned = orientation == UIInterfaceOrientationLandscapeRight ||
+                  orientation == UIInterfaceOrientationLandscapeLeft;
+    frame.origin.y = anchoredY(currentAnchor(reachabilityIsActive()), frame.origin.y, frame.size.height,
+                               height, turned ? screen.width : screen.height);
+    frame.size.height = height;
+    return frame;
 }
 
 BOOL isLandscape() {

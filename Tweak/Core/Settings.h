@@ -1,6 +1,6 @@
-// Reading the settings. Nothing is kept: every call parses the file anew, so that a value written by the
-// settings pane counts from the next read on. A missing or unreadable file, a missing key and a value of the
-// wrong kind all read as nil, 0 or NO.
+// Reading and writing the settings. Nothing is kept: every call parses the file anew, so that a value written
+// by the settings pane counts from the next read on. A missing or unreadable file, a missing key and a value
+// of the wrong kind all read as nil, 0 or NO.
 #pragma once
 
 #include <UIKit/UIColor.h>
@@ -16,11 +16,23 @@ BOOL isOn(NSString *key);
 // nil when the value is no string.
 NSString *textSetting(NSString *key);
 
-// The colour that `key` names; `defaultName` counts only while there is no file. Names are the platform's, in
-// lower case ("black" … "yellow", "clear"); every other one, nil included, is red.
+// Every entry of the file, to be changed and written back; empty without a file that can be read.
+NSMutableDictionary *settingsToChange();
+// In the place of the old file at one go: a reader sees either the old one or the new one. When that fails
+// the old file stays.
+void writeSettings(NSDictionary *settings);
+// One entry of the file as it is now; nothing for a nil value.
+void writeSetting(NSString *key, id value);
+
+// The colour of that name: the platform's, in lower case ("black" … "yellow", "clear"); every other name, nil
+// included, is red.
+UIColor *colorFrom(NSString *name);
+// The colour that `key` names; `defaultName` counts only while there is no file.
 UIColor *color(NSString *key, NSString *defaultName);
 
-// Whether the application is left out of the badge list.
+// An application's own settings; NO for nil. Whether it is left out of the badge list, and whether its icon
+// never gets the mark that stands for a badge.
 BOOL hide_per(NSString *identifier);
+BOOL badge_per(NSString *identifier);
 
 } // namespace pendix

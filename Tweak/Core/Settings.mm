@@ -8,7 +8,41 @@ namespace {
 
 BOOL boolOf(id value) { return [value respondsToSelector:@selector(boolValue)] ? [value boolValue] : NO; }
 
-UIColor *namedColor(NSString *name) {
+BOOL isOnFor(NSString *identifier, NSString *key) {
+    id entry = identifier ? setting(identifier) : nil;
+    return [entry respondsToSelector:@selector(objectForKey:)] &&
+           boolOf([(NSDictionary *)entry objectForKey:key]);
+}
+
+} // namespace
+
+NSDictionary *readSettings() { return [NSDictionary dictionaryWithContentsOfFile:names::settingsFile]; }
+
+id setting(NSString *key) { return [readSettings() objectForKey:key]; }
+
+BOOL isOn(NSString *key) { return boolOf(setting(key)); }
+
+NSString *textSetting(NSString *key) {
+    id value = setting(key);
+    return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+
+NSMutableDictionary *settingsToChange() {
+    NSMutableDictionary *settings = [NSMutableDictionary dictionary];
+    if (NSDictionary *stored = readSettings()) [settings addEntriesFromDictionary:stored];
+    return settings;
+}
+
+void writeSettings(NSDictionary *settings) { [settings writeToFile:names::settingsFile atomically:YES]; }
+
+void writeSetting(NSString *key, id value) {
+    if (!value) return;
+    NSMutableDictionary *settings = settingsToChange();
+    [settings setObject:value forKey:key];
+    writeSettings(settings);
+}
+
+UIColor *colorFrom(NSString *name) {
     struct {
         NSString *name;
         UIColor *color;
@@ -26,28 +60,12 @@ UIColor *namedColor(NSString *name) {
     return [UIColor redColor];
 }
 
-} // namespace
-
-NSDictionary *readSettings() { return [NSDictionary dictionaryWithContentsOfFile:names::settingsFile]; }
-
-id setting(NSString *key) { return [readSettings() objectForKey:key]; }
-
-BOOL isOn(NSString *key) { return boolOf(setting(key)); }
-
-NSString *textSetting(NSString *key) {
-    id value = setting(key);
-    return [value isKindOfClass:[NSString class]] ? value : nil;
-}
-
 UIColor *color(NSString *key, NSString *defaultName) {
     NSDictionary *settings = readSettings();
-    return namedColor(settings ? [settings objectForKey:key] : defaultName);
+    return colorFrom(settings ? [settings objectForKey:key] : defaultName);
 }
 
-BOOL hide_per(NSString *identifier) {
-    id entry = identifier ? setting(identifier) : nil;
-    return [entry respondsToSelector:@selector(objectForKey:)] &&
-           boolOf([(NSDictionary *)entry objectForKey:@"hide_perapp"]);
-}
+BOOL hide_per(NSString *identifier) { return isOnFor(identifier, @"hide_perapp"); }
+BOOL badge_per(NSString *identifier) { return isOnFor(identifier, @"badge_perapp"); }
 
 } // namespace pendix

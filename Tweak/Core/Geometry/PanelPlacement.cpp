@@ -56,6 +56,18 @@ Placement placePanel(const PlacementInput &input) {
     return result;
 }
 
+Real anchoredY(Anchor anchor, Real y, Real height, Real newHeight, Real screenExtent) {
+    switch (anchor) {
+    case Anchor::middle:
+        return (screenExtent - newHeight) / 2;
+    case Anchor::bottom:
+        return y - (newHeight - height);
+    case Anchor::item:
+        break;
+    }
+    return y;
+}
+
 Rect growthPoint(const Rect &item) {
     return {item.x + (item.width + 1) / 2, item.y + item.height - kGrowthAboveBottom, 1, 1};
 }

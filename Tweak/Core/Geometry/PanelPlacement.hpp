@@ -37,6 +37,10 @@ struct PlacementInput {
 // and not where it would stick out beyond the upright panel's right end.
 Placement placePanel(const PlacementInput &input);
 
+// The y of a panel that grows or shrinks while it is shown: in the middle it stays centred on `screenExtent`
+// (the screen's height as it is held), at the bottom its lower edge stays, elsewhere its upper one.
+Real anchoredY(Anchor anchor, Real y, Real height, Real newHeight, Real screenExtent);
+
 // The point into which the panel collapses and out of which it grows: above the item's bottom centre, one
 // point square.
 Rect growthPoint(const Rect &item);

@@ -1,0 +1,163 @@
+// Taking one application off the panel: it collapses, the others close up, and it is quit or its badge is
+// cleared.
+#include "Tweak/Core/AnimationDuration.h"
+#include "Tweak/Core/Applications.h"
+#include "Tweak/Core/Geometry/StripClosing.hpp"
+#include "Tweak/Core/Geometry/StripLayout.hpp"
+#include "Tweak/Core/PanelAnchor.h"
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Core/Translator.h"
+#include "Tweak/Panel/CloseMarks.h"
+#include "Tweak/Panel/NewUIScrollView.h"
+#include "Tweak/Panel/PanelBuild.h"
+#include "Tweak/Panel/SpringBoard+Gestures.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr float kStep = 0.3f;     // seconds; collapsing, closing up and the empty text
+constexpr float kMarkFade = 0.5f; // seconds
+constexpr CGFloat kEmptySize = 16;
+constexpr NSInteger kEmptyLines = 4;
+// Tells an item that is on its way out; closing it twice would quit its neighbour's place.
+NSString *const kClosing = @"closing";
+
+// The place on the strip that the item leaves free: a drag took it above or below.
+Rect restingFrame(UIView *item) {
+    Rect frame = toRect(item.frame);
+    NSNumber *y = [item.layer valueForKey:kRestingY];
+    if (y) frame.y = [y floatValue];
+    return frame;
+}
+
+void shrinkToCentre(UIView *view) {
+    CGSize size = view.bounds.size;
+    for (UIView *part in view.subviews) {
+        for (UIView *inner in part.subviews)
+            inner.frame = CGRectMake(part.frame.size.width * 0.5, part.frame.size.height * 0.5, 0, 0);
+        part.frame = CGRectMake(size.width * 0.5, size.height * 0.5, 0, 0);
+    }
+}
+
+std::vector<Rect> restingFrames(NSArray *items) {
+    std::vector<Rect> result;
+    for (UIView *item in items) result.push_back(restingFrame(item));
+    return result;
+}
+
+// One that a finger holds above or below its place stays so.
+void moveTo(UIView *item, const Rect &place) {
+    CGRect frame = toCGRect(place);
+    frame.origin.y += item.frame.origin.y - restingFrame(item).y;
+    item.frame = frame;
+}
+
+void closeUp(const Rect &removed, int index, int rows) {
+    NSArray *items = itemViews();
+    std::vector<Rect> moved =
+        framesAfterClosing(restingFrames(items), removed, index, strip().frame.size.width, rows);
+    for (NSUInteger i = 0; i < [items count]; ++i) moveTo([items objectAtIndex:i], moved[i]);
+}
+
+void updateDots(int count, int rows) {
+    UIView *dots = pageDotsView();
+    const int pageTotal = pageCount(count, rows);
+    for (UIView *dot in dots.subviews)
+        if (dot.tag >= pageTotal) [dot removeFromSuperview];
+    if (pageTotal == 0) return;
+    CGRect row = toCGRect(dotsFrame(pageTotal, dots.superview.frame.size.width));
+    row.origin.y = dots.frame.origin.y;
+    dots.frame = row;
+    for (UIView *dot in dots.subviews) dot.frame = toCGRect(dotFrame(static_cast<int>(dot.tag)));
+}
+
+void updateContent(int rows) {
+    BOOL paging = isOn(@"paging");
+    NewUIScrollView *scroller = (NewUIScrollView *)strip();
+    std::vector<Rect> cells = restingFrames(itemViews());
+    if (paging) updateDots(static_cast<int>(cells.size()), rows);
+    CGSize size = scroller.contentSize;
+    size.width = contentWidthAfterClosing(cells, paging, rows, scroller.frame.size.width);
+    scroller.contentSize = size;
+    [scroller contentDidChange];
+}
+
+void clearBadge(NSString *identifier) {
+    [applicationOf(identifier) setBadge:nil];
+    [[UIApplication sharedApplication] cancelAllLocalNotifications];
+    UIView *mark = subviewWithTag(iconViewOf(identifier), tags::iconMark);
+    [UIView animateWithDuration:animationDuration(kMarkFade) animations:^{ mark.alpha = 1.0; }];
+}
+
+BOOL hasEmptyText() {
+    for (UIView *view in strip().subviews)
+        if ([view isKindOfClass:[UILabel class]]) return YES;
+    return NO;
+}
+
+void showEmptyText(BOOL running) {
+    if (!strip() || [itemViews() count] != 0 || hasEmptyText()) return;
+    CGSize size = strip().frame.size;
+    UILabel *label = panelLabel(CGRectMake(0, 0, size.width, size.height),
+                                Translator(running ? @"no_running_apps" : @"no_badge"), @"HelveticaNeue",
+                                kEmptySize, currentScheme().ink);
+    label.numberOfLines = kEmptyLines;
+    label.alpha = 0;
+    [strip() addSubview:label];
+    [datas removeAllObjects];
+    [UIView animateWithDuration:animationDuration(kStep) animations:^{ label.alpha = 1.0; }];
+}
+
+void finishClosing(NSString *identifier, int rows) {
+    updateContent(rows);
+    BOOL running = isOn(@"badge");
+    if (!running) {
+        clearBadge(identifier);
+    } else if (!okay) {
+        quit(identifier);
+    }
+    if (running) okay = NO;
+    showEmptyText(running);
+}
+
+void removeFromStrip(UIView *item, NSString *identifier) {
+    const int rows = numberOfRows();
+    if (item.superview != strip()) {
+        // The panel went meanwhile; what was asked for is done all the same.
+        finishClosing(identifier, rows);
+        return;
+    }
+    // Its place now, not when it was asked for: another that went meanwhile may have moved it.
+    const Rect removed = restingFrame(item);
+    const int index = static_cast<int>([itemViews() indexOfObject:item]);
+    item.frame = CGRectMake(removed.x, removed.y, 0, 0);
+    [item removeFromSuperview];
+    [UIView animateWithDuration:animationDuration(kStep)
+        animations:^{ closeUp(removed, index, rows); }
+        completion:^(BOOL) { finishClosing(identifier, rows); }];
+}
+
+} // namespace
+
+void added::closeIcon(SpringBoard *, SEL, UIView *item) {
+    isSliding = NO;
+    if (!item.superview || [[item.layer valueForKey:kClosing] boolValue]) return;
+    [item.layer setValue:[NSNumber numberWithBool:YES] forKey:kClosing];
+    NSString *identifier = [[item.layer.name copy] autorelease];
+    [datas removeObject:identifier];
+    [UIView animateWithDuration:animationDuration(kStep)
+        animations:^{ shrinkToCentre(item); }
+        completion:^(BOOL) { removeFromStrip(item, identifier); }];
+}
+
+void added::close(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
+    [self closeIcon:recognizer.view.superview];
+}
+
+} // namespace pendix

@@ -1,0 +1,84 @@
+// Closing the panel back into the indicator.
+#include "Tweak/Core/AnimationDuration.h"
+#include "Tweak/Core/FingerMonitor.h"
+#include "Tweak/Core/PanelAnchor.h"
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/SpringBoard+Device.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/StatusBar/SpringBoard+Badges.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr float kClosing = 0.5f;          // seconds
+constexpr CFTimeInterval kSquaring = 0.5; // seconds, whatever `fast` says
+constexpr CGFloat kPanelRadius = 10;
+
+void squareCorners(UIView *panel) {
+    CABasicAnimation *squaring = [CABasicAnimation animationWithKeyPath:@"cornerRadius"];
+    squaring.timingFunction = [CAMediaTimingFunction functionWithName:kCAMediaTimingFunctionLinear];
+    squaring.fromValue = [NSNumber numberWithDouble:kPanelRadius];
+    squaring.toValue = [NSNumber numberWithDouble:0];
+    squaring.duration = kSquaring;
+    panel.layer.cornerRadius = 0;
+    [panel.layer addAnimation:squaring forKey:@"cornerRadius"];
+}
+
+// Where the panel shrinks to. An indicator that has just been hidden has left its glyph's copy behind.
+CGRect collapsePoint(SpringBoard *springBoard) {
+    UIView *item = [springBoard pendix];
+    return toCGRect(growthPoint(toRect(item ? item.frame : overlayView(tags::logo).frame)));
+}
+
+void collapse(SpringBoard *springBoard) {
+    CGRect point = collapsePoint(springBoard);
+    for (UIView *view in window.subviews) {
+        if (view.tag == tags::dismissView || view.tag == tags::logo) continue;
+        if (view.tag == tags::screenBackdrop) {
+            view.alpha = 0;
+        } else {
+            view.frame = point;
+        }
+    }
+}
+
+void stopHands() {
+    UIView *clock = [strip() viewWithTag:tags::clockItem];
+    const NSInteger hands[] = {tags::secondHand, tags::minuteHand, tags::hourHand};
+    for (NSInteger tag : hands) [[clock viewWithTag:tag].layer removeAllAnimations];
+}
+
+void tearDown() {
+    // Opened again while it closed: what stands in the window belongs to the new panel.
+    if (isShow) return;
+    window.userInteractionEnabled = NO;
+    stopHands();
+    for (UIView *view in window.subviews)
+        if (view.tag != tags::dismissView && view.tag != tags::screenBackdrop) [view removeFromSuperview];
+}
+
+} // namespace
+
+void added::dismisPendixUI(SpringBoard *self, SEL) {
+    if (!isShow) return;
+    NSLog(@"<Pendix> Pendix's UI dismissing!");
+    isShow = NO;
+    isEditing = NO;
+    requireFinger = NO;
+    if ([self hasTouchID]) stopFingerMonitor();
+    squareCorners(panelView()); // at its own pace, so outside the block
+    [UIView animateWithDuration:animationDuration(kClosing)
+        animations:^{
+            window.backgroundColor = [UIColor clearColor];
+            for (UIView *view in [self statusBarItemViews])
+                if (![self isPendix:view]) view.alpha = 1.0;
+            collapse(self);
+        }
+        completion:^(BOOL) { tearDown(); }];
+}
+
+} // namespace pendix

@@ -1,0 +1,81 @@
+// Bubble, panel, logo, content view and strip.
+#include "Tweak/Panel/PanelBuild.h"
+
+#include "Tweak/Core/PanelAnchor.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr NSInteger kDarkStyle = 2030, kLightStyle = 2060;
+constexpr CGFloat kLightBubbleAlpha = 0.7;
+
+_UIBackdropViewSettings *material(const Scheme &scheme) {
+    return scheme.light ? [objc_getClass("_UIBackdropViewSettingsAdaptiveLight") settingsForStyle:kLightStyle]
+                        : [objc_getClass("_UIBackdropViewSettingsDark") settingsForStyle:kDarkStyle];
+}
+
+// A plain view where the system has no such material.
+UIView *backdrop(CGRect frame, const Scheme &scheme, UIColor *color, NSInteger tag) {
+    Class backdropClass = objc_getClass("_UIBackdropView");
+    UIView *view = backdropClass ? [[backdropClass alloc] initWithFrame:frame
+                                                autosizesToFitSuperview:NO
+                                                               settings:material(scheme)]
+                                 : [[UIView alloc] initWithFrame:frame];
+    view.tag = tag;
+    view.backgroundColor = color;
+    view.layer.masksToBounds = YES;
+    view.userInteractionEnabled = YES;
+    return [view autorelease];
+}
+
+} // namespace
+
+void addBubbleAndPanel(PanelBuild &build) {
+    const Scheme &scheme = build.scheme;
+    CGRect bubbleFrame = toCGRect(build.placement.bubble);
+    UIColor *clear = [UIColor clearColor];
+    UIColor *bubbleColor = scheme.light ? [UIColor colorWithWhite:1 alpha:kLightBubbleAlpha] : clear;
+    build.bubble = backdrop(bubbleFrame, scheme, bubbleColor, tags::bubble);
+    // Far more than half its width, so that it is round whatever size it has on the way.
+    build.bubble.layer.cornerRadius = 2 * bubbleFrame.size.width;
+    build.bubble.alpha = build.placement.bubbleAlpha;
+
+    build.panel = backdrop(toCGRect(build.placement.panel), scheme,
+                           scheme.light ? [UIColor whiteColor] : clear, tags::panel);
+    build.panel.layer.cornerRadius = 0;
+
+    CGRect seed = toCGRect(growthPoint(toRect(build.item.frame)));
+    build.bubble.frame = seed;
+    build.panel.frame = seed;
+}
+
+void addLogo(PanelBuild &build) {
+    UIImageView *logo = [[[UIImageView alloc] initWithFrame:build.item.frame] autorelease];
+    logo.image =
+        [[[build.item contentsImage] image] imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    logo.tintColor = build.scheme.paper;
+    logo.contentMode = UIViewContentModeCenter;
+    logo.tag = tags::logo;
+    build.logo = logo;
+}
+
+void addContentAndStrip(PanelBuild &build) {
+    CGRect frame = CGRectMake(0, 0, build.placement.panel.width, gheight);
+    build.content = [[[UIView alloc] initWithFrame:frame] autorelease];
+    build.content.tag = tags::content;
+    build.content.backgroundColor = [UIColor clearColor];
+    build.content.userInteractionEnabled = YES;
+
+    NewUIScrollView *strip = [[[NewUIScrollView alloc] initWithFrame:frame] autorelease];
+    strip.pagingEnabled = build.paging;
+    strip.backgroundColor = [UIColor clearColor];
+    strip.showsHorizontalScrollIndicator = NO;
+    strip.showsVerticalScrollIndicator = NO;
+    strip.userInteractionEnabled = YES;
+    build.strip = strip;
+}
+
+} // namespace pendix

@@ -1,0 +1,118 @@
+// One application on the strip.
+#include "Tweak/Panel/PanelBuild.h"
+
+#include "Tweak/Core/PanelAnchor.h"
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/SpringBoard+Gestures.h"
+
+namespace pendix {
+
+namespace {
+
+NSString *const kClock = @"com.apple.mobiletimer";
+NSString *const kCloseImage = @"/Library/Application Support/Pendix/close@2x.png";
+
+constexpr CGFloat kNameBelowIcon = 5, kNameHeight = 15, kNameBeyond = 10, kNameSize = 12;
+constexpr CGFloat kMarkOrigin = 4;
+constexpr CFTimeInterval kLongPress = 0.1; // seconds
+
+UIImageView *addIcon(PanelBuild &build, const PanelApplication &application, UIView *itemView) {
+    const CGFloat inset = cellInset(build.layout);
+    SBIconImageView *source = [application.iconView _iconImageView];
+    CGSize size = source.frame.size;
+    CGRect frame = CGRectMake(0, 0, size.width - inset, size.height - inset);
+    UIImageView *icon = [[[UIImageView alloc] initWithFrame:frame] autorelease];
+    icon.tag = tags::itemIcon;
+    icon.image = [source contentsImage];
+    [itemView addSubview:icon];
+    return icon;
+}
+
+void addName(PanelBuild &build, NSString *name, UIView *itemView, UIView *icon) {
+    CGRect frame = CGRectMake(-kNameBeyond, CGRectGetMaxY(icon.frame) + kNameBelowIcon,
+                              itemView.frame.size.width + 2 * kNameBeyond, kNameHeight);
+    UILabel *label = panelLabel(frame, name, @"HelveticaNeue", kNameSize, build.scheme.ink);
+    label.lineBreakMode = NSLineBreakByTruncatingMiddle;
+    [itemView addSubview:label];
+}
+
+// Without size until editing begins.
+void addCloseMark(PanelBuild &build, UIView *itemView) {
+    UIImageView *mark = [[UIImageView alloc] initWithFrame:CGRectMake(kMarkOrigin, kMarkOrigin, 0, 0)];
+    mark.tag = tags::closeMark;
+    mark.image = [[UIImage imageWithContentsOfFile:kCloseImage]
+        imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    mark.tintColor = build.scheme.ink;
+    mark.backgroundColor = build.scheme.paper;
+    mark.layer.cornerRadius = panelBadgeHeight() / 2;
+    mark.userInteractionEnabled = YES;
+    UITapGestureRecognizer *tap = [[UITapGestureRecognizer alloc] initWithTarget:build.springBoard
+                                                                          action:@selector(close:)];
+    [mark addGestureRecognizer:tap];
+    [tap release];
+    [itemView addSubview:mark];
+    [mark release];
+}
+
+void addSwipe(PanelBuild &build, UIView *itemView) {
+    UIPanGestureRecognizer *pan = [[UIPanGestureRecognizer alloc] initWithTarget:build.springBoard
+                                                                          action:@selector(swipeToClose:)];
+    swipeController *delegate = [swipeController new];
+    pan.delegate = delegate;
+    // A recogniser does not retain its delegate; the item's layer keeps this one for as long as it lives.
+    [itemView.layer setValue:delegate forKey:@"swipeDelegate"];
+    [itemView addGestureRecognizer:pan];
+    [delegate release];
+    [pan release];
+}
+
+void addGestures(PanelBuild &build, UIView *itemView) {
+    if (!build.closeMarks) addSwipe(build, itemView);
+    UITapGestureRecognizer *tap = [[UITapGestureRecognizer alloc] initWithTarget:build.springBoard
+                                                                          action:@selector(tapPressEvent:)];
+    UILongPressGestureRecognizer *press =
+        [[UILongPressGestureRecognizer alloc] initWithTarget:build.springBoard
+                                                      action:@selector(longPressEvent:)];
+    press.minimumPressDuration = kLongPress;
+    [press requireGestureRecognizerToFail:tap];
+    [itemView addGestureRecognizer:tap];
+    [itemView addGestureRecognizer:press];
+    [tap release];
+    [press release];
+}
+
+} // namespace
+
+void addItem(PanelBuild &build, const PanelApplication &application, int index) {
+    UIView *itemView = [[UIView alloc] initWithFrame:toCGRect(cellFrame(build.layout, index))];
+    itemView.layer.name = application.identifier;
+    itemView.backgroundColor = [UIColor clearColor];
+    itemView.userInteractionEnabled = YES;
+
+    UIImageView *icon = addIcon(build, application, itemView);
+    CGRect iconFrame = icon.frame;
+    if (build.cards) makeCard(build, application, itemView, icon);
+    addName(build, [application.application displayName], itemView, icon);
+    addCloseMark(build, itemView);
+    if ([application.identifier isEqualToString:kClock]) drawClock(itemView, icon);
+    addGestures(build, itemView);
+    addBadge(application, itemView, iconFrame);
+    [itemView bringSubviewToFront:[itemView viewWithTag:tags::itemCardIcon]];
+
+    [build.strip addSubview:itemView];
+    [itemView release];
+}
+
+UILabel *panelLabel(CGRect frame, NSString *text, NSString *font, CGFloat size, UIColor *ink) {
+    UILabel *label = [[[UILabel alloc] initWithFrame:frame] autorelease];
+    label.text = text;
+    label.textAlignment = NSTextAlignmentCenter;
+    label.font = [UIFont fontWithName:font size:size];
+    label.textColor = ink;
+    return label;
+}
+
+} // namespace pendix

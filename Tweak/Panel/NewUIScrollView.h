@@ -1,0 +1,18 @@
+// The panel's strip: a scroll view that is its own delegate, knows whether it moves, and keeps the page dots.
+#pragma once
+
+#include <UIKit/UIScrollView.h>
+
+@interface NewUIScrollView : UIScrollView <UIScrollViewDelegate> {
+    BOOL _isScrolling;
+}
+// YES from the first movement until the finger lifts or the deceleration ends.
+- (BOOL)scrolling;
+// After the content changed under it: movement counts only while a finger or a deceleration is at work, and
+// the dots follow the page that is shown now.
+- (void)contentDidChange;
+@end
+
+// The delegate of an item's swipe recogniser, never attached itself: the swipe goes along with scrolling.
+@interface swipeController : UISwipeGestureRecognizer <UIGestureRecognizerDelegate>
+@end

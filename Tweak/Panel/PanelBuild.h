@@ -1,0 +1,70 @@
+// One opening of the panel: what its building steps share. It lives as long as prepareUI: runs.
+#pragma once
+
+#include "Tweak/Core/Geometry/PanelPlacement.hpp"
+#include "Tweak/Core/Geometry/StripLayout.hpp"
+#include "Tweak/Core/Scheme.h"
+#include "Tweak/Panel/NewUIScrollView.h"
+
+#include <SpringBoard/SBApplication.h>
+#include <SpringBoard/SBIcon.h>
+#include <SpringBoard/SpringBoard.h>
+#include <UIKit/UIKit.h>
+
+namespace pendix {
+
+struct PanelBuild {
+    SpringBoard *springBoard;
+    UIStatusBarItemView *item; // out of which the panel grows
+
+    // Settings and surroundings, read once.
+    Scheme scheme;
+    BOOL running; // lists running applications, not badged ones
+    BOOL paging;
+    BOOL cards;
+    BOOL closeMarks; // closing by marks instead of swipes
+    CGSize screen;   // portrait
+    StripInput layout;
+    Placement placement; // with the strip's height
+
+    // Views, retained by where they stand.
+    UIView *bubble, *panel, *content, *logo;
+    NewUIScrollView *strip;
+    UIView *dots; // nil without paging or applications
+
+    int count;      // applications on the strip
+    CGFloat height; // the panel's, when it is open
+};
+
+// The steps, in their order; each builds one thing into `build`.
+void addBubbleAndPanel(PanelBuild &build);
+void addLogo(PanelBuild &build);
+void addContentAndStrip(PanelBuild &build);
+void addApplications(PanelBuild &build);
+void addPageDots(PanelBuild &build);
+void addEmptyText(PanelBuild &build);
+void fitCards(PanelBuild &build);
+void assemble(PanelBuild &build);
+void openPanel(PanelBuild &build);
+
+// What one application shows on the strip; retained by nobody.
+struct PanelApplication {
+    NSString *identifier;
+    SBApplication *application;
+    SBIcon *icon;
+    SBIconView *iconView;
+};
+
+// Builds the application's item view into the strip, as the one at `index`.
+void addItem(PanelBuild &build, const PanelApplication &application, int index);
+
+// The parts of an item view.
+void makeCard(PanelBuild &build, const PanelApplication &application, UIView *itemView,
+              UIImageView *iconImage);
+void addBadge(const PanelApplication &application, UIView *itemView, CGRect iconFrame);
+void drawClock(UIView *itemView, UIView *iconImage);
+
+// A label in the panel's type: centred, in ink.
+UILabel *panelLabel(CGRect frame, NSString *text, NSString *font, CGFloat size, UIColor *ink);
+
+} // namespace pendix

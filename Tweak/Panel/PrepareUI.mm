@@ -1,0 +1,83 @@
+#include "Tweak/Panel/PanelBuild.h"
+
+#include "Tweak/Core/LockFaces.h"
+#include "Tweak/Core/PanelAnchor.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Screen.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/SpringBoard+Device.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/SpringBoard+Panel.h"
+
+namespace pendix {
+
+namespace {
+
+// A closing that has not finished when the next opening begins leaves views behind.
+void removeLeftovers() {
+    for (UIView *view in window.subviews)
+        if (view.tag != tags::screenBackdrop && view.tag != tags::dismissView) [view removeFromSuperview];
+}
+
+PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
+    PanelBuild build = {};
+    build.springBoard = springBoard;
+    build.item = item;
+    build.scheme = currentScheme();
+    build.running = isOn(@"badge");
+    build.paging = isOn(@"paging");
+    build.cards = isOn(@"ca");
+    build.closeMarks = isOn(@"close");
+    build.screen = portraitScreenBounds().size;
+
+    CGSize icon = [objc_getClass("SBIconView") defaultIconSize];
+    gheight = static_cast<float>(stripHeight(icon.height, build.paging));
+    lastGheight = 0;
+    lastx = static_cast<float>(item.frame.origin.x);
+    build.height = gheight;
+    build.placement = placePanel({.item = toRect(item.frame),
+                                  .screen = {build.screen.width, build.screen.height},
+                                  .landscape = static_cast<bool>(isLandscape()),
+                                  .anchor = Anchor::item,
+                                  .height = gheight});
+    build.layout = {.icon = {icon.width, icon.height},
+                    .rows = numberOfRows(),
+                    .paging = static_cast<bool>(build.paging),
+                    .bigScreen = static_cast<bool>([springBoard hasBigScreen]),
+                    .strip = {build.placement.panel.width, gheight}};
+    return build;
+}
+
+} // namespace
+
+void added::prepareUI(SpringBoard *self, SEL, UIStatusBarItemView *item) {
+    if (isShow) return;
+    armLock();
+    isShow = YES;
+    removeLeftovers();
+
+    PanelBuild build = startBuild(self, item);
+    addBubbleAndPanel(build);
+    addLogo(build);
+    addContentAndStrip(build);
+    addApplications(build);
+    addPageDots(build);
+    addEmptyText(build);
+    assemble(build);
+    if (isLocked()) {
+        build.height = addLockFaces({.springBoard = self,
+                                     .content = build.content,
+                                     .strip = build.strip,
+                                     .dots = build.dots,
+                                     .scheme = build.scheme,
+                                     .width = build.placement.panel.width,
+                                     .count = build.count,
+                                     .running = build.running});
+    } else {
+        fitCards(build);
+    }
+    openPanel(build);
+}
+
+} // namespace pendix

@@ -1,0 +1,58 @@
+// Bringing the panel up.
+#include "Tweak/Core/AnimationDuration.h"
+#include "Tweak/Core/PanelOpening.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/StatusBar/SpringBoard+Badges.h"
+#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr float kDimming = 0.5f;                // seconds
+constexpr NSTimeInterval kFollowInterval = 0.1; // seconds
+constexpr CGFloat kDimmedItems = 0.3;
+
+UIColor *dimming() {
+    constexpr CGFloat kBarely = 0.01, kStrong = 0.7;
+    if (isOn(@"back")) return [UIColor colorWithWhite:0 alpha:kBarely];
+    return [UIColor colorWithWhite:currentScheme().light ? 0 : 1 alpha:kStrong];
+}
+
+void follow(SpringBoard *springBoard) {
+    NSTimer *follower = [NSTimer scheduledTimerWithTimeInterval:kFollowInterval
+                                                         target:springBoard
+                                                       selector:@selector(alphaStatusBar:)
+                                                       userInfo:nil
+                                                        repeats:YES];
+    [follower fire];
+}
+
+} // namespace
+
+void bringUpPanel(SpringBoard *self) {
+    NSLog(@"<Pendix> Loading Pendix UI!");
+    window.userInteractionEnabled = YES;
+    window1 = [[UIApplication sharedApplication] statusBarWindow];
+    [self prepareUI:[self pendix]];
+    isSliding = NO;
+    isEditing = NO;
+    UIColor *behind = dimming();
+    [UIView animateWithDuration:animationDuration(kDimming)
+        animations:^{
+            window.backgroundColor = behind;
+            for (UIView *view in [self statusBarItemViews])
+                if (![self isPendix:view]) view.alpha = kDimmedItems;
+        }
+        completion:^(BOOL) { follow(self); }];
+}
+
+void added::tap(SpringBoard *self, SEL) {
+    if (isOn(@"enable")) bringUpPanel(self);
+}
+
+} // namespace pendix
