@@ -14,10 +14,11 @@ namespace {
 constexpr CGFloat kDimmed = 0.3;
 constexpr float kFollowDuration = 0.2f; // seconds
 
-// On a turned iPhone the status bar's window does not start where the overlay does.
-CGRect frameInOverlay(UIView *item) {
+// On a turned iPhone, and while the screen is let down, the status bar's window does not start where the
+// overlay does.
+CGRect frameInOverlay(UIView *item, BOOL letDown) {
     CGRect frame = item.frame;
-    if (isPad() || !isLandscape()) return frame;
+    if (!letDown && (isPad() || !isLandscape())) return frame;
     CGPoint origin = window1.frame.origin;
     return CGRectMake(frame.origin.x + origin.x, frame.origin.y + origin.y, frame.size.width,
                       frame.size.height);
@@ -27,12 +28,14 @@ CGRect frameInOverlay(UIView *item) {
 void moveWith(UIView *item, BOOL reachability, float duration) {
     UIView *panel = [window viewWithTag:tags::panel], *bubble = [window viewWithTag:tags::bubble];
     CGSize screen = portraitScreenBounds().size;
-    Placement placement = placePanel({.item = toRect(frameInOverlay(item)),
+    const Anchor anchor = currentAnchor(reachability);
+    Placement placement = placePanel({.item = toRect(frameInOverlay(item, NO)),
                                       .screen = {screen.width, screen.height},
                                       .landscape = static_cast<bool>(isLandscape()),
-                                      .anchor = currentAnchor(reachability),
+                                      .anchor = anchor,
                                       .height = panel.frame.size.height});
-    [window viewWithTag:tags::logo].frame = frameInOverlay(item);
+    // A panel that hangs on the item keeps the logo by its side; otherwise the logo lies on the item.
+    [window viewWithTag:tags::logo].frame = frameInOverlay(item, reachability && anchor != Anchor::item);
     [UIView animateWithDuration:duration
                      animations:^{
                          panel.frame = toCGRect(placement.panel);

@@ -1,19 +1,92 @@
-// Rows of the hook table for the look of the home screen's own badges. Restyling them is not built yet: the
-// system's methods run as they are.
+// The home screen's own badges: hidden, and replaced by a small mark in the icon's corner that fades while
+// its application is open.
+#include "Tweak/Core/AnimationDuration.h"
+#include "Tweak/Core/Applications.h"
+#include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/Support/UIImage+AverageColor.h"
+#include "Tweak/Core/Tags.h"
 
 namespace pendix {
 
-id hooked::initBadgeView(SBIconBadgeView *self, SEL _cmd) { return original::initBadgeView(self, _cmd); }
+namespace {
+
+NSString *const kMarkImage = @"/Library/Application Support/Pendix/pendixMiniNotification.png";
+
+constexpr float kFade = 0.2f;     // seconds, when a badge changes and when the application opens
+constexpr float kFadeBack = 0.5f; // when the application is left
+
+UIView *markOn(SBIconView *iconView) { return subviewWithTag(iconView, tags::iconMark); }
+
+void fade(UIView *mark, CGFloat alpha, float seconds) {
+    [UIView animateWithDuration:animationDuration(seconds) animations:^{ mark.alpha = alpha; }];
+}
+
+BOOL wantsMark(SBIcon *icon) {
+    return !badge_per([icon nodeIdentifier]) && isOn(@"b") && isOn(@"enable") && isOn(@"newb");
+}
+
+void addMark(SBIconView *iconView) {
+    SBIconImageView *iconImage = [iconView _iconImageView];
+    UIImage *image = [UIImage imageWithContentsOfFile:kMarkImage];
+    CGRect corner = iconImage.frame;
+    UIImageView *mark =
+        [[UIImageView alloc] initWithFrame:CGRectMake(corner.size.width - image.size.width, corner.origin.y,
+                                                      image.size.width, image.size.height)];
+    mark.image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    mark.tintColor = isOn(@"auto") ? [[iconImage contentsImage] mergedColor] : color(@"colors", @"red");
+    mark.tag = tags::iconMark;
+    [iconView addSubview:mark];
+    [mark release];
+}
+
+// Another badge may have come before the mark is gone; then it stays.
+void fadeOutAndRemove(UIView *mark, SBIconView *iconView) {
+    [UIView animateWithDuration:animationDuration(kFade)
+        animations:^{ mark.alpha = 0; }
+        completion:^(BOOL) {
+            if ([[iconView icon] badgeValue] == 0) [mark removeFromSuperview];
+        }];
+}
+
+UIView *markOfApplication(SBApplication *application) {
+    return markOn(iconViewOf(identifierOf(application)));
+}
+
+} // namespace
+
+// Badge views that are there already stay as they are until they are made again.
+id hooked::initBadgeView(SBIconBadgeView *self, SEL _cmd) {
+    SBIconBadgeView *view = original::initBadgeView(self, _cmd);
+    if (view && isOn(@"b") && isOn(@"enable")) view.hidden = YES;
+    return view;
+}
 
 void hooked::updateAccessoryView(SBIconView *self, SEL _cmd, BOOL animated) {
     original::updateAccessoryView(self, _cmd, animated);
+    if (![self respondsToSelector:@selector(icon)]) return;
+    SBIcon *icon = [self icon];
+    UIView *mark = markOn(self);
+    if (!wantsMark(icon)) return [mark removeFromSuperview];
+    const BOOL hasBadge = [icon badgeValue] != 0;
+    if (!mark && hasBadge) {
+        addMark(self);
+    } else if (mark && hasBadge) {
+        fade(mark, 1, kFade);
+    } else if (mark) {
+        fadeOutAndRemove(mark, self);
+    }
 }
 
-void hooked::willActivate(SBApplication *self, SEL _cmd) { original::willActivate(self, _cmd); }
+void hooked::willActivate(SBApplication *self, SEL _cmd) {
+    original::willActivate(self, _cmd);
+    fade(markOfApplication(self), 0, kFade);
+}
 
 void hooked::willAnimateDeactivation(SBApplication *self, SEL _cmd, BOOL animated) {
     original::willAnimateDeactivation(self, _cmd, animated);
+    fade(markOfApplication(self), 1, kFadeBack);
 }
 
 decltype(original::initBadgeView) original::initBadgeView = nullptr;

@@ -4,8 +4,8 @@
 
 namespace pendix {
 
-// Opens the panel from outside the status bar. NO, with a line in the log, when the indicator has no view to
-// open it from.
+// Opens the panel from outside the status bar, whatever `enable` says: a caller that heeds the setting reads
+// it itself. NO, with a line in the log, when the indicator has no view to open it from.
 BOOL showPanel();
 
 } // namespace pendix

@@ -1,7 +1,7 @@
 #include "Tweak/Triggers/ShowPanel.h"
 
+#include "Tweak/Core/PanelOpening.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
 #include "Tweak/StatusBar/SpringBoard+Badges.h"
 
 namespace pendix {
@@ -12,7 +12,7 @@ BOOL showPanel() {
         NSLog(@"<Pendix> Error while showing UI!");
         return NO;
     }
-    [Spring tap];
+    bringUpPanel(Spring);
     return YES;
 }
 

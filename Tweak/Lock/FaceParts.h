@@ -1,0 +1,33 @@
+// What the three lock faces are made of. Each is added to its parent, which alone retains it.
+#pragma once
+
+#include "Tweak/Core/LockFaces.h"
+#include "Tweak/Core/PanelAnchor.h"
+
+#include <UIKit/UIKit.h>
+
+namespace pendix {
+
+// A clear face over the strip, as wide as the panel.
+UIView *addFace(const LockFacesInput &input, NSInteger tag, CGFloat height);
+
+// The face's title or message, centred, in ink.
+UILabel *addFaceText(UIView *face, CGRect frame, NSString *text, NSInteger lines, const Scheme &scheme);
+
+// A button with the text for `key`, which sends `action` to the application.
+UIButton *addFaceButton(UIView *face, const LockFacesInput &input, CGRect frame, NSString *key, SEL action);
+
+// The faces themselves.
+UIView *addKeypad(const LockFacesInput &input, BOOL sensor);
+UIView *addFingerFace(const LockFacesInput &input);
+UIView *addAskFace(const LockFacesInput &input);
+
+// Gives the panel's keypad, if it has one, the sizes for the way the screen is held.
+void layoutKeypad(BOOL sensor);
+
+// A lock face of the panel by its tag, nil when it is not there.
+UIView *lockFace(NSInteger tag);
+
+void setX(UIView *view, CGFloat x);
+
+} // namespace pendix

@@ -1,0 +1,54 @@
+#include "Tweak/Lock/FaceParts.h"
+
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Core/Translator.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr CGFloat kTextSize = 20;
+constexpr CGFloat kButtonAlpha = 0.1;
+
+} // namespace
+
+UIView *addFace(const LockFacesInput &input, NSInteger tag, CGFloat height) {
+    UIView *face = [[UIView alloc] initWithFrame:CGRectMake(0, 0, input.width, height)];
+    face.tag = tag;
+    face.backgroundColor = [UIColor clearColor];
+    [input.content addSubview:face];
+    return [face autorelease];
+}
+
+UILabel *addFaceText(UIView *face, CGRect frame, NSString *text, NSInteger lines, const Scheme &scheme) {
+    UILabel *label = [[UILabel alloc] initWithFrame:frame];
+    label.tag = tags::faceTitle;
+    label.text = text;
+    label.textAlignment = NSTextAlignmentCenter;
+    label.numberOfLines = lines;
+    label.textColor = scheme.ink;
+    label.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:kTextSize];
+    [face addSubview:label];
+    return [label autorelease];
+}
+
+UIButton *addFaceButton(UIView *face, const LockFacesInput &input, CGRect frame, NSString *key, SEL action) {
+    UIButton *button = [[UIButton alloc] initWithFrame:frame];
+    button.backgroundColor = [UIColor colorWithWhite:1 alpha:kButtonAlpha];
+    [button setTitle:Translator(key) forState:UIControlStateNormal];
+    [button setTitleColor:input.scheme.ink forState:UIControlStateNormal];
+    [button addTarget:input.springBoard action:action forControlEvents:UIControlEventTouchUpInside];
+    [face addSubview:button];
+    return [button autorelease];
+}
+
+UIView *lockFace(NSInteger tag) { return subviewWithTag(contentView(), tag); }
+
+void setX(UIView *view, CGFloat x) {
+    CGRect frame = view.frame;
+    frame.origin.x = x;
+    view.frame = frame;
+}
+
+} // namespace pendix

@@ -1,0 +1,141 @@
+// Entering a code, and what a wrong one looks like.
+#include "Tweak/Core/AnimationDuration.h"
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Core/Translator.h"
+#include "Tweak/Lock/CodeEntry.hpp"
+#include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/Passcode.h"
+#include "Tweak/Lock/Shake.hpp"
+#include "Tweak/Lock/SpringBoard+Lock.h"
+#include "Tweak/Panel/SpringBoard+Panel.h"
+
+#include <AudioToolbox/AudioServices.h>
+
+namespace pendix {
+
+namespace {
+
+constexpr SystemSoundID kKeyClick = 1104, kVibration = 4095;
+constexpr float kFlash = 0.1f, kDotChange = 0.2f, kShakeMove = 0.1f; // seconds
+
+UIView *dotAt(UIView *keypad, int dot) { return subviewWithTag(keypad, tags::firstPasscodeDot + dot); }
+
+FilledDots filledDots(UIView *keypad) {
+    FilledDots filled = {};
+    for (int dot = 0; dot < kCodeLength; ++dot)
+        filled[static_cast<size_t>(dot)] = [dotAt(keypad, dot).layer.name length] != 0;
+    return filled;
+}
+
+NSString *enteredCode(UIView *keypad) {
+    return [NSString stringWithFormat:@"%@%@%@%@", dotAt(keypad, 0).layer.name, dotAt(keypad, 1).layer.name,
+                                      dotAt(keypad, 2).layer.name, dotAt(keypad, 3).layer.name];
+}
+
+UIButton *deleteButton(UIView *keypad) { return (UIButton *)subviewWithTag(keypad, tags::faceButton); }
+
+void setTitle(UIButton *button, NSString *key) {
+    [button setTitle:Translator(key) forState:UIControlStateNormal];
+}
+
+// Keys take the next touch while they flash, so that a digit may come twice in quick succession.
+void flash(UIView *key, UIColor *ink) {
+    const float duration = animationDuration(kFlash);
+    [UIView animateWithDuration:duration
+        delay:0
+        options:UIViewAnimationOptionAllowUserInteraction
+        animations:^{ key.backgroundColor = ink; }
+        completion:^(BOOL finished) {
+            if (!finished) return; // another flash has begun
+            [UIView animateWithDuration:duration
+                                  delay:0
+                                options:UIViewAnimationOptionAllowUserInteraction
+                             animations:^{ key.backgroundColor = [UIColor clearColor]; }
+                             completion:nil];
+        }];
+}
+
+void compareCode(SpringBoard *springBoard, UIView *keypad) {
+    if (matchesPasscode(enteredCode(keypad), setting(@"password"))) {
+        [springBoard unlockPendix:tags::keypadFace];
+        return;
+    }
+    AudioServicesPlaySystemSound(kVibration);
+    [springBoard tryAgain:keypad];
+    setTitle(deleteButton(keypad), @"cancel");
+}
+
+void enter(SpringBoard *springBoard, UIView *keypad, int digit, UIColor *ink) {
+    const std::optional<int> place = dotToFill(filledDots(keypad));
+    if (!place) return;
+    const bool completes = *place == kCodeLength - 1;
+    UIView *dot = dotAt(keypad, *place);
+    dot.layer.name = [NSString stringWithFormat:@"%d", digit];
+    if (*place == 0) setTitle(deleteButton(keypad), @"delete");
+    [UIView animateWithDuration:animationDuration(kDotChange)
+        animations:^{ dot.backgroundColor = ink; }
+        completion:^(BOOL) {
+            if (completes) compareCode(springBoard, keypad);
+        }];
+}
+
+void clearDot(UIView *dot) {
+    dot.layer.name = @"";
+    dot.backgroundColor = [UIColor clearColor];
+}
+
+} // namespace
+
+void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
+    UIView *key = recognizer.view, *keypad = key.superview;
+    UIColor *ink = currentScheme().ink;
+    AudioServicesPlaySystemSound(kKeyClick);
+    flash(key, ink);
+    [deleteButton(keypad) setTitleColor:ink forState:UIControlStateNormal];
+    enter(self, keypad, digitOfKey(static_cast<int>(key.tag)), ink);
+}
+
+void added::dismisPendixUIorDelete(SpringBoard *self, SEL, UIButton *button) {
+    UIView *keypad = button.superview;
+    const std::optional<int> place = dotToClear(filledDots(keypad));
+    if (!place) {
+        [self dismisPendixUI];
+        return;
+    }
+    UIView *dot = dotAt(keypad, *place);
+    [UIView animateWithDuration:animationDuration(kDotChange) animations:^{ clearDot(dot); }];
+    if (*place == 0) setTitle(button, @"cancel");
+}
+
+void added::tryAgain(SpringBoard *self, SEL, UIView *keypad) {
+    keypad = [keypad viewWithTag:tags::keypadFace];
+    ((UILabel *)subviewWithTag(keypad, tags::faceTitle)).text = Translator(@"try");
+    [UIView animateWithDuration:animationDuration(kDotChange)
+                     animations:^{
+                         for (int dot = 0; dot < kCodeLength; ++dot) clearDot(dotAt(keypad, dot));
+                     }];
+    const ShakeMove first;
+    [self animateError:keypad duration:first.distance first:first.left sign:first.sign];
+}
+
+void added::animateError(SpringBoard *self, SEL, UIView *keypad, int distance, int left, int sign) {
+    const ShakeMove move = {distance, left, sign};
+    [UIView animateWithDuration:animationDuration(kShakeMove)
+        animations:^{
+            for (int dot = 0; dot < kCodeLength; ++dot) {
+                UIView *view = dotAt(keypad, dot);
+                setX(view, view.frame.origin.x + offset(move));
+            }
+        }
+        completion:^(BOOL) {
+            const std::optional<ShakeMove> next = nextMove(move);
+            if (!next) return;
+            [self animateError:keypad duration:next->distance first:next->left sign:next->sign];
+        }];
+}
+
+} // namespace pendix

@@ -1,0 +1,102 @@
+#include "Tweak/Lock/PendixTouchIDController.h"
+
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Shimmer.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Core/Translator.h"
+#include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/SpringBoard+Lock.h"
+
+#include <AudioToolbox/AudioServices.h>
+
+namespace {
+
+constexpr SystemSoundID kVibration = 4095;
+constexpr NSInteger kIdle = 0, kScanning = 1, kTicked = 6; // of the glyph
+
+SBUIBiometricEventMonitor *monitor() {
+    return [(BiometricKit *)[objc_getClass("BiometricKit") manager] delegate];
+}
+
+UIView *fingerFace() { return pendix::lockFace(pendix::tags::fingerFace); }
+
+} // namespace
+
+@implementation PendixTouchIDController
+
+- (PKGlyphView *)fingerPrint {
+    return (PKGlyphView *)pendix::subviewWithTag(fingerFace(), pendix::tags::glyph);
+}
+
+- (void)resetFinger {
+    [[self fingerPrint] setState:kIdle animated:YES completionHandler:nil];
+}
+
+- (void)scan {
+    [[self fingerPrint] setState:kScanning animated:YES completionHandler:nil];
+}
+
+- (void)done {
+    pendix::requireFinger = NO;
+    void (^unlock)(void) = ^{ [pendix::Spring unlockPendix:pendix::tags::fingerFace]; };
+    if (PKGlyphView *glyph = [self fingerPrint]) {
+        [glyph setState:kTicked animated:YES completionHandler:unlock];
+    } else {
+        unlock();
+    }
+}
+
+- (void)fail:(NSString *)message {
+    [[self fingerPrint] stopShimmering];
+    ((UILabel *)pendix::subviewWithTag(fingerFace(), pendix::tags::faceTitle)).text = message;
+}
+
+- (void)biometricEventMonitor:(SBUIBiometricEventMonitor *)monitor handleBiometricEvent:(NSUInteger)event {
+    if (!pendix::isShow || !pendix::requireFinger) return;
+    switch (event) {
+    case 0: // finger up
+        [self resetFinger];
+        break;
+    case 1: // finger down
+        [self scan];
+        break;
+    case 3: // matched
+        [self done];
+        break;
+    case 5:
+    case 6:
+    case 7:
+    case 8:
+        [self fail:pendix::Translator(@"fail")];
+        break;
+    case 9: // not matched
+    case 10:
+        [self resetFinger];
+        AudioServicesPlaySystemSound(kVibration);
+        break;
+    }
+}
+
+- (void)startMonitoring {
+    if (isMonitoring) return;
+    isMonitoring = YES;
+    previousMatchingSetting = [monitor() isMatchingEnabled];
+    [monitor() addObserver:self];
+    [monitor() _setMatchingEnabled:YES];
+    [monitor() _startMatching];
+}
+
+- (void)stopMonitoring {
+    if (!isMonitoring) return;
+    isMonitoring = NO;
+    [monitor() removeObserver:self];
+    [monitor() _setMatchingEnabled:previousMatchingSetting];
+}
+
++ (instancetype)sharedInstance {
+    static PendixTouchIDController *controller = [self new];
+    return controller;
+}
+
+@end

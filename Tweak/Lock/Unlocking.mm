@@ -1,0 +1,104 @@
+// From one lock face to the next, and from the last one to the list.
+#include "Tweak/Core/AnimationDuration.h"
+#include "Tweak/Core/FingerMonitor.h"
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/Settings.h"
+#include "Tweak/Core/SpringBoard+Device.h"
+#include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/SpringBoard+Lock.h"
+
+namespace pendix {
+
+namespace {
+
+constexpr float kLeaveAsk = 0.5f, kChangeFace = 0.4f, kUnlock = 0.5f; // seconds
+
+void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSide) {
+    UIView *shown = lockFace(tag), *leaving = lockFace(other);
+    UIView *panel = panelView();
+    const CGRect frame = frameWithHeight(panel, height);
+    [UIView animateWithDuration:animationDuration(kChangeFace)
+                     animations:^{
+                         setX(shown, 0);
+                         setX(leaving, otherSide * leaving.frame.size.width);
+                         panel.frame = frame;
+                     }];
+}
+
+// Cards stand higher than the strip that was built behind the lock.
+BOOL raiseCards() {
+    if (!isOn(@"ca")) return NO;
+    NSArray *items = itemViews();
+    for (UIView *item in items) setY(item, 0);
+    if ([items count] != 0) gheight = lastGheight;
+    return YES;
+}
+
+void showList(SpringBoard *springBoard, int page, BOOL cards) {
+    UIView *passed = lockFace(page);
+    UIView *finger = [springBoard hasTouchID] ? lockFace(tags::fingerFace) : nil;
+    UIView *keypad = lockFace(tags::keypadFace);
+    UIView *panel = panelView(), *content = contentView(), *list = strip(), *dots = pageDotsView();
+    const CGRect frame = frameWithHeight(panel, gheight);
+    [UIView animateWithDuration:animationDuration(kUnlock)
+        animations:^{
+            CGSize size = passed.frame.size;
+            passed.frame = CGRectMake(0, size.height, size.width, size.height);
+            panel.frame = frame;
+            setHeight(content, gheight);
+            if (cards) setHeight(list, gheight);
+            list.alpha = 1;
+            dots.alpha = 1;
+        }
+        completion:^(BOOL) {
+            [finger removeFromSuperview];
+            [keypad removeFromSuperview];
+        }];
+}
+
+} // namespace
+
+void added::unlockTap(SpringBoard *self, SEL, UIButton *button) {
+    UIView *ask = button.superview;
+    UIView *keypad = lockFace(tags::keypadFace), *finger = lockFace(tags::fingerFace), *panel = panelView();
+    const BOOL usesFinger = [self hasTouchID] && isOn(@"touchid");
+    const CGFloat height = usesFinger ? lastHeight : lastHeight1;
+    const CGRect frame = frameWithHeight(panel, height);
+    [UIView animateWithDuration:animationDuration(kLeaveAsk)
+        animations:^{
+            panel.frame = frame;
+            setY(ask, height);
+            keypad.alpha = 1;
+            finger.alpha = 1;
+        }
+        completion:^(BOOL) {
+            // Closed meanwhile: a panel that is open by now has an ask face of its own.
+            if (isShow && ask.window && usesFinger) requireFinger = YES;
+            [ask removeFromSuperview];
+        }];
+}
+
+void added::usePasscode(SpringBoard *, SEL) {
+    requireFinger = NO;
+    changeFace(tags::keypadFace, lastHeight1, tags::fingerFace, 1);
+}
+
+void added::useTochID(SpringBoard *, SEL) {
+    requireFinger = YES;
+    changeFace(tags::fingerFace, lastHeight, tags::keypadFace, -1);
+}
+
+void added::unlockPendix(SpringBoard *self, SEL, int page) {
+    const BOOL shown = isShow;
+    if (shown) NSLog(@"<Pendix> Pendix UI unlocked!");
+    needPasscode = NO;
+    const BOOL cards = shown && raiseCards();
+    stopFingerMonitor();
+    // A finger that matched while the panel closed has nothing left to show.
+    if (shown) showList(self, page, cards);
+}
+
+} // namespace pendix
