@@ -1,0 +1,9 @@
+#pragma once
+
+#include "PendixSettings/Configuration/RestartingListController.h"
+
+// The main page: how the panel looks and works, and the way to everything else.
+@interface configurationController : RestartingListController
+- (void)showActivatorSetup;
+- (void)dismissActivatorSetup;
+@end

@@ -1,0 +1,75 @@
+#include "PendixSettings/Core/Rows.h"
+
+#include "PendixSettings/Core/PaneTranslator.h"
+#include "PendixSettings/Core/blueSwitcher.h"
+
+namespace pendix::pane {
+
+PSSpecifier *Rows::add(NSString *name, SEL setter, SEL getter, Class detail, PSCellType cell) {
+    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
+                                                      target:page_
+                                                         set:setter
+                                                         get:getter
+                                                      detail:detail
+                                                        cell:cell
+                                                        edit:Nil];
+    [rows_ addObject:row];
+    return row;
+}
+
+Rows &Rows::group(NSString *footerKey) {
+    PSSpecifier *group = [PSSpecifier emptyGroupSpecifier];
+    if (footerKey) [group setProperty:Translator(footerKey) forKey:@"footerText"];
+    [rows_ addObject:group];
+    return *this;
+}
+
+PSSpecifier *Rows::header(NSString *cellClass) {
+    PSSpecifier *group = add(@"", nullptr, nullptr, Nil, PSGroupCell);
+    [group setProperty:cellClass forKey:@"headerCellClass"];
+    return group;
+}
+
+PSSpecifier *Rows::toggle(NSString *key, SEL setter, SEL getter) {
+    PSSpecifier *row = add(Translator(key), setter, getter, Nil, PSSwitchCell);
+    [row setProperty:[blueSwitcher class] forKey:@"cellClass"];
+    return row;
+}
+
+PSSpecifier *Rows::link(NSString *key, Class page, NSString *iconFile) {
+    return namedLink(Translator(key), page, iconFile ? [UIImage imageWithContentsOfFile:iconFile] : nil);
+}
+
+PSSpecifier *Rows::namedLink(NSString *name, Class page, UIImage *icon) {
+    PSSpecifier *row = add(name, nullptr, nullptr, page, PSLinkCell);
+    setIcon(row, icon);
+    return row;
+}
+
+PSSpecifier *Rows::button(NSString *key, PSCellType cell, SEL action) {
+    PSSpecifier *row = add(Translator(key), nullptr, nullptr, Nil, cell);
+    row.buttonAction = action;
+    return row;
+}
+
+PSSpecifier *Rows::choice(NSString *key, NSArray *values, Class page) {
+    PSSpecifier *row =
+        add(Translator(key), @selector(setValue:forSpecifier:), @selector(getValue:), page, PSLinkListCell);
+    NSMutableArray *titles = [NSMutableArray array];
+    for (NSString *value in values) [titles addObject:Translator(value)];
+    [row setValues:values titles:titles];
+    return row;
+}
+
+PSSpecifier *Rows::segments(NSString *key, NSArray *values) {
+    PSSpecifier *row = add(Translator(key), @selector(setValue:forSpecifier:), @selector(getValue:),
+                           [PSListItemsController class], PSSegmentCell);
+    [row setValues:values titles:values];
+    return row;
+}
+
+void setIcon(PSSpecifier *row, UIImage *icon) {
+    if (icon) [row setProperty:icon forKey:@"iconImage"];
+}
+
+} // namespace pendix::pane

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <Preferences/Preferences.h>
+
+// A switch whose "on" is painted with the extension's pattern.
+@interface blueSwitcher : PSSwitchTableCell
+@end

@@ -1,0 +1,65 @@
+#include "PendixSettings/Passcode/PasscodeSheet.h"
+
+#include "PendixSettings/Passcode/DigitEntry.hpp"
+
+#include <AudioToolbox/AudioServices.h>
+
+namespace pendix::pane {
+
+namespace {
+
+NSString *const kDash = @"/Library/Application Support/Pendix/dash.png";
+NSString *const kDot = @"/Library/Application Support/Pendix/dot.png";
+
+constexpr SystemSoundID kVibration = 4095;
+constexpr NSTimeInterval kAdvance = 0.25; // seconds
+constexpr NSUInteger kGroupSize = 1 + kDigits;
+
+// Place 0 is the group's text, 1 to 4 are its digits.
+UIView *viewAt(UITextField *field, NSInteger group, size_t place) {
+    return [field.superview.subviews objectAtIndex:kGroupSize * static_cast<NSUInteger>(group) + place];
+}
+
+void show(UITextField *field, NSInteger group, size_t place, NSString *image) {
+    [(UIImageView *)viewAt(field, group, place) setImage:[UIImage imageWithContentsOfFile:image]];
+}
+
+} // namespace
+
+BOOL enterInto(UITextField *field, NSInteger group) {
+    NSString *text = field.text;
+    const size_t length = [text length];
+    const DigitEntry entry = enterDigit(length, length ? [text characterAtIndex:length - 1] : 0);
+    if (entry.kept < length) field.text = [text substringToIndex:entry.kept];
+    if (entry.dot) show(field, group, *entry.dot, kDot);
+    if (entry.dash) show(field, group, *entry.dash, kDash);
+    return entry.complete;
+}
+
+void refuse(UITextField *field, NSInteger group) {
+    AudioServicesPlaySystemSound(kVibration);
+    for (size_t place = 1; place <= kDigits; ++place) show(field, group, place, kDash);
+    field.text = @"";
+}
+
+void endEntry(UITextField *field) {
+    [field removeTarget:nil action:nullptr forControlEvents:UIControlEventEditingChanged];
+    field.text = @"";
+}
+
+void advance(UITextField *field, NSInteger first) {
+    UIView *screen = field.superview;
+    const CGFloat width = screen.frame.size.width;
+    [UIView animateWithDuration:kAdvance
+                     animations:^{
+                         for (size_t place = 0; place < 2 * kGroupSize; ++place) {
+                             UIView *view = viewAt(field, first, place);
+                             CGRect frame = view.frame;
+                             frame.origin.x -= width;
+                             view.frame = frame;
+                         }
+                     }];
+    field.text = @"";
+}
+
+} // namespace pendix::pane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "PendixSettings/Core/PendixListController.h"
+
+// The panel's lock and its passcode. Entering the page and changing the lock take the code that is stored.
+@interface passwordController : PendixListController
+// The switch of the lock.
+- (id)enable;
+- (void)setEnable:(id)value;
+// The button that sets a first code or another one.
+- (void)changePass;
+
+// Cancel on the way in, and on the other two sheets.
+- (void)dismiss;
+- (void)dismiss1;
+// What was typed on the way in, to change the lock, to change the code.
+- (void)textFieldDidChange:(UITextField *)field;
+- (void)textFieldDidChange1:(UITextField *)field;
+- (void)textFieldDidChange2:(UITextField *)field;
+@end

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "PendixSettings/Core/PendixListController.h"
+
+// The pane's first page, and the principal class of its bundle.
+@interface PendixSettingsController : PendixListController
+- (void)addShareButton;
+- (void)Tweet;
+@end

@@ -1,0 +1,55 @@
+-- The pane and the home screen of one device share nothing but the settings file: what is touched in the one is seen in
+-- the other within a second.
+local H = dofile("lib_home.lua")
+local P = dofile("lib_pane.lua")
+
+for _, ios in ipairs{ "7.1", "8.1" } do
+  local what = ios .. ": "
+  local phone, pane = P.start({}, { ios = ios, apps = H.apps(H.mail, H.phone, H.clock) })
+  phone:badge(H.mail, 1)
+  expect(not phone:indicator().visible, what .. "off until it is switched on")
+  P.toggle(pane, "Enable")
+  pane:wait(1)
+  expect(phone:indicator().visible, what .. "switched on")
+  P.go(pane, { "Configuration" })
+  P.toggle(pane, "Running Apps")
+  pane:wait(1)
+  expect_eq(phone:indicator().image, "PendixSwitcher", what .. "the other image")
+  P.toggle(pane, "Running Apps")
+  pane:wait(1)
+  expect_eq(phone:indicator().image, "Pendix", what .. "and back")
+
+  -- The colour of the glow: from the pulse's next start on.
+  P.go(pane, { "Status Bar Icon" })
+  P.toggle(pane, "Pulse")
+  P.go(pane, { "Glow Color" })
+  pane:swipe("left")
+  P.settle(pane)
+  P.press(pane, "Apply")
+  P.press(pane, "OK")
+  phone:badge(H.mail, 2)
+  phone:wait(1)
+  expect(H.pulses(phone), what .. "it pulses")
+  expect_eq(H.glow(phone), "#ff8000ff", what .. "in the colour of the card")
+  pane:swipe("left")
+  P.settle(pane)
+  P.press(pane, "Apply")
+  P.press(pane, "OK")
+  phone:wait(1)
+  expect_eq(H.glow(phone), "#ff8000ff", what .. "a running pulse keeps its colour")
+  phone:badge(H.mail, 0)
+  phone:badge(H.mail, 3)
+  phone:wait(1)
+  expect_eq(H.glow(phone), "#ffff00ff", what .. "the next one has the new colour")
+
+  -- One application taken out.
+  P.back(pane)
+  P.toggle(pane, "Only with Badges")
+  P.back(pane)
+  P.go(pane, { "Apps", H.mail })
+  P.toggle(pane, "Hide from Pendix")
+  phone:badge(H.mail, 4)
+  phone:wait(1)
+  expect(not phone:indicator().visible, what .. "the only badge belongs to an application that is taken out")
+  P.no_harm(phone, pane)
+end

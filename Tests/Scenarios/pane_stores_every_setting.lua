@@ -1,0 +1,104 @@
+-- Every switch, list and segment of every page, changed by touches: the file then holds exactly that key with that
+-- type and value, and everything else as it was.
+local P = dofile("lib_pane.lua")
+
+local configuration = { "Configuration" }
+local marks = { "Configuration", "Indeterminate Badges" }
+local reach = { "Configuration", "Reachability" }
+local icon = { "Configuration", "Status Bar Icon" }
+local lock = { "Configuration", "Passcode Lock" }
+local mail = { "Configuration", "Apps", "com.apple.mobilemail" }
+
+-- Page, label, key; a switch unless it has choices, given as title and stored value.
+local settings = {
+  { {}, "Enable", "enable" },
+  { configuration, "Light Appearance", "light" },
+  { configuration, "Clear Background", "back" },
+  { configuration, "Blur Background", "blur" },
+  { configuration, "Fast Animations", "fast" },
+  { configuration, "Cards", "ca" },
+  { configuration, "Close Buttons", "close" },
+  { configuration, "Pages", "paging" },
+  { configuration, "Hide Badges", "b", restart = true },
+  { configuration, "Running Apps", "badge" },
+  { configuration, "Apps in a Row", "amount", { "2", "2" }, { "1", "1" }, { "4", "4" }, { "3", "3" } },
+  { marks, "Indeterminate Badges", "newb", restart = true },
+  { marks, "Automatic Color", "auto", restart = true },
+  { reach, "Reachability", "rech" },
+  { reach, "Position", "position", { "Middle", "middle" }, { "Bottom", "bottom" }, { "Top", "top" } },
+  { icon, "Hide Icon", "hide" },
+  { icon, "Only with Badges", "hide_t" },
+  { icon, "Pulse", "glow" },
+  { lock, "Lock Panel", "pass" },
+  { lock, "Unlock with Touch ID", "touchid" },
+  { lock, "Show Digits", "clear" },
+  { lock, "Require Passcode", "where", { "Every Time", "every" }, { "After Sleep", "everyoff" }, { "When Locked", "lockscreen" } },
+  { lock, "Ask First", "ask" },
+  { mail, "Hide from Pendix", "hide_perapp", inside = "com.apple.mobilemail" },
+  { mail, "No Mark on Icon", "badge_perapp", inside = "com.apple.mobilemail" },
+}
+
+local function copy(t)
+  local result = {}
+  for k, v in pairs(t) do result[k] = type(v) == "table" and copy(v) or v end
+  return result
+end
+
+local start = { enable = false, tint = "blue", ["com.apple.mobilemail"] = { other = "kept" }, odd = { 1, 2 } }
+local phone, pane = P.start(start)
+local wanted = copy(phone:settings())
+expect_eq(wanted.hasTouchID, "1", "the sensor is on record")
+
+local function stored(entry, value, message)
+  local target = entry.inside and wanted[entry.inside] or wanted
+  target[entry[3]] = value
+  expect_eq(phone:settings(), wanted, entry[3] .. ": " .. message)
+end
+
+local function restart_offered(entry)
+  local alert = pane:alert()
+  expect_eq(alert ~= nil, entry.restart or false, entry[3] .. ": whether a restart is offered")
+  if not alert then return end
+  expect_eq(alert, { title = "Restart Home Screen?",
+    message = "The change takes effect when the Home screen starts again.", buttons = { "Cancel", "OK" } }, entry[3])
+  P.press(pane, "Cancel")
+  expect_eq(pane:alert(), nil, entry[3] .. ": cancel leaves the page")
+end
+
+local function change(entry, value)
+  P.toggle(pane, entry[2])
+  restart_offered(entry)
+  stored(entry, value, value and "on" or "off")
+  expect_eq(P.row(pane, entry[2]).value, value, entry[3] .. ": as the row shows it")
+end
+
+local at = nil
+for _, entry in ipairs(settings) do
+  if at ~= entry[1] then
+    for _ = 1, at and #at or 0 do P.back(pane) end
+    P.go(pane, entry[1])
+    at = entry[1]
+  end
+  if not entry[4] then
+    change(entry, true)
+    change(entry, false)
+    change(entry, true)
+  end
+  for i = 4, #entry do
+    P.choose(pane, entry[2], entry[i][1])
+    stored(entry, entry[i][2], entry[i][1])
+    expect_eq(P.row(pane, entry[2]).value, entry[i][1], entry[3] .. ": as the row shows it")
+  end
+end
+expect_eq(#phone:events("respring"), 0, "nothing was restarted")
+P.no_harm(phone, pane)
+
+-- The pages show what is stored when they are opened again.
+local other = phone:open_settings()
+other:settle()
+for _, entry in ipairs(settings) do
+  P.go(other, entry[1])
+  local value = entry[4] and entry[#entry][1] or true
+  expect_eq(P.row(other, entry[2]).value, value, entry[3] .. ": shown after another start")
+  for _ = 1, #entry[1] do P.back(other) end
+end
