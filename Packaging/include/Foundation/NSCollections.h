@@ -52,3 +52,9 @@
 - (NSUInteger)length;
 - (const void *)bytes;
 @end
+
+@interface NSIndexPath : NSObject <NSCopying>
+@end
+
+@interface NSIndexSet : NSObject <NSCopying>
+@end

@@ -45,6 +45,11 @@ __attribute__((objc_root_class))
 - (void)performSelector:(SEL)selector withObject:(id)object afterDelay:(NSTimeInterval)delay;
 @end
 
+@interface NSObject (NSKeyValueCoding)
+- (id)valueForKey:(NSString *)key;
+- (void)setValue:(id)value forKey:(NSString *)key;
+@end
+
 typedef struct {
     unsigned long state;
     id *itemsPtr;

@@ -5,6 +5,10 @@
 typedef NSUInteger NSStringEncoding;
 enum { NSUTF8StringEncoding = 4 };
 
+typedef struct _NSRange {
+    NSUInteger location, length;
+} NSRange;
+
 @interface NSString : NSObject <NSCopying, NSMutableCopying>
 + (instancetype)string;
 + (instancetype)stringWithFormat:(NSString *)format, ...;
@@ -16,6 +20,8 @@ enum { NSUTF8StringEncoding = 4 };
 - (BOOL)isEqualToString:(NSString *)other;
 - (BOOL)hasPrefix:(NSString *)prefix;
 - (BOOL)hasSuffix:(NSString *)suffix;
+// NSNotFound as location when it does not occur.
+- (NSRange)rangeOfString:(NSString *)part;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)substringFromIndex:(NSUInteger)index;
 - (NSString *)substringToIndex:(NSUInteger)index;
