@@ -76,20 +76,6 @@ Value SettingsProcess::perform(const char *request, Object &arguments, bool *die
     }
 }
 
-Value SettingsProcess::act(const char *request, Object arguments) {
-    bool died;
-    return perform(request, arguments, &died);
-}
-
-Value SettingsProcess::ask(const char *request, Object arguments) {
-    bool died;
-    Value result = perform(request, arguments, &died);
-    if (died)
-        throw RequestError(std::string("the Settings application crashed when it was asked for '") + request +
-                           "'");
-    return result;
-}
-
 void SettingsProcess::runTo(int64_t time) { act("advance", {{"to", time}}); }
 
 render::Bitmap SettingsProcess::picture() {

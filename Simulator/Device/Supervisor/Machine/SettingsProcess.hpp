@@ -20,8 +20,6 @@ public:
 
     int64_t now() const override;
     void advance(int64_t duration) override;
-    Value act(const char *request, Object arguments = {}) override;
-    Value ask(const char *request, Object arguments = {}) override;
     render::Bitmap picture() override;
     unsigned generation() const override { return 1; }
     const EventList &events() const override { return events_; }
@@ -42,7 +40,8 @@ public:
     void close();
 
 private:
-    Value perform(const char *request, Object &arguments, bool *died);
+    Value perform(const char *request, Object &arguments, bool *died) override;
+    const char *processName() const override { return "the Settings application"; }
     void recordCrash(const Ending &ending);
 
     SimulatedDevice &device_;

@@ -163,19 +163,6 @@ Value SimulatedDevice::perform(const char *request, Object &arguments, bool *die
     }
 }
 
-Value SimulatedDevice::act(const char *request, Object arguments) {
-    bool died;
-    return perform(request, arguments, &died);
-}
-
-Value SimulatedDevice::ask(const char *request, Object arguments) {
-    bool died;
-    Value result = perform(request, arguments, &died);
-    if (died)
-        throw RequestError(std::string("the home screen crashed when it was asked for '") + request + "'");
-    return result;
-}
-
 void SimulatedDevice::advance(int64_t duration) {
     int64_t target = now_ + duration;
     if (settingsProcess_ && settingsProcess_->running()) return advanceBoth(target);

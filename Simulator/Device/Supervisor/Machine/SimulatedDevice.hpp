@@ -31,9 +31,6 @@ public:
 
     int64_t now() const override { return now_; }
     void advance(int64_t duration) override;
-    // A crash of the home screen becomes an event and another boot.
-    Value act(const char *request, Object arguments = {}) override;
-    Value ask(const char *request, Object arguments = {}) override;
     render::Bitmap picture() override;
     // Counts the boots of the home screen.
     unsigned generation() const override { return generation_; }
@@ -63,7 +60,8 @@ private:
     void note(Value event);
     void recordCrash(const Ending &ending);
     void end();
-    Value perform(const char *request, Object &arguments, bool *died);
+    Value perform(const char *request, Object &arguments, bool *died) override;
+    const char *processName() const override { return "the home screen"; }
     void runHome(int64_t time);
     void advanceBoth(int64_t target);
     std::optional<int64_t> next() const override { return next_; }

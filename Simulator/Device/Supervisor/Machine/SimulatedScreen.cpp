@@ -1,10 +1,24 @@
 #include "SimulatedScreen.hpp"
 
 #include "Nanoseconds.hpp"
+#include "SimulatedProcess.hpp"
 
 #include <algorithm>
 
 namespace sim {
+
+Value SimulatedScreen::act(const char *request, Object arguments) {
+    bool died;
+    return perform(request, arguments, &died);
+}
+
+Value SimulatedScreen::ask(const char *request, Object arguments) {
+    bool died;
+    Value result = perform(request, arguments, &died);
+    if (died)
+        throw RequestError(std::string(processName()) + " crashed when it was asked for '" + request + "'");
+    return result;
+}
 
 int64_t SimulatedScreen::settle(int64_t limit) {
     int64_t start = now();

@@ -26,9 +26,9 @@ public:
     int64_t settle(int64_t limit);
 
     // Asks the process to do something. A crash becomes an event. Throws RequestError.
-    virtual Value act(const char *request, Object arguments = {}) = 0;
+    Value act(const char *request, Object arguments = {});
     // The same for a question, which a crash leaves without an answer: that is a RequestError.
-    virtual Value ask(const char *request, Object arguments = {}) = 0;
+    Value ask(const char *request, Object arguments = {});
     // The screen at this moment.
     virtual render::Bitmap picture() = 0;
     // Counts the starts of the process: what was seen of one says nothing of the next.
@@ -49,6 +49,10 @@ public:
     virtual std::string shutDown() = 0;
 
 protected:
+    // `died` tells whether the process crashed over it; what it gives then means nothing.
+    virtual Value perform(const char *request, Object &arguments, bool *died) = 0;
+    // What a message calls the process: "the home screen".
+    virtual const char *processName() const = 0;
     // When something is due next in the process.
     virtual std::optional<int64_t> next() const = 0;
 };
