@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/Ownership.h"
 
 #include <Preferences/PSTableCell.h>
 
@@ -46,9 +47,7 @@ ControlCellState &state(PSControlTableCell *cell) {
     UIControl *&held = state(self).control;
     if (control == held) return;
     [held removeTarget:self action:@selector(controlChanged:) forControlEvents:UIControlEventValueChanged];
-    [control retain];
-    [held release];
-    held = control;
+    sim::retainInto(held, control);
     [control addTarget:self action:@selector(controlChanged:) forControlEvents:UIControlEventValueChanged];
     [self setAccessoryView:control];
 }

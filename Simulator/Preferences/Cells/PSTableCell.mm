@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/Ownership.h"
 
 #include <Preferences/PSTableCell.h>
 
@@ -112,9 +113,7 @@ NSTextAlignment alignment(PSSpecifier *specifier) {
     return state(self).specifier;
 }
 - (void)setSpecifier:(PSSpecifier *)specifier {
-    [specifier retain];
-    [state(self).specifier release];
-    state(self).specifier = specifier;
+    sim::retainInto(state(self).specifier, specifier);
 }
 
 - (PSCellType)type {
@@ -163,9 +162,7 @@ NSTextAlignment alignment(PSSpecifier *specifier) {
 }
 // Shown at the row's end: a list's title of it, or itself.
 - (void)setValue:(id)value {
-    [value retain];
-    [state(self).value release];
-    state(self).value = value;
+    sim::retainInto(state(self).value, value);
     PSSpecifier *specifier = state(self).specifier;
     NSString *shown = [specifier titleForValue:value];
     if (!shown && [self type] == PSTitleValueCell) shown = [value description];

@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/Ownership.h"
 
 #include <Preferences/PSListController.h>
 
@@ -30,9 +31,7 @@ PreferencesControllerState &state(PSViewController *controller) {
     return state(self).specifier;
 }
 - (void)setSpecifier:(PSSpecifier *)specifier {
-    [specifier retain];
-    [state(self).specifier release];
-    state(self).specifier = specifier;
+    sim::retainInto(state(self).specifier, specifier);
     if (![self title]) [self setTitle:[specifier name]];
 }
 

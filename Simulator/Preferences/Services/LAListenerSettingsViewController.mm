@@ -1,4 +1,5 @@
 // The page on which events are given to a listener: their groups, each with the events that there are.
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
 #include <Activator/LAListenerSettingsViewController.h>
@@ -48,9 +49,7 @@ ListenerSettingsState &state(LAListenerSettingsViewController *page) {
     return state(self).name;
 }
 - (void)setListenerName:(NSString *)name {
-    NSString *copy = [name copy];
-    [state(self).name release];
-    state(self).name = copy;
+    sim::copyInto(state(self).name, name);
 }
 
 - (void)loadView {

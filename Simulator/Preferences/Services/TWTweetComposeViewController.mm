@@ -1,4 +1,5 @@
 // The sheet for a tweet: a card over what was there before, with the text and two buttons. Nothing is sent.
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
 #include <Twitter/TWTweetComposeViewController.h>
@@ -53,9 +54,7 @@ UIButton *addButton(UIView *card, NSString *title, CGFloat x, id target) {
 
 - (BOOL)setInitialText:(NSString *)text {
     if (state(self).shown) return NO;
-    NSString *copy = [text copy];
-    [state(self).text release];
-    state(self).text = copy;
+    sim::copyInto(state(self).text, text);
     return YES;
 }
 

@@ -1,3 +1,4 @@
+#include "Runtime/Objc/Ownership.h"
 #include "SpecifierState.h"
 
 #include <objc/runtime.h>
@@ -24,9 +25,7 @@ SpecifierState &state(PSSpecifier *specifier) {
 
 template <typename Object>
 void replace(Object *&slot, Object *value) {
-    [value retain];
-    [slot release];
-    slot = value;
+    sim::retainInto(slot, value);
 }
 
 } // namespace
@@ -87,9 +86,7 @@ void replace(Object *&slot, Object *value) {
     return state(self).name;
 }
 - (void)setName:(NSString *)name {
-    NSString *copy = [name copy];
-    [state(self).name release];
-    state(self).name = copy;
+    sim::copyInto(state(self).name, name);
 }
 
 - (NSString *)identifier {

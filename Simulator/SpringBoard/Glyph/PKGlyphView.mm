@@ -1,6 +1,7 @@
 // The glyph of a Touch ID sheet: a fingerprint that fills while a finger rests, and a tick for a match.
 #include "FingerprintView.h"
 #include "GlyphPaths.hpp"
+#include "Runtime/Objc/Ownership.h"
 #include "ShapeLayers.h"
 #include "SpringBoard/Versions.hpp"
 
@@ -30,11 +31,7 @@ GlyphState &state(PKGlyphView *view) {
     return *static_cast<GlyphState *>(view->_glyphState);
 }
 
-void replace(UIColor *&slot, UIColor *color) {
-    [color retain];
-    [slot release];
-    slot = color;
-}
+void replace(UIColor *&slot, UIColor *color) { sim::retainInto(slot, color); }
 
 void recolor(PKGlyphView *view) {
     auto &mine = state(view);

@@ -1,6 +1,7 @@
 #include "IconImages.h"
 #include "Icons.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -72,9 +73,7 @@ render::Shape hand(const render::Rect &dial, double turn, double length, double 
 @implementation SBIconImageView (Simulator)
 
 - (void)setIcon:(SBIcon *)icon {
-    [icon retain];
-    [contents(self).icon release];
-    contents(self).icon = icon;
+    sim::retainInto(contents(self).icon, icon);
 }
 
 - (void)setHighlighted:(BOOL)highlighted {

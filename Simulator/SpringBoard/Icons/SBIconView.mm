@@ -1,6 +1,7 @@
 #include "IconImages.h"
 #include "Icons.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Home/SBIconController.h"
 
@@ -84,9 +85,7 @@ Class imageClass(SBIcon *icon) {
 
 - (void)setIcon:(SBIcon *)icon {
     auto &mine = parts(self);
-    [icon retain];
-    [mine.icon release];
-    mine.icon = icon;
+    sim::retainInto(mine.icon, icon);
     [mine.image removeFromSuperview];
     [mine.image release];
     mine.image = [[imageClass(icon) alloc] initWithFrame:CGRectMake(0, 0, sim::iconSide(), sim::iconSide())];

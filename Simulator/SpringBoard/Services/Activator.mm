@@ -1,6 +1,7 @@
 // The gesture launcher: who is registered, and what the event assigned to a listener sets off.
 #include "Activator.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 #include "SpringBoard/Applications/ApplicationLife.h"
 #include "SpringBoard/HomeScreen.h"
@@ -98,9 +99,7 @@ LAEvent *makeEvent(NSString *name) {
 - (void)registerListener:(id<LAListener>)listener forName:(NSString *)name {
     if (!listener || !name) return;
     id &slot = state(self).listeners[[name UTF8String]];
-    [listener retain];
-    [slot release];
-    slot = listener;
+    sim::retainInto(slot, listener);
     sim::recordEvent("listener", sim::Object{{"name", [name UTF8String]}});
 }
 

@@ -1,8 +1,8 @@
 // The object that applications hold; what is seen is its panel, in a window of its own.
 #include "AlertPanel.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Application/ApplicationState.h"
-#include "UIKit/Controllers/Rotation.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIAlertView.h>
@@ -57,7 +57,7 @@ void prepareWindow() {
         [window setWindowLevel:UIWindowLevelAlert];
         sim::setRole(window, sim::WindowRole::alert);
     }
-    sim::fitToScreen(window, [[UIApplication sharedApplication] statusBarOrientation]);
+    sim::fillInterface(window);
     [window setHidden:NO];
 }
 
@@ -153,17 +153,13 @@ void hidePanel(UIAlertView *alert, bool animated, bool last, void (^done)(void))
     return state(self).title;
 }
 - (void)setTitle:(NSString *)title {
-    NSString *copy = [title copy];
-    [state(self).title release];
-    state(self).title = copy;
+    sim::copyInto(state(self).title, title);
 }
 - (NSString *)message {
     return state(self).message;
 }
 - (void)setMessage:(NSString *)message {
-    NSString *copy = [message copy];
-    [state(self).message release];
-    state(self).message = copy;
+    sim::copyInto(state(self).message, message);
 }
 
 - (NSInteger)numberOfButtons {

@@ -1,4 +1,5 @@
 #include "ApplicationState.h"
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Controllers/ControllerState.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -134,9 +135,7 @@ WindowRole role(UIWindow *window) { return ::state(window).role; }
     if (controller == mine.controller) return;
     if (mine.controller && ![self isHidden]) sim::changeAppearance(mine.controller, false);
     [[mine.controller view] removeFromSuperview];
-    [controller retain];
-    [mine.controller release];
-    mine.controller = controller;
+    sim::retainInto(mine.controller, controller);
     [[controller view] setFrame:[self bounds]];
     [self addSubview:[controller view]];
     if (controller && ![self isHidden]) sim::changeAppearance(controller, true);

@@ -8,8 +8,6 @@
 #include <UIKit/UIDevice.h>
 #include <UIKit/UIScreen.h>
 
-#include <cmath>
-
 using sim::state;
 
 namespace {
@@ -60,29 +58,6 @@ void forEachController(UIViewController *controller, void (^visit)(UIViewControl
 
 namespace sim {
 
-CGFloat angleOf(UIInterfaceOrientation orientation) {
-    switch (orientation) {
-    case UIInterfaceOrientationPortraitUpsideDown:
-        return M_PI;
-    case UIInterfaceOrientationLandscapeRight:
-        return M_PI_2;
-    case UIInterfaceOrientationLandscapeLeft:
-        return -M_PI_2;
-    default:
-        return 0;
-    }
-}
-
-void fitToScreen(UIWindow *window, UIInterfaceOrientation orientation) {
-    CGFloat width = device().width, height = device().height;
-    [window setCenter:{width / 2, height / 2}];
-    [window setTransform:orientation == UIInterfaceOrientationPortrait
-                             ? CGAffineTransformIdentity
-                             : CGAffineTransformMakeRotation(angleOf(orientation))];
-    [window setBounds:isLandscape(orientation) ? CGRectMake(0, 0, height, width)
-                                               : CGRectMake(0, 0, width, height)];
-}
-
 void turnInterface(UIInterfaceOrientation next) {
     UIInterfaceOrientation before = [[UIApplication sharedApplication] statusBarOrientation];
     UIWindow *main = applicationWindow();
@@ -98,7 +73,7 @@ void turnInterface(UIInterfaceOrientation next) {
     [main setUserInteractionEnabled:NO];
     [UIView animateWithDuration:seconds
         animations:^{
-            for (UIWindow *window : allWindows()) fitToScreen(window, next);
+            for (UIWindow *window : allWindows()) fillInterface(window);
             layoutPendingViews();
             forEachController(controller, ^(UIViewController *each) {
                 [each willAnimateRotationToInterfaceOrientation:next duration:seconds];

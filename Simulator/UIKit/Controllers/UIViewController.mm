@@ -1,4 +1,5 @@
 #include "ControllerState.h"
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Navigation/NavigationState.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -49,9 +50,7 @@ using sim::state;
     auto &mine = state(self);
     if (view == mine.view) return;
     if (mine.view) state(mine.view).controller = nil;
-    [view retain];
-    [mine.view release];
-    mine.view = view;
+    sim::retainInto(mine.view, view);
     if (view) state(view).controller = self;
 }
 - (BOOL)isViewLoaded {
@@ -69,9 +68,7 @@ using sim::state;
     return state(self).title;
 }
 - (void)setTitle:(NSString *)title {
-    NSString *copy = [title copy];
-    [state(self).title release];
-    state(self).title = copy;
+    sim::copyInto(state(self).title, title);
     [[self navigationItem] setTitle:title];
 }
 

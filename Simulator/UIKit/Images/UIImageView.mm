@@ -1,4 +1,5 @@
 #include "ImageState.h"
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIImageView.h>
@@ -60,9 +61,7 @@ CGRect place(CGSize size, CGRect bounds, UIViewContentMode mode) {
     return state(self).image;
 }
 - (void)setImage:(UIImage *)image {
-    [image retain];
-    [state(self).image release];
-    state(self).image = image;
+    sim::retainInto(state(self).image, image);
 }
 
 - (CGSize)sizeThatFits:(CGSize)size {

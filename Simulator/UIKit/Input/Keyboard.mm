@@ -3,7 +3,6 @@
 #include "KeyboardKey.h"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
-#include "UIKit/Controllers/Rotation.h"
 #include "UIKit/Views/FirstResponder.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -155,7 +154,7 @@ void showKeyboard(UIKeyboardType type) {
         [window setWindowLevel:UIWindowLevelNormal + 1];
         setRole(window, WindowRole::application);
     }
-    fitToScreen(window, [[UIApplication sharedApplication] statusBarOrientation]);
+    fillInterface(window);
     [window setHidden:NO];
     if (shown) return ::state(shown).pad == pad ? void() : fill(shown, pad);
     CGRect rest = restingFrame();

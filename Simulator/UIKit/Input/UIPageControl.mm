@@ -1,3 +1,4 @@
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIPageControl.h>
@@ -65,17 +66,13 @@ render::Rgba paint(UIColor *color, double alpha) {
     return state(self).tint;
 }
 - (void)setPageIndicatorTintColor:(UIColor *)color {
-    [color retain];
-    [state(self).tint release];
-    state(self).tint = color;
+    sim::retainInto(state(self).tint, color);
 }
 - (UIColor *)currentPageIndicatorTintColor {
     return state(self).currentTint;
 }
 - (void)setCurrentPageIndicatorTintColor:(UIColor *)color {
-    [color retain];
-    [state(self).currentTint release];
-    state(self).currentTint = color;
+    sim::retainInto(state(self).currentTint, color);
 }
 
 - (CGSize)sizeThatFits:(CGSize)size {

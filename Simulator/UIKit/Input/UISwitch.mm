@@ -1,3 +1,4 @@
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UISwitch.h>
@@ -107,9 +108,7 @@ UIView *makePart(UISwitch *view, CGRect frame, CGFloat radius) {
     return state(self).onTint;
 }
 - (void)setOnTintColor:(UIColor *)color {
-    [color retain];
-    [state(self).onTint release];
-    state(self).onTint = color;
+    sim::retainInto(state(self).onTint, color);
     refresh(self);
 }
 
@@ -117,9 +116,7 @@ UIView *makePart(UISwitch *view, CGRect frame, CGFloat radius) {
     return state(self).thumbTint;
 }
 - (void)setThumbTintColor:(UIColor *)color {
-    [color retain];
-    [state(self).thumbTint release];
-    state(self).thumbTint = color;
+    sim::retainInto(state(self).thumbTint, color);
     refresh(self);
 }
 

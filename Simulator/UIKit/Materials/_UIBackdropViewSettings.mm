@@ -1,5 +1,6 @@
 #include "BackdropState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 
 namespace {
@@ -103,9 +104,7 @@ render::Backdrop backdrop(_UIBackdropViewSettings *settings) {
     return state(self).tint;
 }
 - (void)setColorTint:(UIColor *)color {
-    [color retain];
-    [state(self).tint release];
-    state(self).tint = color;
+    sim::retainInto(state(self).tint, color);
 }
 
 - (CGFloat)colorTintAlpha {

@@ -1,4 +1,5 @@
 #include "NavigationState.h"
+#include "Runtime/Objc/Ownership.h"
 
 namespace {
 
@@ -60,9 +61,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
     return state(self).title;
 }
 - (void)setTitle:(NSString *)title {
-    NSString *copy = [title copy];
-    [state(self).title release];
-    state(self).title = copy;
+    sim::copyInto(state(self).title, title);
     [state(self).bar setNeedsLayout];
 }
 
@@ -70,9 +69,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
     return state(self).image;
 }
 - (void)setImage:(UIImage *)image {
-    [image retain];
-    [state(self).image release];
-    state(self).image = image;
+    sim::retainInto(state(self).image, image);
     [state(self).bar setNeedsLayout];
 }
 

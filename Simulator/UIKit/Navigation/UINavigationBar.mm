@@ -1,5 +1,6 @@
 #include "NavigationState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Views/ViewState.h"
 
@@ -221,9 +222,7 @@ CGFloat navigationBarHeight() {
     return state(self).barTint;
 }
 - (void)setBarTintColor:(UIColor *)color {
-    [color retain];
-    [state(self).barTint release];
-    state(self).barTint = color;
+    sim::retainInto(state(self).barTint, color);
     [state(self).material setBackgroundColor:[color colorWithAlphaComponent:0.85]];
 }
 

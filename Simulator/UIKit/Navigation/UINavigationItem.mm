@@ -1,4 +1,5 @@
 #include "NavigationState.h"
+#include "Runtime/Objc/Ownership.h"
 
 #include <initializer_list>
 
@@ -29,9 +30,7 @@ void replaceButton(UINavigationItem *item, UIBarButtonItem *NavigationItemState:
     UIBarButtonItem *&held = state(item).*slot;
     if (held == button) return;
     sim::setBar(held, nil);
-    [button retain];
-    [held release];
-    held = button;
+    sim::retainInto(held, button);
     changed(item);
 }
 
@@ -69,9 +68,7 @@ void setBar(UINavigationItem *item, UINavigationBar *bar) {
     return state(self).title;
 }
 - (void)setTitle:(NSString *)title {
-    NSString *copy = [title copy];
-    [state(self).title release];
-    state(self).title = copy;
+    sim::copyInto(state(self).title, title);
     changed(self);
 }
 
@@ -79,9 +76,7 @@ void setBar(UINavigationItem *item, UINavigationBar *bar) {
     return state(self).prompt;
 }
 - (void)setPrompt:(NSString *)prompt {
-    NSString *copy = [prompt copy];
-    [state(self).prompt release];
-    state(self).prompt = copy;
+    sim::copyInto(state(self).prompt, prompt);
 }
 
 - (UIView *)titleView {
@@ -90,9 +85,7 @@ void setBar(UINavigationItem *item, UINavigationBar *bar) {
 - (void)setTitleView:(UIView *)view {
     if (view == state(self).titleView) return;
     [state(self).titleView removeFromSuperview];
-    [view retain];
-    [state(self).titleView release];
-    state(self).titleView = view;
+    sim::retainInto(state(self).titleView, view);
     changed(self);
 }
 
@@ -108,9 +101,7 @@ void setBar(UINavigationItem *item, UINavigationBar *bar) {
     return state(self).back;
 }
 - (void)setBackBarButtonItem:(UIBarButtonItem *)button {
-    [button retain];
-    [state(self).back release];
-    state(self).back = button;
+    sim::retainInto(state(self).back, button);
     changed(self);
 }
 

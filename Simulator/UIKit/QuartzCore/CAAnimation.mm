@@ -1,5 +1,6 @@
 #include "LayerState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
 #include <UIKit/UIColor.h>
@@ -33,11 +34,7 @@ AnimationState &state(CAAnimation *animation) {
     return *static_cast<AnimationState *>(animation->_animationState);
 }
 
-void retain(id &slot, id value) {
-    [value retain];
-    [slot release];
-    slot = value;
-}
+void retain(id &slot, id value) { sim::retainInto(slot, value); }
 
 sim::TimingCurve curve(CAMediaTimingFunction *function) {
     return function ? *static_cast<sim::TimingCurve *>(function->_timingState) : sim::TimingCurve::linear();
@@ -145,9 +142,7 @@ sim::AnimatedValue unboxed(id value) {
     return state(self).fillMode ? state(self).fillMode : kCAFillModeRemoved;
 }
 - (void)setFillMode:(NSString *)mode {
-    NSString *copy = [mode copy];
-    [state(self).fillMode release];
-    state(self).fillMode = copy;
+    sim::copyInto(state(self).fillMode, mode);
 }
 - (BOOL)isRemovedOnCompletion {
     return state(self).removedOnCompletion;
@@ -159,9 +154,7 @@ sim::AnimatedValue unboxed(id value) {
     return state(self).timing;
 }
 - (void)setTimingFunction:(CAMediaTimingFunction *)function {
-    [function retain];
-    [state(self).timing release];
-    state(self).timing = function;
+    sim::retainInto(state(self).timing, function);
 }
 - (id)delegate {
     return state(self).delegate;
@@ -184,9 +177,7 @@ sim::AnimatedValue unboxed(id value) {
     return state(self).keyPath;
 }
 - (void)setKeyPath:(NSString *)path {
-    NSString *copy = [path copy];
-    [state(self).keyPath release];
-    state(self).keyPath = copy;
+    sim::copyInto(state(self).keyPath, path);
 }
 
 @end

@@ -1,4 +1,5 @@
 #include "LayerState.h"
+#include "Runtime/Objc/Ownership.h"
 
 using sim::changeProperty;
 using sim::LayerProperties;
@@ -14,11 +15,7 @@ GradientState &gradient(CAGradientLayer *layer) {
     return *static_cast<GradientState *>(layer->_gradientState);
 }
 
-void replaceCopied(NSArray *&slot, NSArray *value) {
-    NSArray *copy = [value copy];
-    [slot release];
-    slot = copy;
-}
+void replaceCopied(NSArray *&slot, NSArray *value) { sim::copyInto(slot, value); }
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "LayerState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
 #include <UIKit/UIView.h>
@@ -36,9 +37,7 @@ namespace {
 
 template <typename Object>
 void replaceRetained(Object *&slot, Object *value) {
-    [value retain];
-    [slot release];
-    slot = value;
+    sim::retainInto(slot, value);
 }
 
 // A place or size that is not a number ends the process, unless somebody catches it.
@@ -238,9 +237,7 @@ void detach(CALayer *layer) {
     return state(self).contents;
 }
 - (void)setContents:(id)contents {
-    [contents retain];
-    [state(self).contents release];
-    state(self).contents = contents;
+    sim::retainInto(state(self).contents, contents);
 }
 
 - (CGFloat)contentsScale {
@@ -254,9 +251,7 @@ void detach(CALayer *layer) {
     return state(self).name;
 }
 - (void)setName:(NSString *)name {
-    NSString *copy = [name copy];
-    [state(self).name release];
-    state(self).name = copy;
+    sim::copyInto(state(self).name, name);
 }
 
 - (CALayer *)mask {

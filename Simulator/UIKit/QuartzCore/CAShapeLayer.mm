@@ -1,4 +1,5 @@
 #include "LayerState.h"
+#include "Runtime/Objc/Ownership.h"
 
 #include <QuartzCore/CAShapeLayer.h>
 
@@ -24,13 +25,6 @@ ShapeState &shape(CAShapeLayer *layer) {
     return *static_cast<ShapeState *>(layer->_shapeState);
 }
 
-template <typename Object>
-void replace(Object *&slot, Object *value) {
-    [value retain];
-    [slot release];
-    slot = value;
-}
-
 std::optional<render::Rgba> flat(CGColorRef color) {
     return color ? std::optional(sim::flatColor(sim::object(color)->paint)) : std::nullopt;
 }
@@ -53,7 +47,7 @@ std::optional<render::Rgba> flat(CGColorRef color) {
     return sim::reference(shape(self).path);
 }
 - (void)setPath:(CGPathRef)path {
-    replace(shape(self).path, sim::object(path));
+    sim::retainInto(shape(self).path, sim::object(path));
     sim::state(self).model.path = path ? std::optional(sim::object(path)->path) : std::nullopt;
 }
 
@@ -61,7 +55,7 @@ std::optional<render::Rgba> flat(CGColorRef color) {
     return sim::reference(shape(self).fill);
 }
 - (void)setFillColor:(CGColorRef)color {
-    replace(shape(self).fill, sim::object(color));
+    sim::retainInto(shape(self).fill, sim::object(color));
     sim::state(self).model.fill = flat(color);
 }
 
@@ -69,7 +63,7 @@ std::optional<render::Rgba> flat(CGColorRef color) {
     return sim::reference(shape(self).stroke);
 }
 - (void)setStrokeColor:(CGColorRef)color {
-    replace(shape(self).stroke, sim::object(color));
+    sim::retainInto(shape(self).stroke, sim::object(color));
     sim::state(self).model.stroke = flat(color);
 }
 
@@ -100,10 +94,8 @@ std::optional<render::Rgba> flat(CGColorRef color) {
     return shape(self).cap;
 }
 - (void)setLineCap:(NSString *)cap {
-    NSString *copy = [cap copy];
-    [shape(self).cap release];
-    shape(self).cap = copy;
-    sim::state(self).model.roundCaps = [copy isEqual:@"round"];
+    sim::copyInto(shape(self).cap, cap);
+    sim::state(self).model.roundCaps = [cap isEqual:@"round"];
 }
 
 @end

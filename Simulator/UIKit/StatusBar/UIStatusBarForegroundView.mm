@@ -1,3 +1,4 @@
+#include "Runtime/Objc/Ownership.h"
 #include "StatusBarState.h"
 
 #include <algorithm>
@@ -94,9 +95,7 @@ bool contains(const std::vector<UIStatusBarItem *> &items, UIStatusBarItem *item
 
 - (void)applyStyle:(UIStatusBarForegroundStyleAttributes *)style {
     auto &mine = state(self);
-    [style retain];
-    [mine.style release];
-    mine.style = style;
+    sim::retainInto(mine.style, style);
     for (auto &entry : mine.entries) {
         [entry.view setForegroundStyle:style];
         CALayer *layer = [entry.view layer];

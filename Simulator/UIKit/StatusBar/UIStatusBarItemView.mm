@@ -1,5 +1,6 @@
 #include "StatusBarState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/Materials/DrawnImage.h"
 #include "UIKit/Views/ViewState.h"
@@ -89,9 +90,7 @@ UIImage *textImage(ItemViewState &mine, NSString *text) {
 }
 
 - (void)setForegroundStyle:(UIStatusBarForegroundStyleAttributes *)style {
-    [style retain];
-    [state(self).style release];
-    state(self).style = style;
+    sim::retainInto(state(self).style, style);
 }
 
 - (CGFloat)updateContentsAndWidth {

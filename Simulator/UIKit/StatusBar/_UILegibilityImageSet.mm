@@ -1,3 +1,5 @@
+#include "Runtime/Objc/Ownership.h"
+
 #include <UIKit/UIStatusBar.h>
 
 namespace {
@@ -11,11 +13,7 @@ ImageSet &state(_UILegibilityImageSet *set) {
     return *static_cast<ImageSet *>(set->_imageSetState);
 }
 
-void replace(UIImage *&slot, UIImage *image) {
-    [image retain];
-    [slot release];
-    slot = image;
-}
+void replace(UIImage *&slot, UIImage *image) { sim::retainInto(slot, image); }
 
 } // namespace
 

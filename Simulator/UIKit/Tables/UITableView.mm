@@ -1,5 +1,6 @@
 #include "TableState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UITouch.h>
@@ -139,9 +140,7 @@ void reload(UITableView *table, NSIndexSet *sections, bool animated) {
     return state(self).separator;
 }
 - (void)setSeparatorColor:(UIColor *)color {
-    [color retain];
-    [state(self).separator release];
-    state(self).separator = color;
+    sim::retainInto(state(self).separator, color);
     for (auto &[row, cell] : state(self).cells) sim::setSeparatorColor(cell, color);
 }
 

@@ -1,5 +1,6 @@
 #include "TableState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Views/ViewState.h"
 
@@ -319,9 +320,7 @@ void setSeparatorColor(UITableViewCell *cell, UIColor *color) {
 - (void)setBackgroundView:(UIView *)view {
     auto &mine = state(self);
     [mine.ownBackground removeFromSuperview];
-    [view retain];
-    [mine.ownBackground release];
-    mine.ownBackground = view;
+    sim::retainInto(mine.ownBackground, view);
     [mine.background setHidden:view != nil];
     [view setFrame:[self bounds]];
     [view setAutoresizingMask:UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight];

@@ -1,4 +1,5 @@
 #include "FontState.h"
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -63,9 +64,7 @@ CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * sca
     return state(self).text;
 }
 - (void)setText:(NSString *)text {
-    NSString *copy = [text copy];
-    [state(self).text release];
-    state(self).text = copy;
+    sim::copyInto(state(self).text, text);
 }
 
 - (UIFont *)font {
@@ -73,9 +72,7 @@ CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * sca
 }
 - (void)setFont:(UIFont *)font {
     if (!font) return;
-    [font retain];
-    [state(self).font release];
-    state(self).font = font;
+    sim::retainInto(state(self).font, font);
 }
 
 - (UIColor *)textColor {

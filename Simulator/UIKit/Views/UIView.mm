@@ -1,5 +1,6 @@
 #include "ViewState.h"
 
+#include "Runtime/Objc/Ownership.h"
 #include "UIKit/QuartzCore/AnimationBlock.h"
 #include "UIKit/Touch/RecognizerState.h"
 
@@ -137,9 +138,7 @@ using sim::state;
 }
 - (void)setTintColor:(UIColor *)color {
     auto &mine = state(self);
-    [color retain];
-    [mine.tint release];
-    mine.tint = color;
+    sim::retainInto(mine.tint, color);
     [self tintColorDidChange];
 }
 - (void)tintColorDidChange {
