@@ -2,13 +2,13 @@
 
 #include "PendixSettings/Applications/appController.h"
 #include "PendixSettings/Core/Rows.h"
+#include "Tweak/Core/Names.h"
 
 #include <AppList/AppList.h>
 
 namespace {
 
 // Has no icon of its own, so shows the one that such applications get.
-NSString *const kWithoutIcon = @"com.apple.WebViewService";
 
 } // namespace
 
@@ -20,7 +20,7 @@ NSString *const kWithoutIcon = @"com.apple.WebViewService";
     auto iconOf = [list](NSString *identifier) {
         return [list iconOfSize:ALApplicationIconSizeSmall forDisplayIdentifier:identifier];
     };
-    NSData *placeholder = UIImagePNGRepresentation(iconOf(kWithoutIcon));
+    NSData *placeholder = UIImagePNGRepresentation(iconOf(pendix::names::placeholderOwner));
     for (NSString *identifier in list.applications) {
         UIImage *icon = iconOf(identifier);
         if ([UIImagePNGRepresentation(icon) isEqual:placeholder]) continue;

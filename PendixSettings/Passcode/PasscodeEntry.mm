@@ -1,17 +1,14 @@
 #include "PendixSettings/Passcode/PasscodeSheet.h"
 
 #include "PendixSettings/Passcode/DigitEntry.hpp"
-
-#include <AudioToolbox/AudioServices.h>
+#include "Tweak/Core/Sounds.h"
 
 namespace pendix::pane {
 
 namespace {
 
-NSString *const kDash = @"/Library/Application Support/Pendix/dash.png";
 NSString *const kDot = @"/Library/Application Support/Pendix/dot.png";
 
-constexpr SystemSoundID kVibration = 4095;
 constexpr NSTimeInterval kAdvance = 0.25; // seconds
 constexpr NSUInteger kGroupSize = 1 + kDigits;
 
@@ -37,7 +34,7 @@ BOOL enterInto(UITextField *field, NSInteger group) {
 }
 
 void refuse(UITextField *field, NSInteger group) {
-    AudioServicesPlaySystemSound(kVibration);
+    AudioServicesPlaySystemSound(sounds::vibration);
     for (size_t place = 1; place <= kDigits; ++place) show(field, group, place, kDash);
     field.text = @"";
 }

@@ -9,6 +9,9 @@
 
 namespace pendix::pane {
 
+// A place without a digit.
+inline NSString *const kDash = @"/Library/Application Support/Pendix/dash.png";
+
 struct DigitGroup {
     NSString *key; // of its text
     int screen;    // 0 is the middle, 1 one screen to the right, -1 to the left

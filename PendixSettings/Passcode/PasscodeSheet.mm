@@ -7,8 +7,6 @@ namespace pendix::pane {
 
 namespace {
 
-NSString *const kDash = @"/Library/Application Support/Pendix/dash.png";
-
 constexpr CGFloat kTextSize = 16, kFieldSide = 10;
 
 UIViewController *presenter() { return [UIApplication sharedApplication].keyWindow.rootViewController; }

@@ -13,6 +13,9 @@ inline NSString *const paneIcon =
 inline NSString *const activatorListener = @"org.quillhub.Pendix";
 inline NSString *const statusBarItem = @"org.quillhub.pendix";
 
+// Has no icon of its own: what its icon shows is the placeholder.
+inline NSString *const placeholderOwner = @"com.apple.WebViewService";
+
 // Status-bar images, and so the indicator names by which the item is recognised.
 inline NSString *const badgeImage = @"Pendix";
 inline NSString *const switcherImage = @"PendixSwitcher";

@@ -4,6 +4,7 @@
 #include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Scheme.h"
 #include "Tweak/Core/Settings.h"
+#include "Tweak/Core/Sounds.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Lock/CodeEntry.hpp"
@@ -13,13 +14,10 @@
 #include "Tweak/Lock/SpringBoard+Lock.h"
 #include "Tweak/Panel/SpringBoard+Panel.h"
 
-#include <AudioToolbox/AudioServices.h>
-
 namespace pendix {
 
 namespace {
 
-constexpr SystemSoundID kKeyClick = 1104, kVibration = 4095;
 constexpr float kFlash = 0.1f, kDotChange = 0.2f, kShakeMove = 0.1f; // seconds
 
 UIView *dotAt(UIView *keypad, int dot) { return subviewWithTag(keypad, tags::firstPasscodeDot + dot); }
@@ -64,7 +62,7 @@ void compareCode(SpringBoard *springBoard, UIView *keypad) {
         [springBoard unlockPendix:tags::keypadFace];
         return;
     }
-    AudioServicesPlaySystemSound(kVibration);
+    AudioServicesPlaySystemSound(sounds::vibration);
     [springBoard tryAgain:keypad];
     setTitle(deleteButton(keypad), @"cancel");
 }
@@ -93,7 +91,7 @@ void clearDot(UIView *dot) {
 void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
     UIView *key = recognizer.view, *keypad = key.superview;
     UIColor *ink = currentScheme().ink;
-    AudioServicesPlaySystemSound(kKeyClick);
+    AudioServicesPlaySystemSound(sounds::keyClick);
     flash(key, ink);
     [deleteButton(keypad) setTitleColor:ink forState:UIControlStateNormal];
     enter(self, keypad, digitOfKey(static_cast<int>(key.tag)), ink);

@@ -1,6 +1,7 @@
 #include "Tweak/Lock/PendixTouchIDController.h"
 
 #include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/Sounds.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Support/UIView+Shimmer.h"
 #include "Tweak/Core/Tags.h"
@@ -8,11 +9,8 @@
 #include "Tweak/Lock/FaceParts.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
 
-#include <AudioToolbox/AudioServices.h>
-
 namespace {
 
-constexpr SystemSoundID kVibration = 4095;
 constexpr NSInteger kIdle = 0, kScanning = 1, kTicked = 6; // of the glyph
 
 SBUIBiometricEventMonitor *monitor() {
@@ -73,7 +71,7 @@ UIView *fingerFace() { return pendix::lockFace(pendix::tags::fingerFace); }
     case 9: // not matched
     case 10:
         [self resetFinger];
-        AudioServicesPlaySystemSound(kVibration);
+        AudioServicesPlaySystemSound(pendix::sounds::vibration);
         break;
     }
 }

@@ -2,6 +2,7 @@
 #include "Tweak/Panel/PanelBuild.h"
 
 #include "Tweak/Core/Applications.h"
+#include "Tweak/Core/Names.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/Settings.h"
@@ -17,7 +18,6 @@ namespace {
 // one, is known by having no icon of its own.
 NSString *const kNeverListed[] = {@"com.apple.SiriViewService", @"com.apple.PrintKit.Print-Center",
                                   @"com.apple.uikit.PrintStatus"};
-NSString *const kPlaceholderOwner = @"com.apple.WebViewService";
 
 NSArray *candidates(BOOL running) {
     if (!running) return [NSArray arrayWithArray:datas];
@@ -76,7 +76,7 @@ BOOL find(NSString *identifier, BOOL running, NSString *foreground, CGImageRef p
 } // namespace
 
 void addApplications(PanelBuild &build) {
-    CGImageRef placeholder = iconImage(iconViewOf(kPlaceholderOwner));
+    CGImageRef placeholder = iconImage(iconViewOf(names::placeholderOwner));
     NSString *foreground = foregroundIdentifier();
     for (NSString *identifier in candidates(build.running)) {
         PanelApplication application;

@@ -1,6 +1,8 @@
 // Page dots, empty text, putting it all together, and the opening animation.
 #include "Tweak/Panel/PanelBuild.h"
 
+#include "Tweak/Panel/Corners.h"
+
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
@@ -16,21 +18,8 @@ namespace {
 
 constexpr CGFloat kDotRadius = 3;
 constexpr CGFloat kDotsAbove = 1; // z position: above the strip, which comes after them among the subviews
-constexpr CGFloat kEmptySize = 16;
-constexpr NSInteger kEmptyLines = 4;
-constexpr float kOpening = 0.5f;          // seconds
-constexpr CFTimeInterval kRounding = 0.5; // seconds, whatever `fast` says
-constexpr CGFloat kPanelRadius = 10;
-
-void roundCorners(UIView *panel) {
-    CABasicAnimation *rounding = [CABasicAnimation animationWithKeyPath:@"cornerRadius"];
-    rounding.timingFunction = [CAMediaTimingFunction functionWithName:kCAMediaTimingFunctionLinear];
-    rounding.fromValue = [NSNumber numberWithDouble:0];
-    rounding.toValue = [NSNumber numberWithDouble:kPanelRadius];
-    rounding.duration = kRounding;
-    panel.layer.cornerRadius = kPanelRadius;
-    [panel.layer addAnimation:rounding forKey:@"cornerRadius"];
-}
+constexpr float kOpening = 0.5f;  // seconds
+constexpr CFTimeInterval kRounding = 0.5; // seconds
 
 } // namespace
 
@@ -51,14 +40,20 @@ void addPageDots(PanelBuild &build) {
     build.dots = dots;
 }
 
-void addEmptyText(PanelBuild &build) {
-    if (build.count != 0) return;
-    CGRect frame = CGRectMake(0, 0, build.strip.frame.size.width, build.strip.frame.size.height);
-    NSString *text = Translator(build.running ? @"no_running_apps" : @"no_badge");
-    UILabel *label = panelLabel(frame, text, @"HelveticaNeue", kEmptySize, build.scheme.ink);
-    label.numberOfLines = kEmptyLines;
-    [build.strip addSubview:label];
+UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink) {
+    constexpr CGFloat kSize = 16;
+    constexpr NSInteger kLines = 4;
+    CGRect frame = CGRectMake(0, 0, strip.frame.size.width, strip.frame.size.height);
+    NSString *text = Translator(running ? @"no_running_apps" : @"no_badge");
+    UILabel *label = panelLabel(frame, text, @"HelveticaNeue", kSize, ink);
+    label.numberOfLines = kLines;
+    [strip addSubview:label];
     [datas removeAllObjects];
+    return label;
+}
+
+void fillEmptyStrip(PanelBuild &build) {
+    if (build.count == 0) addEmptyText(build.strip, build.running, build.scheme.ink);
 }
 
 void assemble(PanelBuild &build) {
@@ -100,7 +95,7 @@ void openPanel(PanelBuild &build) {
             if (blurs) overlayView(tags::screenBackdrop).alpha = 1;
         }
         completion:^(BOOL) { [springBoard liveClock]; }];
-    roundCorners(panel);
+    turnCorners(panel, 0, kPanelRadius, kRounding);
     [window bringSubviewToFront:panel];
 }
 

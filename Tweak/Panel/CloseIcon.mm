@@ -23,8 +23,6 @@ namespace {
 
 constexpr float kStep = 0.3f;     // seconds; collapsing, closing up and the empty text
 constexpr float kMarkFade = 0.5f; // seconds
-constexpr CGFloat kEmptySize = 16;
-constexpr NSInteger kEmptyLines = 4;
 // Tells an item that is on its way out; closing it twice would quit its neighbour's place.
 NSString *const kClosing = @"closing";
 
@@ -103,14 +101,8 @@ BOOL hasEmptyText() {
 
 void showEmptyText(BOOL running) {
     if (!strip() || [itemViews() count] != 0 || hasEmptyText()) return;
-    CGSize size = strip().frame.size;
-    UILabel *label = panelLabel(CGRectMake(0, 0, size.width, size.height),
-                                Translator(running ? @"no_running_apps" : @"no_badge"), @"HelveticaNeue",
-                                kEmptySize, currentScheme().ink);
-    label.numberOfLines = kEmptyLines;
+    UILabel *label = addEmptyText(strip(), running, currentScheme().ink);
     label.alpha = 0;
-    [strip() addSubview:label];
-    [datas removeAllObjects];
     [UIView animateWithDuration:animationDuration(kStep) animations:^{ label.alpha = 1.0; }];
 }
 

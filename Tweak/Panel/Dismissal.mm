@@ -7,6 +7,7 @@
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/Corners.h"
 #include "Tweak/Panel/SpringBoard+Panel.h"
 #include "Tweak/StatusBar/SpringBoard+Badges.h"
 
@@ -15,18 +16,7 @@ namespace pendix {
 namespace {
 
 constexpr float kClosing = 0.5f;          // seconds
-constexpr CFTimeInterval kSquaring = 0.5; // seconds, whatever `fast` says
-constexpr CGFloat kPanelRadius = 10;
-
-void squareCorners(UIView *panel) {
-    CABasicAnimation *squaring = [CABasicAnimation animationWithKeyPath:@"cornerRadius"];
-    squaring.timingFunction = [CAMediaTimingFunction functionWithName:kCAMediaTimingFunctionLinear];
-    squaring.fromValue = [NSNumber numberWithDouble:kPanelRadius];
-    squaring.toValue = [NSNumber numberWithDouble:0];
-    squaring.duration = kSquaring;
-    panel.layer.cornerRadius = 0;
-    [panel.layer addAnimation:squaring forKey:@"cornerRadius"];
-}
+constexpr CFTimeInterval kSquaring = 0.5; // seconds
 
 // Where the panel shrinks to. An indicator that has just been hidden has left its glyph's copy behind.
 CGRect collapsePoint(SpringBoard *springBoard) {
@@ -70,7 +60,7 @@ void added::dismisPendixUI(SpringBoard *self, SEL) {
     isEditing = NO;
     requireFinger = NO;
     if ([self hasTouchID]) stopFingerMonitor();
-    squareCorners(panelView()); // at its own pace, so outside the block
+    turnCorners(panelView(), kPanelRadius, 0, kSquaring);
     [UIView animateWithDuration:animationDuration(kClosing)
         animations:^{
             window.backgroundColor = [UIColor clearColor];

@@ -42,7 +42,7 @@ void addLogo(PanelBuild &build);
 void addContentAndStrip(PanelBuild &build);
 void addApplications(PanelBuild &build);
 void addPageDots(PanelBuild &build);
-void addEmptyText(PanelBuild &build);
+void fillEmptyStrip(PanelBuild &build);
 void fitCards(PanelBuild &build);
 void assemble(PanelBuild &build);
 void openPanel(PanelBuild &build);
@@ -63,6 +63,9 @@ void makeCard(PanelBuild &build, const PanelApplication &application, UIView *it
               UIImageView *iconImage);
 void addBadge(const PanelApplication &application, UIView *itemView, CGRect iconFrame);
 void drawClock(UIView *itemView, UIView *iconImage);
+
+// Says over the whole strip that there is nothing to show; empties `datas`.
+UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink);
 
 // A label in the panel's type: centred, in ink.
 UILabel *panelLabel(CGRect frame, NSString *text, NSString *font, CGFloat size, UIColor *ink);

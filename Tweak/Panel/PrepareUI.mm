@@ -63,7 +63,7 @@ void added::prepareUI(SpringBoard *self, SEL, UIStatusBarItemView *item) {
     addContentAndStrip(build);
     addApplications(build);
     addPageDots(build);
-    addEmptyText(build);
+    fillEmptyStrip(build);
     assemble(build);
     if (isLocked()) {
         build.height = addLockFaces({.springBoard = self,

@@ -1,0 +1,10 @@
+// The system's own sounds by their numbers.
+#pragma once
+
+#include <AudioToolbox/AudioServices.h>
+
+namespace pendix::sounds {
+
+constexpr SystemSoundID keyClick = 1104, vibration = 4095;
+
+} // namespace pendix::sounds
