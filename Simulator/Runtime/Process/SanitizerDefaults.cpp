@@ -7,9 +7,9 @@ __attribute__((used, visibility("default"))) const char *__asan_default_options(
     return "fast_unwind_on_malloc=0";
 }
 
-// The language runtime and the font library keep tables until the end.
+// The language runtime keeps tables until the end.
 __attribute__((used, visibility("default"))) const char *__lsan_default_suppressions() {
-    return "leak:libobjc.so\nleak:__objc_exec_class\nleak:libfontconfig.so\n";
+    return "leak:libobjc.so\nleak:__objc_exec_class\n";
 }
 
 // The suppressions at work are nobody's news.
