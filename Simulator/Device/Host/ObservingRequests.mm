@@ -41,11 +41,20 @@ Value resetCounters(const Value &) {
     return {};
 }
 
-// Puts the screen of this moment into the supervisor's picture file.
+// Puts the screen of this moment into the supervisor's picture file: {"areas": [[x, y, width, height]]
+// outside of which no pixel differs from the draw before, "interface": the way the interface is turned}.
 Value draw(const Value &) {
     static render::Renderer renderer;
-    writePicture(kPictureDescriptor, renderer.draw(currentScene()));
-    return {};
+    static PictureMemory memory(kPictureDescriptor);
+    const render::Bitmap &picture = renderer.draw(currentScene());
+    std::vector<PictureArea> changed;
+    for (const auto &rect : renderer.repainted())
+        changed.push_back({rect.x, rect.y, rect.width, rect.height});
+    Array areas;
+    for (const auto &area : memory.update(picture, changed))
+        areas.push_back(Array{area.x, area.y, area.width, area.height});
+    auto interface = static_cast<int>([[UIApplication sharedApplication] statusBarOrientation]);
+    return Object{{"areas", areas}, {"interface", interface}};
 }
 
 } // namespace

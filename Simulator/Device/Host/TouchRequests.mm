@@ -10,7 +10,10 @@ namespace sim {
 
 namespace {
 
-constexpr int kFinger = 0;
+// {"finger": number}, which tells fingers apart; absent: the first.
+int finger(const Value &arguments) {
+    return arguments.has("finger") ? static_cast<int>(arguments["finger"].integer()) : 0;
+}
 
 CGPoint pointIn(const Value &arguments) { return {arguments["x"].number(), arguments["y"].number()}; }
 
@@ -39,17 +42,17 @@ Value down(const Value &arguments) {
             recordWarning("the touched view is gone; the touch lands where it was");
         }
     }
-    touchBegan(kFinger, fromUpright(point));
+    touchBegan(finger(arguments), fromUpright(point));
     return Object{{"x", point.x}, {"y", point.y}};
 }
 
 Value move(const Value &arguments) {
-    touchMoved(kFinger, fromUpright(pointIn(arguments)));
+    touchMoved(finger(arguments), fromUpright(pointIn(arguments)));
     return {};
 }
 
-Value up(const Value &) {
-    touchEnded(kFinger);
+Value up(const Value &arguments) {
+    touchEnded(finger(arguments));
     return {};
 }
 

@@ -16,7 +16,8 @@ Installation findInstallation() {
     return {.programs = programs,
             .stageRoot = stage / "root",
             .platform = stage / "platform",
-            .manifest = stage / "package.json"};
+            .manifest = stage / "package.json",
+            .page = stage / "page"};
 }
 
 std::string readFile(const fs::path &path) {

@@ -12,6 +12,7 @@ struct Installation {
     std::filesystem::path stageRoot; // the installed files, laid out as on the device
     std::filesystem::path platform;  // pictures of the simulated platform, applications.json
     std::filesystem::path manifest;  // package.json
+    std::filesystem::path page;      // the files of the live page
 };
 
 // Beside the running program.

@@ -1,7 +1,6 @@
 #include "ChildProcess.hpp"
 
 #include "Device/Protocol/Descriptors.hpp"
-#include "Device/Protocol/PictureMemory.hpp"
 
 #include <cerrno>
 #include <csignal>
@@ -89,7 +88,8 @@ ChildProcess::ChildProcess(const Setup &setup) : ChildProcess(setup, Connection(
 
 ChildProcess::ChildProcess(const Setup &setup, Connection connection)
     : channel_(connection.supervisor), crashReport_(memory("crash")), errorOutput_(memory("output")),
-      picture_(memory("picture")), timeMemory_(SharedTime::create()), time_(timeMemory_) {
+      picture_(memory("picture")), timeMemory_(SharedTime::create()), time_(timeMemory_),
+      pictureMemory_(picture_) {
     Descriptor childEnd(connection.child);
     start(setup, childEnd);
 }
@@ -123,6 +123,11 @@ ChildProcess::~ChildProcess() {
 }
 
 render::Bitmap ChildProcess::picture() const { return readPicture(picture_); }
+
+std::vector<PictureArea> ChildProcess::refresh(render::Bitmap &picture,
+                                               std::span<const PictureArea> changed) {
+    return pictureMemory_.refresh(picture, changed);
+}
 
 Ending ChildProcess::end() {
     channel_.close();

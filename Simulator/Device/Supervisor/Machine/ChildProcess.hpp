@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Device/Protocol/Channel.hpp"
+#include "Device/Protocol/PictureMemory.hpp"
 #include "Device/Protocol/SharedTime.hpp"
 #include "Render/Bitmap.hpp"
 
@@ -44,6 +45,8 @@ public:
     Channel &channel() { return channel_; }
     // The picture that the process wrote last.
     render::Bitmap picture() const;
+    // The same, copied to `picture` as far as it changed: see PictureMemory.hpp.
+    std::vector<PictureArea> refresh(render::Bitmap &picture, std::span<const PictureArea> changed);
     // Hangs up, which makes a healthy process exit, and waits for its end.
     Ending end();
 
@@ -71,6 +74,7 @@ private:
     Channel channel_;
     Descriptor crashReport_, errorOutput_, picture_, timeMemory_;
     SharedTime time_;
+    PictureMemory pictureMemory_;
     pid_t process_ = 0;
 };
 

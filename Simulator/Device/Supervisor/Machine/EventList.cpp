@@ -2,6 +2,7 @@
 
 #include "Device/Supervisor/Text/Readable.hpp"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace sim {
@@ -17,6 +18,11 @@ Array EventList::ofKind(const std::string &kind) const {
     for (const auto &event : events_)
         if (event["kind"].string() == kind) result.push_back(event);
     return result;
+}
+
+Array EventList::since(size_t first) const {
+    first = std::min(first, events_.size());
+    return {events_.begin() + static_cast<Array::difference_type>(first), events_.end()};
 }
 
 Array EventList::log() const {

@@ -14,9 +14,12 @@ public:
     // An event of the supervisor's own making. `seconds` is the virtual time since the device was booted.
     void add(double seconds, const char *kind, Object fields);
 
+    size_t size() const { return events_.size(); }
     // All, or those of one kind.
     Array all() const { return events_; }
     Array ofKind(const std::string &kind) const;
+    // Those from that place in the list on.
+    Array since(size_t first) const;
     // The lines of the system log.
     Array log() const;
     // The last `count` of them, a line each, for people.

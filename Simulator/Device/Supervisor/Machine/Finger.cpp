@@ -17,7 +17,7 @@ constexpr double kSamplesPerSecond = 60;
 
 void Finger::down(const TouchTarget &target) {
     if (isDown()) throw RequestError("the finger is down already");
-    Object arguments{{"x", target.x}, {"y", target.y}};
+    Object arguments{{"finger", number_}, {"x", target.x}, {"y", target.y}};
     if (target.view) arguments.emplace("view", *target.view);
     // The touch belongs to the home screen that was asked, whatever becomes of it.
     generation_ = device_.generation();
@@ -32,7 +32,7 @@ void Finger::move(double x, double y) {
     if (!isDown()) throw RequestError("the finger is not down");
     x_ = x;
     y_ = y;
-    device_.act("touch_move", {{"x", x}, {"y", y}});
+    device_.act("touch_move", {{"finger", number_}, {"x", x}, {"y", y}});
 }
 
 void Finger::up() {
@@ -41,7 +41,7 @@ void Finger::up() {
 }
 
 void Finger::lift() {
-    if (isDown()) device_.act("touch_up");
+    if (isDown()) device_.act("touch_up", {{"finger", number_}});
     touching_ = false;
 }
 

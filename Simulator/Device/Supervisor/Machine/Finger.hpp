@@ -16,7 +16,8 @@ struct TouchTarget {
 // dropped.
 class Finger {
 public:
-    explicit Finger(SimulatedScreen &device) : device_(device) {}
+    // `number` tells it from the other fingers.
+    explicit Finger(SimulatedScreen &device, int64_t number = 0) : device_(device), number_(number) {}
 
     void down(const TouchTarget &target);
     void move(double x, double y);
@@ -37,6 +38,7 @@ private:
     void lift();
 
     SimulatedScreen &device_;
+    int64_t number_;
     bool touching_ = false;
     unsigned generation_ = 0;
     double x_ = 0, y_ = 0;

@@ -4,6 +4,7 @@
 #include "Runtime/Values/PropertyList.hpp"
 
 #include <stdexcept>
+#include <sys/stat.h>
 
 namespace sim {
 
@@ -18,6 +19,13 @@ std::optional<Value> SettingsFile::read(std::string *problem) const {
         return std::nullopt;
     }
     return content;
+}
+
+std::string SettingsFile::state() const {
+    struct stat status {};
+    if (stat(path_.c_str(), &status) != 0) return "absent";
+    return std::to_string(status.st_ino) + " " + std::to_string(status.st_size) + " " +
+           std::to_string(status.st_mtim.tv_sec) + "." + std::to_string(status.st_mtim.tv_nsec);
 }
 
 void SettingsFile::write(const Value &settings) const { writeText(toXmlPropertyList(settings)); }

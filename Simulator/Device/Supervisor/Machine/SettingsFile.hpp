@@ -16,6 +16,8 @@ public:
     // The dictionary in any of the property list's forms; nothing when the file is absent or holds none. In
     // the latter case `*problem` says why, otherwise it is empty.
     std::optional<Value> read(std::string *problem) const;
+    // Another text whenever the file was written, replaced or removed since; cheap.
+    std::string state() const;
     // Replaces the file in one step, as XML. Throws std::runtime_error; the old file stays then.
     void write(const Value &settings) const;
     // The bytes as they are.

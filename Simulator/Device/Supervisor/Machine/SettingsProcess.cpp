@@ -78,11 +78,6 @@ Value SettingsProcess::perform(const char *request, Object &arguments, bool *die
 
 void SettingsProcess::runTo(int64_t time) { act("advance", {{"to", time}}); }
 
-render::Bitmap SettingsProcess::picture() {
-    ask("draw");
-    return process_->picture();
-}
-
 void SettingsProcess::close() {
     if (!process_) return;
     troubles_ += troublesOf(process_->end(), "The Settings application");

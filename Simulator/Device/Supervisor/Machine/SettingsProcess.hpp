@@ -20,7 +20,6 @@ public:
 
     int64_t now() const override;
     void advance(int64_t duration) override;
-    render::Bitmap picture() override;
     unsigned generation() const override { return 1; }
     const EventList &events() const override { return events_; }
     void warn(const std::string &text) override;
@@ -40,6 +39,7 @@ public:
     void close();
 
 private:
+    SimulatedProcess &process() override { return *process_; }
     Value perform(const char *request, Object &arguments, bool *died) override;
     const char *processName() const override { return "the Settings application"; }
     void recordCrash(const Ending &ending);

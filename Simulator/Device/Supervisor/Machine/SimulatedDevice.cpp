@@ -192,9 +192,4 @@ void SimulatedDevice::advanceBoth(int64_t target) {
     } while (now_ < target || (settingsProcess_->running() && settingsProcess_->time() < target));
 }
 
-render::Bitmap SimulatedDevice::picture() {
-    ask("draw");
-    return home_->picture();
-}
-
 } // namespace sim

@@ -31,7 +31,6 @@ public:
 
     int64_t now() const override { return now_; }
     void advance(int64_t duration) override;
-    render::Bitmap picture() override;
     // Counts the boots of the home screen.
     unsigned generation() const override { return generation_; }
     const EventList &events() const override { return events_; }
@@ -65,6 +64,7 @@ private:
     void runHome(int64_t time);
     void advanceBoth(int64_t target);
     std::optional<int64_t> next() const override { return next_; }
+    SimulatedProcess &process() override { return *home_; }
 
     DeviceSetup setup_;
     BootOptions options_; // applications and lock as they are by now

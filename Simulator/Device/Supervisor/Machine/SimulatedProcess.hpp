@@ -38,6 +38,9 @@ public:
     Reply request(const char *name, Object arguments = {});
 
     render::Bitmap picture() const { return child_.picture(); }
+    std::vector<PictureArea> refresh(render::Bitmap &picture, std::span<const PictureArea> changed) {
+        return child_.refresh(picture, changed);
+    }
     Ending end() { return child_.end(); }
 
 private:

@@ -37,4 +37,25 @@ int64_t SimulatedScreen::settle(int64_t limit) {
     }
 }
 
+render::Bitmap SimulatedScreen::picture() {
+    drawn_ = 0;
+    ask("draw");
+    return process().picture();
+}
+
+std::vector<PictureArea> SimulatedScreen::refresh(render::Bitmap &picture) {
+    Value answer = ask("draw");
+    std::vector<PictureArea> areas;
+    auto pixels = [](const Value &number) { return static_cast<int>(number.integer()); };
+    for (const auto &area : answer["areas"].array()) {
+        const Array &numbers = area.array();
+        areas.push_back({pixels(numbers[0]), pixels(numbers[1]), pixels(numbers[2]), pixels(numbers[3])});
+    }
+    interfaceOrientation_ = pixels(answer["interface"]);
+    // What changed since another drawing says nothing of what changed since ours.
+    if (drawn_ != generation()) picture = {};
+    drawn_ = generation();
+    return process().refresh(picture, areas);
+}
+
 } // namespace sim

@@ -1,17 +1,20 @@
 // One process of a device as whoever holds the device knows it: a screen that can be touched and looked at.
 #pragma once
 
+#include "Device/Protocol/PictureMemory.hpp"
 #include "Device/Supervisor/Boot/BootOptions.hpp"
 #include "Device/Supervisor/Boot/Package.hpp"
 #include "EventList.hpp"
-#include "Render/Bitmap.hpp"
 #include "SettingsFile.hpp"
 
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace sim {
+
+class SimulatedProcess;
 
 class SimulatedScreen {
 public:
@@ -29,8 +32,14 @@ public:
     Value act(const char *request, Object arguments = {});
     // The same for a question, which a crash leaves without an answer: that is a RequestError.
     Value ask(const char *request, Object arguments = {});
-    // The screen at this moment.
-    virtual render::Bitmap picture() = 0;
+    // The screen at this moment, upright: on its side it is as wide as it was high.
+    render::Bitmap picture();
+    // The same for who looks again and again: `picture` is what this gave the last time, or an empty one, and
+    // gets what has changed. Returns the areas that did.
+    std::vector<PictureArea> refresh(render::Bitmap &picture);
+    // How the interface was turned in what refresh() gave last: 1 portrait, 2 upside down, 3 landscape with
+    // the home button on the right, 4 with it on the left.
+    int interfaceOrientation() const { return interfaceOrientation_; }
     // Counts the starts of the process: what was seen of one says nothing of the next.
     virtual unsigned generation() const = 0;
 
@@ -55,6 +64,12 @@ protected:
     virtual const char *processName() const = 0;
     // When something is due next in the process.
     virtual std::optional<int64_t> next() const = 0;
+    // The process that draws it. Only while it runs.
+    virtual SimulatedProcess &process() = 0;
+
+private:
+    int interfaceOrientation_ = 1;
+    unsigned drawn_ = 0; // the generation whose last drawing refresh() has seen; 0: none
 };
 
 struct SettleError : std::runtime_error {

@@ -6,6 +6,7 @@
 #include "Device/Supervisor/Machine/SettingsProcess.hpp"
 #include "Device/Supervisor/Machine/SimulatedDevice.hpp"
 
+#include <map>
 #include <memory>
 #include <span>
 
@@ -20,11 +21,15 @@ struct Phone {
         : owner(std::move(owner)), pane(std::move(pane)), device(*this->pane), finger(device),
           serial(serial) {}
 
+    // Fingers count from 1, the one of all calls that name none. Throws std::runtime_error past 10.
+    Finger &fingerNumbered(int64_t number);
+
     std::shared_ptr<SimulatedDevice> owner;
     std::unique_ptr<SettingsProcess> pane; // of a pane only
     SimulatedScreen &device;
     Finger finger;
-    uint64_t serial; // tells the phones of one script apart
+    std::map<int64_t, Finger> otherFingers; // by number
+    uint64_t serial;                        // tells the phones of one script apart
 };
 
 // A method of it. Arguments start at index 2, there are at most `arguments` of them.

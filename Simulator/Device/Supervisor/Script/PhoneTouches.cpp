@@ -64,27 +64,40 @@ int fling(lua_State *lua, Phone &phone, Script &) {
     return 0;
 }
 
+// The finger that a call names after its other arguments.
+Finger &finger(lua_State *lua, Phone &phone, int index) {
+    return phone.fingerNumbered(lua_isnoneornil(lua, index) ? 1 : wholeNumber(lua, index, "a finger"));
+}
+
 int down(lua_State *lua, Phone &phone, Script &) {
-    phone.finger.down(target(lua, phone));
+    finger(lua, phone, 3).down(target(lua, phone));
     return 0;
 }
 
 int move(lua_State *lua, Phone &phone, Script &) {
-    phone.finger.move(finiteNumber(lua, 2, "x"), finiteNumber(lua, 3, "y"));
+    finger(lua, phone, 4).move(finiteNumber(lua, 2, "x"), finiteNumber(lua, 3, "y"));
     return 0;
 }
 
-int up(lua_State *, Phone &phone, Script &) {
-    phone.finger.up();
+int up(lua_State *lua, Phone &phone, Script &) {
+    finger(lua, phone, 2).up();
     return 0;
 }
 
 } // namespace
 
+Finger &Phone::fingerNumbered(int64_t number) {
+    constexpr int64_t kFingers = 10;
+    if (number < 1 || number > kFingers)
+        throw std::runtime_error("fingers are numbered from 1 to " + std::to_string(kFingers));
+    if (number == 1) return finger;
+    return otherFingers.try_emplace(number, device, number - 1).first->second;
+}
+
 std::span<const Method> touchMethods() {
     static const Method methods[] = {{"tap", 1, tap},     {"hold", 2, hold}, {"drag", 4, drag},
-                                     {"fling", 4, fling}, {"down", 1, down}, {"move", 2, move},
-                                     {"up", 0, up}};
+                                     {"fling", 4, fling}, {"down", 2, down}, {"move", 3, move},
+                                     {"up", 1, up}};
     return methods;
 }
 

@@ -43,6 +43,10 @@ public:
     void noteBootError(const std::string &text) { bootErrors_.push_back(text); }
     Phone &add(std::unique_ptr<Phone> phone);
     void close(Phone *phone);
+    // For who runs pieces of a script one by one.
+    lua_State *interpreter() const { return lua_; }
+    // The one that was booted last; nullptr before the first boot.
+    Phone *lastPhone() const { return phones_.empty() ? nullptr : phones_.back().get(); }
 
 private:
     Outcome runFile();
