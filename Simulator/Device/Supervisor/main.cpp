@@ -1,5 +1,8 @@
-// pendix-sim: runs scripts against simulated devices.
+// pendix-sim: simulated devices, driven by scripts or by people.
+#include "Device/Live/LiveSession.hpp"
+#include "Device/Live/Shot.hpp"
 #include "Device/Profiles/Profiles.hpp"
+#include "Runtime/Values/Json.hpp"
 #include "Script/Script.hpp"
 
 #include <CLI/CLI.hpp>
@@ -9,17 +12,129 @@
 
 namespace {
 
+constexpr const char *kExamples =
+    "A first look:\n"
+    "  pendix-sim live                            a device in the browser\n"
+    "  pendix-sim run FILE.lua --out pictures     a script, and the pictures it takes\n"
+    "  pendix-sim shot home.png --device \"iPad 2\" --ios 7.1\n"
+    "\"pendix-sim COMMAND --help\" teaches each command.";
+
 struct CommandLine {
     sim::ScriptOptions script;
+    sim::LiveOptions live;
+    sim::ShotOptions shot;
+    std::string boot;                             // JSON
+    std::map<std::string, std::string> bootTexts; // single options of boot
+    std::vector<std::string> settings, badges, calls;
     bool debugger = false;
 };
 
-sim::Outcome runScript(CommandLine &commandLine) {
+sim::DeviceSetup setupOf(const CommandLine &commandLine) {
     sim::Installation installation = sim::findInstallation();
-    sim::DeviceSetup setup{.installation = installation,
-                           .package = sim::readPackage(installation.manifest),
-                           .debugger = commandLine.debugger};
-    return sim::Script(std::move(setup), std::move(commandLine.script)).run();
+    return {.installation = installation,
+            .package = sim::readPackage(installation.manifest),
+            .debugger = commandLine.debugger};
+}
+
+sim::Value bootTable(const CommandLine &commandLine) {
+    sim::Value table =
+        commandLine.boot.empty() ? sim::Value(sim::Object{}) : sim::parseJson(commandLine.boot);
+    if (!table.isObject()) throw sim::BootError("the boot options must be a JSON object");
+    for (const auto &[name, text] : commandLine.bootTexts)
+        if (!text.empty()) table.set(name, text);
+    if (!commandLine.settings.empty()) {
+        sim::Value settings = table.has("settings") ? table["settings"] : sim::Value(sim::Object{});
+        for (const auto &text : commandLine.settings) {
+            auto [key, value] = sim::settingFrom(text);
+            settings.set(key, value);
+        }
+        table.set("settings", settings);
+    }
+    return table;
+}
+
+void addBootOptions(CLI::App &command, CommandLine &commandLine) {
+    command.add_option("--device", commandLine.bootTexts["device"],
+                       "\"iPhone 6\"; pendix-sim profiles lists all");
+    command.add_option("--ios", commandLine.bootTexts["ios"], "System version: 8.1");
+    command.add_option("--language", commandLine.bootTexts["language"], "en, it or es");
+    command.add_option("--clock", commandLine.bootTexts["clock"],
+                       "The device's time: \"2015-03-01 10:20:30\"");
+    command.add_option("--set", commandLine.settings, "A setting before the start: enable=true (repeatable)")
+        ->type_name("KEY=VALUE")
+        ->expected(1)
+        ->take_all();
+    command.add_option("BOOT,--boot", commandLine.boot, "More boot options as JSON: '{\"passcode\": true}'");
+}
+
+sim::Outcome runScript(CommandLine &commandLine) {
+    return sim::Script(setupOf(commandLine), std::move(commandLine.script)).run();
+}
+
+sim::Outcome runLive(CommandLine &commandLine) {
+    sim::DeviceSetup setup = setupOf(commandLine);
+    commandLine.live.boot = bootTable(commandLine);
+    sim::LiveSession session(setup, commandLine.live);
+    std::cout << "The device is at " << session.address() << "  (Ctrl-C ends it)" << std::endl;
+    session.run();
+    if (!commandLine.live.script.empty())
+        std::cout << "What was done is in " << commandLine.live.script.string() << '\n';
+    return sim::Outcome::passed;
+}
+
+sim::Outcome runShot(CommandLine &commandLine) {
+    commandLine.shot.boot = bootTable(commandLine);
+    auto &statements = commandLine.shot.statements;
+    for (const auto &badge : commandLine.badges) statements.push_back(sim::badgeStatement(badge));
+    statements.insert(statements.end(), commandLine.calls.begin(), commandLine.calls.end());
+    sim::takeShot(setupOf(commandLine), commandLine.shot);
+    return sim::Outcome::passed;
+}
+
+CLI::App *addRun(CLI::App &program, CommandLine &commandLine) {
+    auto *run = program.add_subcommand("run", "Run a script");
+    run->add_option("FILE", commandLine.script.file, "The script (Lua 5.4)")
+        ->required()
+        ->check(CLI::ExistingFile);
+    run->add_option("--out", commandLine.script.pictures, "Folder for pictures")->capture_default_str();
+    run->add_option("--seed", commandLine.script.seed, "Seed of math.random")->capture_default_str();
+    run->add_flag("--gdb", commandLine.debugger, "Start the simulated processes under gdb in this terminal");
+    run->footer(
+        "What follows -- on the command line is in the script's global `args`.\n"
+        "Exits with 0 when every expectation held, 1 when one failed, 2 when the call or a boot was wrong.");
+    return run;
+}
+
+CLI::App *addLive(CLI::App &program, CommandLine &commandLine, const char *name, const char *what) {
+    auto *live = program.add_subcommand(name, what);
+    live->add_option("--port", commandLine.live.port, "On 127.0.0.1; 0 takes any that is free")
+        ->capture_default_str();
+    live->add_option("--speed", commandLine.live.speed, "Of its clock at the start; 0 stops it")
+        ->check(CLI::Range(0.0, 1.0))
+        ->capture_default_str();
+    addBootOptions(*live, commandLine);
+    live->footer("Only this machine can open the page, and only the page can talk to the device.\n"
+                 "Example: pendix-sim live --device \"iPhone 5s\" --ios 7.1 --set enable=true");
+    return live;
+}
+
+CLI::App *addShot(CLI::App &program, CommandLine &commandLine) {
+    auto *shot = program.add_subcommand("shot", "Take one picture of a device");
+    shot->add_option("FILE", commandLine.shot.file, "Where to write the picture (PNG)")->required();
+    addBootOptions(*shot, commandLine);
+    shot->add_option("--badge", commandLine.badges, "First, a badge: com.apple.mobilemail=3 (repeatable)")
+        ->type_name("ID=N")
+        ->expected(1)
+        ->take_all();
+    shot->add_option("--do", commandLine.calls, "Then, a statement of a script (repeatable)")
+        ->type_name("LUA")
+        ->expected(1)
+        ->take_all();
+    shot->add_option("--wait", commandLine.shot.wait, "Then let so many seconds pass")
+        ->check(CLI::Range(0.0, 86400.0));
+    shot->footer("Example: pendix-sim shot panel.png --set enable=true --badge com.apple.mobilemail=3 \\\n"
+                 "             --do 'phone:tap(phone:indicator().view)' --wait 1");
+    return shot;
 }
 
 sim::Outcome run(CLI::App &program, int count, char **arguments) {
@@ -31,20 +146,20 @@ sim::Outcome run(CLI::App &program, int count, char **arguments) {
     if (own != end) commandLine.script.arguments.assign(own + 1, end);
 
     program.require_subcommand(1);
-    auto *run = program.add_subcommand("run", "Run a script");
-    run->add_option("FILE", commandLine.script.file, "The script (Lua 5.4)")
+    program.footer(kExamples);
+    auto *run = addRun(program, commandLine);
+    auto *live = addLive(program, commandLine, "live", "Show a device as a web page on this machine");
+    auto *record = addLive(program, commandLine, "record", "The same, and write what was done as a script");
+    record->add_option("--script", commandLine.live.script, "Where to write it")
         ->required()
-        ->check(CLI::ExistingFile);
-    run->add_option("--out", commandLine.script.pictures, "Folder for pictures")->capture_default_str();
-    run->add_option("--seed", commandLine.script.seed, "Seed of math.random")->capture_default_str();
-    run->add_flag("--gdb", commandLine.debugger, "Start the simulated processes under gdb in this terminal");
-    run->footer(
-        "What follows -- on the command line is in the script's global `args`.\n"
-        "Exits with 0 when every expectation held, 1 when one failed, 2 when the call or a boot was wrong.");
+        ->type_name("FILE.lua");
+    auto *shot = addShot(program, commandLine);
     program.add_subcommand("profiles", "List the devices and their system versions");
     program.parse(static_cast<int>(own - arguments), arguments);
 
     if (run->parsed()) return runScript(commandLine);
+    if (live->parsed() || record->parsed()) return runLive(commandLine);
+    if (shot->parsed()) return runShot(commandLine);
     std::cout << sim::profileTable();
     return sim::Outcome::passed;
 }
@@ -52,7 +167,7 @@ sim::Outcome run(CLI::App &program, int count, char **arguments) {
 } // namespace
 
 int main(int count, char **arguments) {
-    CLI::App program("A simulated home screen, driven by scripts.");
+    CLI::App program("A simulated home screen, driven by scripts or by hand.");
     try {
         return static_cast<int>(run(program, count, arguments));
     } catch (const CLI::ParseError &error) {

@@ -1,0 +1,50 @@
+// The pointers of all pages as fingers on one screen.
+#pragma once
+
+#include "LiveDevice.hpp"
+
+#include <map>
+
+namespace sim {
+
+// A pointer is known by the page that it belongs to and a number of that page's.
+struct Pointer {
+    uint64_t page = 0;
+    int64_t number = 0;
+    auto operator<=>(const Pointer &) const = default;
+};
+
+// Calls throw CallError when the device refuses. Moves and lifts of pointers that are not down are ignored.
+class Fingers {
+public:
+    explicit Fingers(LiveDevice &device) : device_(device) {}
+
+    // Points of the screen as seen upright. A pointer that is down already is lifted first; an eleventh
+    // finger is refused.
+    void down(Pointer pointer, double x, double y);
+    // Takes effect at commit(), for a frame shows one place only.
+    void move(Pointer pointer, double x, double y);
+    // A touch lasts: one that would end in the instant in which it began ends at a later commit().
+    void up(Pointer pointer);
+    void liftAll(uint64_t page);
+    void liftAll();
+    // Moves fingers to where they were last said to be, and lifts those that are due.
+    void commit();
+    // Forgets them: the device that they were on is gone.
+    void clear() { down_.clear(); }
+
+private:
+    struct Finger {
+        int64_t number; // from 1
+        double x, y;
+        int64_t began; // virtual time
+        bool moved = false, lifting = false;
+    };
+    void lift(Pointer pointer);
+    void commit(Finger &finger);
+
+    LiveDevice &device_;
+    std::map<Pointer, Finger> down_;
+};
+
+} // namespace sim

@@ -1,0 +1,85 @@
+// A served device, a browser on it, and the pictures that scripts take: for the page's test.
+import { spawn, execFileSync } from "node:child_process";
+import { mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { createInterface } from "node:readline";
+import { chromium } from "playwright-core";
+
+const program = process.env.PENDIX_SIM ?? new URL("../../build/dev/bin/pendix-sim", import.meta.url).pathname;
+const folder = mkdtempSync(join(tmpdir(), "live-page-"));
+
+export const launch = () => chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
+  args: ["--no-sandbox"] });
+
+// Port 0 takes any that is free.
+export async function serve(options, port = "0") {
+  const server = spawn(program, ["live", "--port", port, ...options], { stdio: ["ignore", "pipe", "inherit"] });
+  for await (const line of createInterface(server.stdout)) {
+    const address = line.match(/http:\S+/)?.[0];
+    if (address) return { address, end: () => ended(server) };
+  }
+  throw new Error("the server did not start");
+}
+
+const ended = server => new Promise(resolve => {
+  server.once("exit", resolve);
+  server.kill("SIGTERM");
+});
+
+// Runs a script; gives what it prints.
+export function run(script) {
+  const file = join(folder, "script.lua");
+  writeFileSync(file, script);
+  return execFileSync(program, ["run", file, "--out", folder], { encoding: "utf8" });
+}
+
+// The picture that a script took under that name, as a data URL.
+export const picture = name => `data:image/png;base64,${readFileSync(join(folder, `${name}.png`), "base64")}`;
+export const cleanUp = () => rmSync(folder, { recursive: true });
+
+// A page on which nothing may go wrong unnoticed.
+export async function open(browser, address, problems, options = {}) {
+  const page = await browser.newPage({ viewport: { width: 1440, height: 1000 }, ...options });
+  page.on("pageerror", error => problems.push(error.message));
+  page.on("console", message => message.type() === "error" && problems.push(message.text()));
+  await page.goto(address);
+  await page.waitForSelector("#status[data-state=good]");
+  return page;
+}
+
+// The device's screen under the mouse, in its points.
+export async function finger(page) {
+  const box = await page.locator("#screen").boundingBox();
+  const zoom = box.width / await page.evaluate(() => document.getElementById("screen").width / 2);
+  const at = (x, y) => [box.x + x * zoom, box.y + y * zoom];
+  return {
+    async tap(x, y) {
+      await page.mouse.move(...at(x, y));
+      await page.mouse.down();
+      await page.waitForFunction(before => document.getElementById("time").textContent !== before,
+        await page.textContent("#time"));
+      await page.mouse.up();
+    },
+    async drag(x, y, dx, dy) {
+      await page.mouse.move(...at(x, y));
+      await page.mouse.down();
+      for (let i = 1; i <= 12; i++) await page.mouse.move(...at(x + dx * i / 12, y + dy * i / 12));
+      await page.mouse.up();
+    },
+  };
+}
+
+// How many pixels of the screen differ from a picture; -1 for one of another size.
+export const difference = (page, url) => page.evaluate(async source => {
+  const canvas = document.getElementById("screen");
+  const image = new Image();
+  image.src = source;
+  await image.decode();
+  if (image.width !== canvas.width || image.height !== canvas.height) return -1;
+  const other = Object.assign(document.createElement("canvas"), { width: canvas.width, height: canvas.height });
+  other.getContext("2d").drawImage(image, 0, 0);
+  const pixels = from => new Uint32Array(from.getContext("2d").getImageData(0, 0, canvas.width, canvas.height).data.buffer);
+  const one = pixels(canvas), two = pixels(other);
+  return one.reduce((sum, pixel, index) => sum + (pixel !== two[index]), 0);
+}, url);

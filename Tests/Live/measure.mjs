@@ -1,0 +1,61 @@
+// Frames a second and processor time of the open panel with the blur behind it, at rest and while the strip is dragged:
+// Tests/Live/run --measure [SECONDS]. Prints a table; proves nothing.
+import { finger, launch, open, serve } from "./harness.mjs";
+import { load, processorTime } from "./usage.mjs";
+
+const seconds = Number(process.argv[2] ?? 8);
+const devices = ["iPhone 6", "iPad Air 2"];
+const apps = ["Mail", "Messages", "Phone", "Calendar", "Weather", "Reminders"].map((name, index) =>
+  ({ id: `com.example.${name}`, name, badge: index + 1 }));
+
+// In the page: counts the frames that were drawn and the bytes of their pixels.
+function countFrames() {
+  const count = (prototype, name, see) => {
+    const original = prototype[name];
+    prototype[name] = function (...rest) {
+      see(...rest);
+      return original.apply(this, rest);
+    };
+  };
+  window.drawn = { frames: 0, bytes: 0 };
+  count(CanvasRenderingContext2D.prototype, "putImageData", data => window.drawn.bytes += data.data.length);
+  count(WebSocket.prototype, "send", message => message.includes('"seen"') && window.drawn.frames++);
+}
+
+async function measure(page, name, during) {
+  const drawn = () => page.evaluate(() => ({ ...window.drawn }));
+  const [before, used, start] = [await drawn(), processorTime(), performance.now()];
+  await during(start + seconds * 1000);
+  const elapsed = (performance.now() - start) / 1000;
+  const [after, total] = [await drawn(), processorTime()];
+  const share = kind => `${(100 * (total[kind] - used[kind]) / elapsed).toFixed(0)} %`;
+  const row = [name, ((after.frames - before.frames) / elapsed).toFixed(1),
+    `${((after.bytes - before.bytes) / elapsed / 1e6).toFixed(1)} MB/s`, share("home screen"), share("supervisor"),
+    share("browser"), load()];
+  console.log(`| ${row.join(" | ")} |`);
+}
+
+async function measureDevice(browser, device) {
+  const server = await serve(["--device", device, "--ios", "8.1", "--set", "enable=true", "--set", "glow=true", "--boot",
+    JSON.stringify({ apps })]);
+  const page = await open(browser, server.address, []);
+  await page.evaluate(countFrames);
+  await page.getByRole("button", { name: "Activator", exact: true }).click();
+  await page.waitForTimeout(2000);
+  await measure(page, `${device}, at rest (the pulse)`, () => page.waitForTimeout(seconds * 1000));
+  const hand = await finger(page);
+  await measure(page, `${device}, strip dragged to and fro`, async end => {
+    while (performance.now() < end) {
+      await hand.drag(250, 90, -150, 0);
+      await hand.drag(100, 90, 150, 0);
+    }
+  });
+  await page.close();
+  await server.end();
+}
+
+console.log("| | Frames a second | Pixels to the page | Home screen | Supervisor | Browser | Load |");
+console.log("|---|---|---|---|---|---|---|");
+const browser = await launch();
+for (const device of devices) await measureDevice(browser, device);
+await browser.close();
