@@ -13,6 +13,9 @@ using testing::HasSubstr;
 @interface Puzzled : NSObject
 @end
 @implementation Puzzled
+- (void)hear:(NSNotification *)notification {
+    [NSException raise:NSGenericException format:@"did not want to hear %@", [notification name]];
+}
 @end
 
 @protocol Unknown
@@ -57,4 +60,11 @@ TEST(UncaughtExceptions, EndTheProcessWithTheirReason) {
     death = deathBy([] { [[NSArray array] objectAtIndex:3]; });
     EXPECT_EQ(death.signal, SIGABRT);
     EXPECT_THAT(death.report, HasSubstr("reason NSRangeException"));
+    death = deathBy([] {
+        NSNotificationCenter *center = [NSNotificationCenter defaultCenter];
+        [center addObserver:[Puzzled new] selector:@selector(hear:) name:@"News" object:nil];
+        [center postNotificationName:@"News" object:nil];
+    });
+    EXPECT_EQ(death.signal, SIGABRT);
+    EXPECT_THAT(death.report, HasSubstr("reason NSGenericException: did not want to hear News"));
 }

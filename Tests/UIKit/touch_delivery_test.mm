@@ -28,9 +28,11 @@ TEST(Hits, TheTopmostWindowThatTakesTheTouch) {
     [low setWindowLevel:UIWindowLevelAlert];
     [high setHidden:NO];
     EXPECT_EQ(sim::touchTarget({50, 50}), below) << "a higher level lies above";
+    down({50, 50});
     [low setHidden:YES], [high setHidden:YES];
     EXPECT_EQ(sim::touchTarget({50, 50}), nil);
-    tapAt({50, 50}); // harmless
+    down({50, 50}, 2), up(2), up(); // harmless
+    tapAt({50, 50});
 }
 
 TEST(Hits, AWindowThatIsNotWhereTheScreenIs) {

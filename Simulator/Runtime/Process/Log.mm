@@ -7,8 +7,26 @@
 
 #define INTERPOSED __attribute__((visibility("default")))
 
+namespace {
+
+// Foundation here logs what an observer of a notification throws, and goes on; on a device it ends the
+// process.
+void endWithObserver(NSString *format, va_list arguments) {
+    bool named = [format isEqualToString:@"Problem posting %@: %@"];
+    if (!named && ![format isEqualToString:@"Problem posting notification: %@"]) return;
+    va_list values;
+    va_copy(values, arguments);
+    if (named) va_arg(values, id);
+    id exception = va_arg(values, id);
+    va_end(values);
+    if (auto *end = NSGetUncaughtExceptionHandler()) end(exception);
+}
+
+} // namespace
+
 INTERPOSED void NSLogv(NSString *format, va_list arguments) {
     @autoreleasepool {
+        endWithObserver(format, arguments);
         NSString *text = @"(null)";
         if (format) text = [[[NSString alloc] initWithFormat:format arguments:arguments] autorelease];
         // The log ends the line itself.

@@ -3,8 +3,9 @@
 extern "C" {
 
 __attribute__((used, visibility("default"))) const char *__asan_default_options() {
-    // Foundation is compiled without frame pointers.
-    return "fast_unwind_on_malloc=0";
+    // Foundation is compiled without frame pointers, so stacks are walked the slow way, and no further than
+    // the suppressions below need.
+    return "fast_unwind_on_malloc=0:malloc_context_size=10";
 }
 
 // The language runtime keeps tables until the end.

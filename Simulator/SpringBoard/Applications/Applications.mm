@@ -3,12 +3,19 @@
 #include "ApplicationLife.h"
 #include "Runtime/Process/Events.hpp"
 
+#include <map>
+
 namespace sim {
 
 namespace {
 
 std::vector<SBApplication *> &installed() {
     static std::vector<SBApplication *> applications;
+    return applications;
+}
+
+std::map<std::string, SBApplication *> &byIdentifier() {
+    static std::map<std::string, SBApplication *> applications;
     return applications;
 }
 
@@ -23,15 +30,15 @@ SBApplication *installApplication(const ApplicationSpec &spec) {
     application->_sbApplicationState = new ApplicationRecord{
         .identifier = spec.identifier, .name = spec.name, .icon = spec.icon, .snapshot = spec.snapshot};
     installed().push_back(application);
+    byIdentifier().emplace(spec.identifier, application);
     return application;
 }
 
 const std::vector<SBApplication *> &installedApplications() { return installed(); }
 
 SBApplication *findApplication(const std::string &identifier) {
-    for (SBApplication *application : installed())
-        if (record(application).identifier == identifier) return application;
-    return nil;
+    auto found = byIdentifier().find(identifier);
+    return found == byIdentifier().end() ? nil : found->second;
 }
 
 SBApplication *findApplication(NSString *identifier) {

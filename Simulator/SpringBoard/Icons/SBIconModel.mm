@@ -10,6 +10,7 @@ namespace {
 
 struct Model {
     std::vector<SBIcon *> leaves; // retained, as are the folders
+    std::map<std::string, SBIcon *> byIdentifier;
     HomeIcons home;
     std::map<std::string, SBFolderIcon *> folders;
 };
@@ -44,9 +45,9 @@ const bool kRegistered = (registerVersionedMethods(kMethods), true);
 const HomeIcons &homeIcons() { return model().home; }
 
 SBIcon *findIcon(NSString *identifier) {
-    for (SBIcon *icon : model().leaves)
-        if ([[icon nodeIdentifier] isEqualToString:identifier]) return icon;
-    return nil;
+    if (!identifier) return nil;
+    auto found = model().byIdentifier.find([identifier UTF8String]);
+    return found == model().byIdentifier.end() ? nil : found->second;
 }
 
 NSArray *allLeafIcons() {
@@ -54,8 +55,11 @@ NSArray *allLeafIcons() {
 }
 
 void makeIcons(const std::vector<ApplicationSpec> &specs) {
-    for (SBApplication *application : installedApplications())
-        model().leaves.push_back([makeApplicationIcon(application) retain]);
+    for (SBApplication *application : installedApplications()) {
+        SBIcon *icon = [makeApplicationIcon(application) retain];
+        model().leaves.push_back(icon);
+        model().byIdentifier.emplace(record(application).identifier, icon);
+    }
     for (const auto &spec : specs) {
         SBIcon *icon = findIcon([NSString stringWithUTF8String:spec.identifier.c_str()]);
         if (!spec.folder.empty()) {

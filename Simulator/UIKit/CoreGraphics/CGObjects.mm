@@ -3,6 +3,7 @@
 #include <UIKit/UIColor.h>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 
@@ -44,9 +45,11 @@ NSData *object(CFDataRef data) { return reinterpret_cast<NSData *>(const_cast<__
 // A premultiplied pixel as red, green, blue, alpha in memory, straight.
 uint32_t redFirst(uint32_t pixel) {
     uint32_t alpha = pixel >> 24;
+    if (alpha == 0) return 0;
+    if (alpha == 0xff) return std::rotr(__builtin_bswap32(pixel), 8);
     auto straight = [&](int shift) {
         uint32_t component = pixel >> shift & 0xff;
-        return alpha ? std::min((component * 255 + alpha / 2) / alpha, 255u) : 0;
+        return std::min((component * 255 + alpha / 2) / alpha, 255u);
     };
     return alpha << 24 | straight(0) << 16 | straight(8) << 8 | straight(16);
 }
@@ -92,9 +95,12 @@ CGDataProviderRef CGImageGetDataProvider(CGImageRef image) {
 CFDataRef CGDataProviderCopyData(CGDataProviderRef provider) {
     if (!provider) return nullptr;
     auto *image = reinterpret_cast<SimCGImage *>(provider);
-    auto pixels = image->bitmap->pixels;
-    if (!image->fromContext) std::transform(pixels.begin(), pixels.end(), pixels.begin(), redFirst);
-    NSData *data = [[NSData alloc] initWithBytes:pixels.data() length:pixels.size() * sizeof(uint32_t)];
+    const auto &pixels = image->bitmap->pixels;
+    const size_t length = pixels.size() * sizeof(uint32_t);
+    if (image->fromContext)
+        return reinterpret_cast<CFDataRef>([[NSData alloc] initWithBytes:pixels.data() length:length]);
+    NSMutableData *data = [[NSMutableData alloc] initWithLength:length];
+    std::transform(pixels.begin(), pixels.end(), static_cast<uint32_t *>([data mutableBytes]), redFirst);
     return reinterpret_cast<CFDataRef>(data);
 }
 

@@ -1,5 +1,6 @@
 #include "ImageState.h"
 
+#include "DecodedFiles.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"
 
@@ -66,7 +67,7 @@ render::BitmapRef loadBitmap(NSString *path) {
     if (!data) return nullptr;
     NSString *stem = [path stringByDeletingPathExtension];
     double scale = [stem hasSuffix:@"@3x"] ? 3 : [stem hasSuffix:@"@2x"] ? 2 : 1;
-    return render::decodePng({static_cast<const char *>([data bytes]), [data length]}, scale);
+    return decodedPng({static_cast<const char *>([data bytes]), [data length]}, scale);
 }
 
 } // namespace sim

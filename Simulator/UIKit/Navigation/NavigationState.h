@@ -6,6 +6,8 @@
 #include <UIKit/UIScrollView.h>
 
 @interface UINavigationBar (Simulator)
+// What an item says has changed: the bar makes its content anew with the next layout.
+- (void)itemHasChanged;
 // Shows the item, with a back button for `back` unless that is nil. `direction` slides the change in: 1 as
 // for a push, -1 as for a pop, 0 at once.
 - (void)showItem:(UINavigationItem *)item back:(UINavigationItem *)back direction:(int)direction;

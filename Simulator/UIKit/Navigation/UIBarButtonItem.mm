@@ -62,7 +62,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
 }
 - (void)setTitle:(NSString *)title {
     sim::copyInto(state(self).title, title);
-    [state(self).bar setNeedsLayout];
+    [state(self).bar itemHasChanged];
 }
 
 - (UIImage *)image {
@@ -70,7 +70,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
 }
 - (void)setImage:(UIImage *)image {
     sim::retainInto(state(self).image, image);
-    [state(self).bar setNeedsLayout];
+    [state(self).bar itemHasChanged];
 }
 
 - (UIBarButtonItemStyle)style {
@@ -99,7 +99,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
 }
 - (void)setEnabled:(BOOL)enabled {
     state(self).enabled = enabled;
-    [state(self).bar setNeedsLayout];
+    [state(self).bar itemHasChanged];
 }
 
 @end

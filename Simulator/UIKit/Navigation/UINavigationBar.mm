@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -31,6 +32,8 @@ struct Content {
 struct BarState {
     UINavigationItem *item = nil, *backItem = nil; // retained
     Content content;
+    bool stale = false;              // the content is no longer what the items say
+    CGFloat contentWidth = 0;        // for which it was made
     _UIBackdropView *material = nil; // retained by the bar, as the next
     UIView *hairline = nil;
     UIColor *barTint = nil; // retained
@@ -232,15 +235,23 @@ CGFloat navigationBarHeight() {
     CGRect bounds = [self bounds];
     CGFloat hair = 1 / sim::device().scale;
     [mine.hairline setFrame:CGRectMake(0, bounds.size.height - hair, bounds.size.width, hair)];
-    // Anew each time: an item's buttons and title may have changed.
-    removeContent(mine.content);
-    mine.content = makeContent(self);
+    // A title that had to be shortened may have room now.
+    if (std::exchange(mine.contentWidth, bounds.size.width) != bounds.size.width) mine.stale = true;
+    if (std::exchange(mine.stale, false)) {
+        removeContent(mine.content);
+        mine.content = makeContent(self);
+    }
     layOut(mine.content, row(self));
 }
 
 @end
 
 @implementation UINavigationBar (Simulator)
+
+- (void)itemHasChanged {
+    state(self).stale = true;
+    [self setNeedsLayout];
+}
 
 - (void)setBackTarget:(id)target action:(SEL)action {
     state(self).target = target;
@@ -259,8 +270,9 @@ CGFloat navigationBarHeight() {
     mine.backItem = back;
     sim::setBar(item, self);
     bool animated = direction != 0 && [self window];
-    if (!animated) return [self setNeedsLayout];
+    if (!animated) return [self itemHasChanged];
     mine.content = {};
+    mine.stale = true;
     [UIView performWithoutAnimation:^{ [self layoutIfNeeded]; }];
     exchange(self, old, mine.content, direction);
 }

@@ -22,7 +22,7 @@ NavigationItemState &state(UINavigationItem *item) {
 void changed(UINavigationItem *item) {
     auto &mine = state(item);
     for (UIBarButtonItem *button : {mine.left, mine.right}) sim::setBar(button, mine.bar);
-    [mine.bar setNeedsLayout];
+    [mine.bar itemHasChanged];
 }
 
 void replaceButton(UINavigationItem *item, UIBarButtonItem *NavigationItemState::*slot,

@@ -11,7 +11,7 @@ namespace {
 
 // Layers with animations, by number: never enumerated by address.
 std::map<uint64_t, CALayer *> &animatedLayers() {
-    static std::map<uint64_t, CALayer *> layers;
+    static auto &layers = *new std::map<uint64_t, CALayer *>; // a process may exit in the middle of one
     return layers;
 }
 

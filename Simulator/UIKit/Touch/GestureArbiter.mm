@@ -18,7 +18,7 @@ struct Arbiter {
 };
 
 Arbiter &arbiter() {
-    static Arbiter arbiter;
+    static auto &arbiter = *new Arbiter; // a process may exit in the middle of a gesture
     return arbiter;
 }
 

@@ -78,6 +78,7 @@ void deliver(UITouch *touch) {
 } // namespace
 
 bool mayReach(UITouch *touch, UIView *view) {
+    if (!view) return true;
     for (UITouch *other : liveTouches()) {
         const auto &theirs = state(other);
         if (other == touch || theirs.lifted || !theirs.view) continue;

@@ -1,9 +1,13 @@
 #include "ViewState.h"
 
+#include "Runtime/Process/Events.hpp"
+
 #include <UIKit/UIViewController.h>
 #include <UIKit/UIWindow.h>
 
 #include <algorithm>
+#include <map>
+#include <unordered_map>
 #include <utility>
 
 using sim::state;
@@ -26,9 +30,35 @@ std::vector<UIView *> drawnSubviews(UIView *view) {
 
 namespace {
 
-// Views that asked for layout, in the order in which they did; not retained, a view takes itself off.
-std::vector<UIView *> &pendingLayout() {
-    static std::vector<UIView *> views;
+// Views that asked for layout; not retained, a view takes itself off.
+class PendingLayout {
+public:
+    bool empty() const { return byTurn_.empty(); }
+    bool holds(UIView *view) const { return turns_.contains(view); }
+    void add(UIView *view) {
+        if (turns_.emplace(view, lastTurn_ + 1).second) byTurn_.emplace(++lastTurn_, view);
+    }
+    void remove(UIView *view) {
+        auto found = turns_.find(view);
+        if (found == turns_.end()) return;
+        byTurn_.erase(found->second);
+        turns_.erase(found);
+    }
+    // In the order in which they asked.
+    std::vector<UIView *> views() const {
+        std::vector<UIView *> result;
+        for (const auto &[turn, view] : byTurn_) result.push_back(view);
+        return result;
+    }
+
+private:
+    uint64_t lastTurn_ = 0;
+    std::map<uint64_t, UIView *> byTurn_;
+    std::unordered_map<UIView *, uint64_t> turns_; // looked up, never walked through
+};
+
+PendingLayout &pendingLayout() {
+    static PendingLayout views;
     return views;
 }
 
@@ -96,12 +126,15 @@ void layoutPendingViews() {
     // A layout may ask for another; a view that asks for its own again without end is cut off.
     constexpr int kMostRounds = 100;
     for (int round = 0; round < kMostRounds && !pendingLayout().empty(); ++round) {
-        for (UIView *view : std::vector(pendingLayout()))
-            if (std::count(pendingLayout().begin(), pendingLayout().end(), view)) [view layoutIfNeeded];
+        for (UIView *view : pendingLayout().views())
+            if (pendingLayout().holds(view)) [view layoutIfNeeded];
+        if (round == kMostRounds - 1 && !pendingLayout().empty())
+            recordWarning(std::string("a layout without end: ") +
+                          object_getClassName(pendingLayout().views().front()));
     }
 }
 
-void forgetPendingLayout(UIView *view) { std::erase(pendingLayout(), view); }
+void forgetPendingLayout(UIView *view) { pendingLayout().remove(view); }
 
 } // namespace sim
 
@@ -188,8 +221,7 @@ void forgetPendingLayout(UIView *view) { std::erase(pendingLayout(), view); }
 
 - (void)setNeedsLayout {
     state(self).needsLayout = true;
-    auto &views = sim::pendingLayout();
-    if ([self window] && !std::count(views.begin(), views.end(), self)) views.push_back(self);
+    if ([self window]) sim::pendingLayout().add(self);
 }
 
 - (void)layoutIfNeeded {
