@@ -43,3 +43,20 @@ for _, case in ipairs{ { {}, 30, 519.5 }, { { position = "middle" }, 30, 519.5 }
   expect_eq(phone:foreground(), P.app(3), what .. ": an application opens from there")
   P.no_harm(phone)
 end
+
+-- On its side, with the setting on and the panel at the top: it stays by the indicator, on the screen.
+for _, orientation in ipairs{ 3, 4 } do
+  local phone = P.boot({ rech = true }, { device = "iPhone 6", ios = "8.1" })
+  phone:rotate(orientation)
+  phone:settle()
+  pulled(phone, true)
+  P.press_indicator(phone)
+  phone:settle()
+  phone:wait(0.5) -- the follower has placed it
+  local panel = P.panel(phone)
+  expect(panel.x >= 0 and panel.x + panel.w <= 667, ("turned to %d: at %g, on the screen"):format(orientation, panel.x))
+  phone:activator()
+  phone:settle()
+  P.closed(phone)
+  P.no_harm(phone)
+end

@@ -20,7 +20,11 @@ BOOL hasTable(NSString *language) {
     return [files fileExistsAtPath:path] && [files isReadableFileAtPath:path];
 }
 
-BOOL hasLength(id text) { return [text respondsToSelector:@selector(length)] && [text length] != 0; }
+// nil for what is no text: the file may have been made by anybody.
+NSString *textIn(NSString *language, NSString *key) {
+    id text = [languageTable(language) objectForKey:key];
+    return [text isKindOfClass:[NSString class]] ? text : nil;
+}
 
 } // namespace
 
@@ -39,10 +43,10 @@ NSDictionary *languageTable(NSString *language) {
 
 NSString *textForKey(NSString *key, NSString *language) {
     if (!hasTable(language)) return missingText;
-    NSString *text = [languageTable(language) objectForKey:key];
-    if (hasLength(text) || !hasTable(kEnglish)) return text;
-    NSString *english = [languageTable(kEnglish) objectForKey:key];
-    return hasLength(english) ? english : missingText;
+    NSString *text = textIn(language, key);
+    if ([text length] || !hasTable(kEnglish)) return text;
+    NSString *english = textIn(kEnglish, key);
+    return [english length] ? english : missingText;
 }
 
 } // namespace pendix

@@ -9,7 +9,8 @@ namespace pendix {
 // bounds turn with the interface.
 CGRect portraitScreenBounds();
 
-// The system version as a number, for example 7.1.
+// The system version as a number, for example 7.1. From a system that does not tell, 7 or 8, by the methods
+// that its home screen has.
 float systemVersion();
 
 // Whether the device is an iPad, by its model's name.

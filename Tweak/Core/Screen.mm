@@ -1,5 +1,7 @@
 #include "Tweak/Core/Screen.h"
 
+#include <SpringBoard/SBApplication.h>
+
 #include <algorithm>
 
 namespace pendix {
@@ -9,7 +11,14 @@ CGRect portraitScreenBounds() {
     return CGRectMake(0, 0, std::min(size.width, size.height), std::max(size.width, size.height));
 }
 
-float systemVersion() { return [[UIDevice currentDevice].systemVersion floatValue]; }
+float systemVersion() {
+    constexpr float kSeven = 7, kEight = 8;
+    float told = [[UIDevice currentDevice].systemVersion floatValue];
+    if (told > 0) return told;
+    Class controller = objc_getClass("SBApplicationController");
+    return [controller instancesRespondToSelector:@selector(applicationWithBundleIdentifier:)] ? kEight
+                                                                                               : kSeven;
+}
 
 BOOL isPad() { return [[UIDevice currentDevice].model hasPrefix:@"iPad"]; }
 

@@ -12,10 +12,19 @@ namespace {
 
 constexpr NSInteger kMessageLines = 4;
 
+// The number stands where the text says "%d". A text comes from a file and is never a format itself.
+NSString *withNumber(NSString *text, int number) {
+    if (!text) return nil;
+    const NSRange place = [text rangeOfString:@"%d"];
+    if (place.location == NSNotFound) return text;
+    return [NSString stringWithFormat:@"%@%d%@", [text substringToIndex:place.location], number,
+                                      [text substringFromIndex:place.location + place.length]];
+}
+
 NSString *message(int count, BOOL running) {
     if (count == 0) return Translator(running ? @"no_running_apps" : @"no_badge");
     if (count == 1) return Translator(running ? @"one_app" : @"one_badge");
-    return [NSString stringWithFormat:Translator(running ? @"you_have_app" : @"you_have_badge"), count];
+    return withNumber(Translator(running ? @"you_have_app" : @"you_have_badge"), count);
 }
 
 } // namespace

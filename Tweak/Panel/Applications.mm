@@ -34,21 +34,43 @@ NSString *foregroundIdentifier() {
     return [top respondsToSelector:selector] ? identifierOf(top) : @"-";
 }
 
-// Whether two icons look the same, decided on their pixels.
-BOOL sameImage(CGImageRef one, CGImageRef other) {
-    if (!one || !other) return NO;
-    if (one == other) return YES;
-    if (CGImageGetWidth(one) != CGImageGetWidth(other) || CGImageGetHeight(one) != CGImageGetHeight(other))
-        return NO;
-    CFDataRef a = CGDataProviderCopyData(CGImageGetDataProvider(one));
-    CFDataRef b = CGDataProviderCopyData(CGImageGetDataProvider(other));
-    BOOL same =
-        a && b && CFDataGetLength(a) == CFDataGetLength(b) &&
-        memcmp(CFDataGetBytePtr(a), CFDataGetBytePtr(b), static_cast<size_t>(CFDataGetLength(a))) == 0;
-    if (a) CFRelease(a);
-    if (b) CFRelease(b);
-    return same;
-}
+CGImageRef iconImage(SBIconView *view) { return [[[view _iconImageView] contentsImage] CGImage]; }
+
+CFDataRef copyPixels(CGImageRef image) { return CGDataProviderCopyData(CGImageGetDataProvider(image)); }
+
+// The icon of an application that has none of its own. Its pixels are fetched once, however many icons are
+// compared with them.
+class Placeholder {
+public:
+    Placeholder() : image_(iconImage(iconViewOf(names::placeholderOwner))) {}
+    ~Placeholder() {
+        if (pixels_) CFRelease(pixels_);
+    }
+    Placeholder(const Placeholder &) = delete;
+    Placeholder &operator=(const Placeholder &) = delete;
+
+    // Whether the icon looks the same, decided on its pixels.
+    BOOL looksLike(CGImageRef icon) {
+        if (!icon || !image_) return NO;
+        if (icon == image_) return YES;
+        if (CGImageGetWidth(icon) != CGImageGetWidth(image_) ||
+            CGImageGetHeight(icon) != CGImageGetHeight(image_))
+            return NO;
+        if (!pixels_) pixels_ = copyPixels(image_);
+        CFDataRef pixels = copyPixels(icon);
+        BOOL same =
+            pixels && pixels_ && CFDataGetLength(pixels) == CFDataGetLength(pixels_) &&
+            memcmp(CFDataGetBytePtr(pixels), CFDataGetBytePtr(pixels_), length(CFDataGetLength(pixels))) == 0;
+        if (pixels) CFRelease(pixels);
+        return same;
+    }
+
+private:
+    static size_t length(CFIndex bytes) { return static_cast<size_t>(bytes); }
+
+    CGImageRef image_;
+    CFDataRef pixels_ = nullptr;
+};
 
 BOOL isNeverListed(NSString *identifier) {
     for (NSString *excluded : kNeverListed)
@@ -56,10 +78,8 @@ BOOL isNeverListed(NSString *identifier) {
     return NO;
 }
 
-CGImageRef iconImage(SBIconView *view) { return [[[view _iconImageView] contentsImage] CGImage]; }
-
 // Fills `result` when the application is to be listed.
-BOOL find(NSString *identifier, BOOL running, NSString *foreground, CGImageRef placeholder,
+BOOL find(NSString *identifier, BOOL running, NSString *foreground, Placeholder &placeholder,
           PanelApplication &result) {
     if (hide_per(identifier)) return NO;
     SBApplication *application = applicationOf(identifier);
@@ -68,7 +88,7 @@ BOOL find(NSString *identifier, BOOL running, NSString *foreground, CGImageRef p
     SBIcon *icon = [iconView icon];
     if (!icon || [[icon nodeIdentifier] isEqualToString:foreground]) return NO;
     if (!running && [icon badgeValue] == 0) return NO;
-    if (isNeverListed(identifier) || sameImage(iconImage(iconView), placeholder)) return NO;
+    if (isNeverListed(identifier) || placeholder.looksLike(iconImage(iconView))) return NO;
     result = {identifier, application, icon, iconView};
     return YES;
 }
@@ -76,7 +96,7 @@ BOOL find(NSString *identifier, BOOL running, NSString *foreground, CGImageRef p
 } // namespace
 
 void addApplications(PanelBuild &build) {
-    CGImageRef placeholder = iconImage(iconViewOf(names::placeholderOwner));
+    Placeholder placeholder;
     NSString *foreground = foregroundIdentifier();
     for (NSString *identifier in candidates(build.running)) {
         PanelApplication application;

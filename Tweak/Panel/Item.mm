@@ -13,7 +13,6 @@ namespace pendix {
 namespace {
 
 NSString *const kClock = @"com.apple.mobiletimer";
-NSString *const kCloseImage = @"/Library/Application Support/Pendix/close@2x.png";
 
 constexpr CGFloat kNameBelowIcon = 5, kNameHeight = 15, kNameBeyond = 10, kNameSize = 12;
 constexpr CGFloat kMarkOrigin = 4;
@@ -43,8 +42,7 @@ void addName(PanelBuild &build, NSString *name, UIView *itemView, UIView *icon) 
 void addCloseMark(PanelBuild &build, UIView *itemView) {
     UIImageView *mark = [[UIImageView alloc] initWithFrame:CGRectMake(kMarkOrigin, kMarkOrigin, 0, 0)];
     mark.tag = tags::closeMark;
-    mark.image = [[UIImage imageWithContentsOfFile:kCloseImage]
-        imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    mark.image = build.closeImage;
     mark.tintColor = build.scheme.ink;
     mark.backgroundColor = build.scheme.paper;
     mark.layer.cornerRadius = panelBadgeHeight() / 2;
@@ -99,7 +97,7 @@ void addItem(PanelBuild &build, const PanelApplication &application, int index) 
     addCloseMark(build, itemView);
     if ([application.identifier isEqualToString:kClock]) drawClock(itemView, icon);
     addGestures(build, itemView);
-    addBadge(application, itemView, iconFrame);
+    addBadge(build, application, itemView, iconFrame);
     [itemView bringSubviewToFront:[itemView viewWithTag:tags::itemCardIcon]];
 
     [build.strip addSubview:itemView];

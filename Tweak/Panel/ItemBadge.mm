@@ -37,13 +37,22 @@ void colorBadge(UIImageView *badge, UILabel *label, SBIcon *icon, Class colorBad
     label.textColor = text;
 }
 
-void drawBadge(UIImageView *badge, UILabel *label, NSString *text) {
+// Drawn once for all badges of one opening that say the same.
+UIImage *textImage(PanelBuild &build, NSString *text) {
+    UIImage *image = [build.badgeTexts objectForKey:text];
+    if (image) return image;
+    image = [objc_getClass("SBIconBadgeView") _checkoutImageForText:text highlighted:NO];
+    if (image) [build.badgeTexts setObject:image forKey:text];
+    return image;
+}
+
+void drawBadge(PanelBuild &build, UIImageView *badge, UILabel *label, NSString *text) {
     Class badgeView = objc_getClass("SBIconBadgeView");
     UIImage *background = [badgeView _checkoutBackgroundImage];
     CGFloat down = background.size.height / 2 - 1, across = background.size.width / 2 - 1;
     badge.image = [background resizableImageWithCapInsets:UIEdgeInsetsMake(down, across, down, across)];
     UIImageView *drawn = [[UIImageView alloc] initWithFrame:badge.bounds];
-    drawn.image = [badgeView _checkoutImageForText:text highlighted:NO];
+    drawn.image = textImage(build, text);
     drawn.contentMode = UIViewContentModeCenter;
     [badge addSubview:drawn];
     [drawn release];
@@ -52,7 +61,7 @@ void drawBadge(UIImageView *badge, UILabel *label, NSString *text) {
 
 } // namespace
 
-void addBadge(const PanelApplication &application, UIView *itemView, CGRect iconFrame) {
+void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame) {
     NSString *text = badgeText([application.icon badgeValue]);
     UILabel *label = panelLabel(CGRectZero, text, @"HelveticaNeue", 0, [UIColor whiteColor]);
     label.font = [objc_getClass("SBIconBadgeView") _textFont];
@@ -69,7 +78,7 @@ void addBadge(const PanelApplication &application, UIView *itemView, CGRect icon
     if (colorBadges && [colorBadges isEnabled]) {
         colorBadge(badge, label, application.icon, colorBadges);
     } else {
-        drawBadge(badge, label, text);
+        drawBadge(build, badge, label, text);
     }
     [badge addSubview:label];
     badge.hidden = [application.icon badgeValue] == 0;

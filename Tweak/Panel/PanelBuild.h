@@ -22,8 +22,9 @@ struct PanelBuild {
     BOOL running; // lists running applications, not badged ones
     BOOL paging;
     BOOL cards;
-    BOOL closeMarks; // closing by marks instead of swipes
-    CGSize screen;   // portrait
+    BOOL closeMarks;     // closing by marks instead of swipes
+    UIImage *closeImage; // a template; nil without the file
+    CGSize screen;       // portrait
     StripInput layout;
     Placement placement; // with the strip's height
 
@@ -34,6 +35,8 @@ struct PanelBuild {
 
     int count;      // applications on the strip
     CGFloat height; // the panel's, when it is open
+
+    NSMutableDictionary *badgeTexts; // the texts of badges to their images, those drawn so far
 };
 
 // The steps, in their order; each builds one thing into `build`.
@@ -61,7 +64,7 @@ void addItem(PanelBuild &build, const PanelApplication &application, int index);
 // The parts of an item view.
 void makeCard(PanelBuild &build, const PanelApplication &application, UIView *itemView,
               UIImageView *iconImage);
-void addBadge(const PanelApplication &application, UIView *itemView, CGRect iconFrame);
+void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame);
 void drawClock(UIView *itemView, UIView *iconImage);
 
 // Says over the whole strip that there is nothing to show; empties `datas`.

@@ -14,6 +14,8 @@ namespace pendix {
 
 namespace {
 
+NSString *const kCloseImage = @"/Library/Application Support/Pendix/close@2x.png";
+
 // A closing that has not finished when the next opening begins leaves views behind.
 void removeLeftovers() {
     for (UIView *view in window.subviews)
@@ -29,6 +31,9 @@ PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
     build.paging = isOn(@"paging");
     build.cards = isOn(@"ca");
     build.closeMarks = isOn(@"close");
+    build.closeImage = [[UIImage imageWithContentsOfFile:kCloseImage]
+        imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    build.badgeTexts = [NSMutableDictionary dictionary];
     build.screen = portraitScreenBounds().size;
 
     CGSize icon = [objc_getClass("SBIconView") defaultIconSize];

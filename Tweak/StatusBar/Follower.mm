@@ -29,7 +29,7 @@ void moveWith(UIView *item, BOOL reachability, float duration) {
     UIView *panel = [window viewWithTag:tags::panel], *bubble = [window viewWithTag:tags::bubble];
     CGSize screen = portraitScreenBounds().size;
     const Anchor anchor = currentAnchor(reachability);
-    Placement placement = placePanel({.item = toRect(frameInOverlay(item, NO)),
+    Placement placement = placePanel({.item = toRect(item.frame),
                                       .screen = {screen.width, screen.height},
                                       .landscape = static_cast<bool>(isLandscape()),
                                       .anchor = anchor,
