@@ -3,6 +3,7 @@
 // garbage.
 #include "Tweak/Core/HookTable.h"
 
+#include "Runtime/Objc/OriginalStub.hpp"
 #include "SpringBoard/Harness.h"
 
 #include <fstream>
@@ -19,7 +20,9 @@ Method method(const HookRow &row) {
 
 IMP implementation(const HookRow &row) {
     Method found = method(row);
-    return found ? method_getImplementation(found) : nullptr;
+    // A hook's replacement is counted on its way in.
+    void *first = found ? reinterpret_cast<void *>(method_getImplementation(found)) : nullptr;
+    return reinterpret_cast<IMP>(sim::behindStubs(first));
 }
 
 std::string name(const HookRow &row) { return std::string(row.className) + " " + row.selector; }

@@ -3,6 +3,7 @@
 // harm.
 #import <Foundation/Foundation.h>
 
+#include "Runtime/Objc/HookCounts.hpp"
 #include "Runtime/Process/Events.hpp"
 #include "Support.hpp"
 
@@ -221,6 +222,28 @@ TEST(Hooks, RecordEachRunOfThePreviousImplementation) {
     [child half:2];
     const char *line = "original class=HookedChild selector=half:";
     EXPECT_THAT(support::events(), testing::ElementsAre(line, line));
+}
+
+// Both sides are counted, apart for each state of the bytes that are watched at the entrance.
+TEST(Hooks, CountBothSides) {
+    static signed char flag = 0;
+    using Passing = Hook<10, double, double>;
+    Passing::install([HookedChild class], @selector(half:));
+    MSHookMessageEx([HookedParent class], @selector(number), reinterpret_cast<IMP>(fixedNumber), nullptr);
+    sim::watchAtHooks({&flag});
+    sim::takeHookCounts();
+    id child = [[HookedChild new] autorelease];
+    [child half:1];
+    flag = 1;
+    [child half:2];
+    [child half:3];
+    [child number];
+    std::vector<std::string> lines;
+    for (const auto &count : sim::takeHookCounts())
+        lines.push_back(count.selector + " " + std::to_string(count.state) + ": " +
+                        std::to_string(count.entered) + " " + std::to_string(count.previous));
+    EXPECT_THAT(lines, testing::ElementsAre("half: 0: 1 1", "half: 1: 2 2", "number 1: 1 0"));
+    EXPECT_TRUE(sim::takeHookCounts().empty());
 }
 
 TEST(Hooks, OnNothingDoNoHarm) {

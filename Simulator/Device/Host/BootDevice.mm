@@ -1,17 +1,21 @@
 #include "BootDevice.h"
 
+#include "Requests.h"
 #include "Session.hpp"
 
 #include "Runtime/Files/FoundationFiles.hpp"
 #include "Runtime/Files/PlatformFiles.hpp"
 #include "Runtime/Files/Sandbox.hpp"
 #include "Runtime/Objc/Availability.hpp"
+#include "Runtime/Objc/MethodFaults.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"
 #include "Runtime/Process/Interposed.hpp"
 #include "Runtime/Time/Clock.hpp"
 #include "Runtime/Time/Timers.hpp"
 #include "UIKit/Application/ApplicationState.h"
+
+#include <stdexcept>
 
 namespace sim {
 
@@ -46,6 +50,27 @@ void hideClasses(const Array &names) {
     }
 }
 
+void forEachMethod(const Array &names, bool (*apply)(const std::string &), const char *what) {
+    for (const auto &name : names) try {
+            if (!apply(name.string())) recordWarning("no method '" + name.string() + "' to " + what);
+        } catch (const std::invalid_argument &error) {
+            throw BadRequest(error.what());
+        }
+}
+
+void failWrites(const Array &failures) {
+    for (const auto &entry : failures) {
+        WriteFailure failure{.prefix = entry["path"].string(),
+                             .error = static_cast<int>(entry["error"].integer()),
+                             .call = {}};
+        if (entry["call"].isString())
+            failure.call = entry["call"].string() == "rename" ? WriteCall::rename : WriteCall::open;
+        failure.first = static_cast<uint64_t>(entry["first"].integer());
+        if (entry["times"].isInteger()) failure.times = static_cast<uint64_t>(entry["times"].integer());
+        addWriteFailure(std::move(failure));
+    }
+}
+
 } // namespace
 
 void bootDevice(const Value &message) {
@@ -60,6 +85,9 @@ void bootDevice(const Value &message) {
     onRespringRequest(askForRespring);
     applyAvailability(device().version);
     hideClasses(message["hide_classes"].array());
+    forEachMethod(message["hide_methods"].array(), hideMethod, "hide");
+    forEachMethod(message["nil_methods"].array(), silenceMethod, "silence");
+    failWrites(message["fail_writes"].array());
 }
 
 } // namespace sim

@@ -47,7 +47,8 @@ std::span<const Request> homeScreenLookingRequests() {
 }
 
 std::vector<std::span<const Request>> ownRequests() {
-    return {bootRequests(), homeScreenLookingRequests(), homeScreenRequests(), lockRequests()};
+    return {bootRequests(), homeScreenLookingRequests(), homeScreenRequests(), lockRequests(),
+            inspectionRequests()};
 }
 
 void addOwnState(Object &reply) {

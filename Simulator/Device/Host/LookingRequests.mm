@@ -1,4 +1,5 @@
 #include "Requests.h"
+#include "TouchablePlaces.h"
 #include "ViewSearch.h"
 #include "ViewSnapshot.h"
 
@@ -23,10 +24,18 @@ Value windows(const Value &arguments) {
     return snapshot(views);
 }
 
+// {"windows": [name]}
+Value touchable(const Value &arguments) {
+    std::vector<std::string> names;
+    for (const auto &name : arguments["windows"].array()) names.push_back(name.string());
+    return touchablePlaces(names);
+}
+
 } // namespace
 
 std::span<const Request> lookingRequests() {
-    static const Request requests[] = {{"find", find}, {"view", view}, {"windows", windows}};
+    static const Request requests[] = {
+        {"find", find}, {"view", view}, {"windows", windows}, {"touchable", touchable}};
     return requests;
 }
 

@@ -3,6 +3,7 @@
 #include "Render/Renderer.hpp"
 #include "Requests.h"
 #include "Runtime/Files/FoundationFiles.hpp"
+#include "Runtime/Objc/Blocks.hpp"
 #include "Runtime/Objc/Census.hpp"
 #include "Runtime/Time/Timers.hpp"
 #include "UIKit/Application/ApplicationState.h"
@@ -33,6 +34,8 @@ Value counters(const Value &) {
                   {"timers", scheduledTimers()},
                   {"windows", allWindows().size()},
                   {"views", views},
+                  {"blocks", liveBlocks()},
+                  {"observers", observersAdded()},
                   {"live", live}};
 }
 

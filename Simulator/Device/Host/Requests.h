@@ -23,7 +23,7 @@ struct Request {
 
 std::span<const Request> timeRequests();      // advance, busy
 std::span<const Request> touchRequests();     // touch_down, touch_move, touch_up
-std::span<const Request> lookingRequests();   // find, view, windows
+std::span<const Request> lookingRequests();   // find, view, windows, touchable
 std::span<const Request> observingRequests(); // counters, reset_counters, draw
 
 // What one kind of process answers besides; each program has its own.
@@ -36,6 +36,7 @@ std::span<const Request> bootRequests();              // boot
 std::span<const Request> homeScreenLookingRequests(); // icon, indicator
 std::span<const Request> homeScreenRequests(); // badge, run, home, restyle, rotate, reachability, activator,
                                                // foreground, switcher, call
+std::span<const Request> inspectionRequests(); // watch, inspect
 std::span<const Request> lockRequests();       // display, lock, unlock, home_twice, banner, finger
 
 // Carries out the request, and what is due at this moment after it.

@@ -14,4 +14,8 @@ namespace sim {
 // rounded to millionths.
 Value snapshot(const std::vector<UIView *> &views);
 
+// What the image that a view shows came from; null when it shows none. A status-bar item is known by its
+// image's name.
+Value imageOf(UIView *view);
+
 } // namespace sim

@@ -38,8 +38,9 @@ id objectFrom(id owner, SEL selector, Class wanted) {
     return [found isKindOfClass:wanted] ? found : nil;
 }
 
-// What the image that a view shows came from. A status-bar item is known by its image's name.
-Value imageSource(UIView *view) {
+} // namespace
+
+Value imageOf(UIView *view) {
     if ([view isKindOfClass:[UIStatusBarItemView class]])
         return text([[static_cast<UIStatusBarItemView *>(view) item] indicatorName]);
     id image = objectFrom(view, @selector(image), [UIImage class]);
@@ -47,6 +48,8 @@ Value imageSource(UIView *view) {
     if (!image || state(static_cast<UIImage *>(image)).source.empty()) return {};
     return state(static_cast<UIImage *>(image)).source;
 }
+
+namespace {
 
 void addRect(Object &view, CGRect rect) {
     view["x"] = rounded(rect.origin.x);
@@ -111,7 +114,7 @@ Value fields(UIView *view) {
                   {"tag", static_cast<int64_t>([view tag])},
                   {"name", text([[view layer] name])},
                   {"interactive", static_cast<bool>([view isUserInteractionEnabled])},
-                  {"image", imageSource(view)},
+                  {"image", imageOf(view)},
                   {"animations", animationsOf([view layer])}};
     addRect(result, [view frame]);
     Object screen;

@@ -2,8 +2,8 @@
 
 #include "Device/Supervisor/Machine/Interrupt.hpp"
 #include "Messages.hpp"
-#include "Runtime/Values/Json.hpp"
 #include "PageFiles.hpp"
+#include "Runtime/Values/Json.hpp"
 
 #include <algorithm>
 #include <fstream>

@@ -1,6 +1,7 @@
 // pendix-sim: simulated devices, driven by scripts or by people.
 #include "Device/Live/LiveSession.hpp"
 #include "Device/Live/Shot.hpp"
+#include "Device/Monkey/Monkey.hpp"
 #include "Device/Profiles/Profiles.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Script/Script.hpp"
@@ -23,6 +24,8 @@ struct CommandLine {
     sim::ScriptOptions script;
     sim::LiveOptions live;
     sim::ShotOptions shot;
+    sim::MonkeyOptions monkey;
+    std::string finding;                          // a script that the monkey wrote
     std::string boot;                             // JSON
     std::map<std::string, std::string> bootTexts; // single options of boot
     std::vector<std::string> settings, badges, calls;
@@ -91,6 +94,12 @@ sim::Outcome runShot(CommandLine &commandLine) {
     return sim::Outcome::passed;
 }
 
+sim::Outcome runMonkey(CommandLine &commandLine) {
+    if (!commandLine.finding.empty()) return sim::replayFinding(setupOf(commandLine), commandLine.finding);
+    commandLine.monkey.boot = bootTable(commandLine);
+    return sim::runMonkey(setupOf(commandLine), commandLine.monkey);
+}
+
 CLI::App *addRun(CLI::App &program, CommandLine &commandLine) {
     auto *run = program.add_subcommand("run", "Run a script");
     run->add_option("FILE", commandLine.script.file, "The script (Lua 5.4)")
@@ -137,6 +146,35 @@ CLI::App *addShot(CLI::App &program, CommandLine &commandLine) {
     return shot;
 }
 
+CLI::App *addMonkey(CLI::App &program, CommandLine &commandLine) {
+    auto &options = commandLine.monkey;
+    auto *monkey =
+        program.add_subcommand("monkey", "Do random things to random devices, and watch for faults");
+    auto count = [&](const char *name, int64_t &value, const char *what) {
+        monkey->add_option(name, value, what)->capture_default_str()->check(CLI::PositiveNumber);
+    };
+    monkey->add_option("--seed", options.seed, "Decides all that is done")->capture_default_str();
+    count("--events", options.events, "How many events, in all");
+    count("--life", options.lifeEvents, "Events between one boot and the next");
+    count("--replays", options.mostReplays, "How often what was found is done again to make it short");
+    monkey->add_option("--script", options.script, "Where to write what was found, as a script")
+        ->capture_default_str()
+        ->type_name("FILE.lua");
+    monkey->add_option("--resume", options.progress, "Keep the progress there, and go on from it")
+        ->type_name("FILE");
+    monkey->add_option("--replay", commandLine.finding, "Instead, do again what was found")
+        ->type_name("FILE.lua")
+        ->check(CLI::ExistingFile);
+    monkey->add_option("--trace", options.trace, "Write every line that is done")->type_name("FILE");
+    addBootOptions(*monkey, commandLine);
+    monkey->footer(
+        "What is given of the boot options stays; chance chooses the rest.\n"
+        "Exits with 0 when nothing was found, 1 when something was, 2 when it was interrupted or the "
+        "call was wrong.\n"
+        "Example: pendix-sim monkey --seed 7 --events 100000 --resume soak.json");
+    return monkey;
+}
+
 sim::Outcome run(CLI::App &program, int count, char **arguments) {
     CommandLine commandLine;
     // What follows "--" is the script's own.
@@ -154,12 +192,14 @@ sim::Outcome run(CLI::App &program, int count, char **arguments) {
         ->required()
         ->type_name("FILE.lua");
     auto *shot = addShot(program, commandLine);
+    auto *monkey = addMonkey(program, commandLine);
     program.add_subcommand("profiles", "List the devices and their system versions");
     program.parse(static_cast<int>(own - arguments), arguments);
 
     if (run->parsed()) return runScript(commandLine);
     if (live->parsed() || record->parsed()) return runLive(commandLine);
     if (shot->parsed()) return runShot(commandLine);
+    if (monkey->parsed()) return runMonkey(commandLine);
     std::cout << sim::profileTable();
     return sim::Outcome::passed;
 }

@@ -72,10 +72,10 @@ SEAM int utimensat(int folder, const char *path, const struct timespec times[2],
 
 SEAM int truncate(const char *path, off_t length) noexcept {
     SandboxPath place(path);
-    return place.refusesWrites() ? -1 : NEXT(truncate)(place, length);
+    return place.refuses(sim::WriteCall::other) ? -1 : NEXT(truncate)(place, length);
 }
 
 SEAM int truncate64(const char *path, off64_t length) noexcept {
     SandboxPath place(path);
-    return place.refusesWrites() ? -1 : NEXT(truncate64)(place, length);
+    return place.refuses(sim::WriteCall::other) ? -1 : NEXT(truncate64)(place, length);
 }

@@ -18,13 +18,13 @@ namespace {
 template <typename Next>
 int make(Next next, const char *path) {
     SandboxPath place(path);
-    return place.refusesWrites() ? -1 : next(place);
+    return place.refuses(sim::WriteCall::other) ? -1 : next(place);
 }
 
 template <typename Next>
 int move(Next next, const char *from, const char *to) {
     SandboxPath source(from), target(to);
-    return source.refusesWrites() || target.refusesWrites() ? -1 : next(source, target);
+    return source.refusesMoveTo(target) ? -1 : next(source, target);
 }
 
 // What a link holds, as the device names it.

@@ -21,14 +21,14 @@ template <typename Next>
 int openPath(Next next, const char *path, int flags, va_list rest) {
     mode_t mode = modeOf(flags, rest);
     SandboxPath place(path);
-    if (writes(flags) && place.refusesWrites()) return -1;
+    if (writes(flags) && place.refuses(sim::WriteCall::open)) return -1;
     return next(place, flags, mode);
 }
 
 template <typename Next>
 FILE *openStream(Next next, const char *path, const char *mode) {
     SandboxPath place(path);
-    if (writes(mode) && place.refusesWrites()) return nullptr;
+    if (writes(mode) && place.refuses(sim::WriteCall::open)) return nullptr;
     return next(place, mode);
 }
 
@@ -36,7 +36,7 @@ FILE *openStream(Next next, const char *path, const char *mode) {
 template <typename Next>
 auto openTemporary(Next next, char *pattern, decltype(next(pattern)) failed) {
     SandboxPath place(pattern);
-    if (place.refusesWrites()) return failed;
+    if (place.refuses(sim::WriteCall::open)) return failed;
     if (!place.moved()) return next(pattern);
     std::string moved(place);
     auto result = next(moved.data());

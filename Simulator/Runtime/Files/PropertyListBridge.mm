@@ -10,7 +10,17 @@ namespace sim {
 namespace {
 
 NSString *newString(std::string_view text) {
-    return [[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding];
+    auto make = [](std::string_view bytes) {
+        return [[NSString alloc] initWithBytes:bytes.data()
+                                        length:bytes.size()
+                                      encoding:NSUTF8StringEncoding];
+    };
+    if (!text.starts_with("\xef\xbb\xbf")) return make(text);
+    // Here it is a character like any other; Foundation would take it for a mark of the encoding and drop it.
+    NSString *behind = make("x" + std::string(text));
+    NSString *result = [[behind substringFromIndex:1] retain];
+    [behind release];
+    return result;
 }
 
 void build(const Value &value, PropertyListBuilder &builder) {

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <stdexcept>
 #include <sys/stat.h>
+#include <utility>
 #include <vector>
 
 namespace sim {
@@ -43,9 +44,15 @@ constexpr std::string_view kDeviceFolders[] = {"/Applications",
 // Links that every device has.
 constexpr struct { std::string_view from, to; } kLinks[] = {{"/private", ""}, {"/User", "/var/mobile"}};
 
-struct Failure {
-    std::string prefix; // resolved
-    int error;
+// The prefix is resolved.
+struct Failure : WriteFailure {
+    uint64_t calls = 0; // so far
+
+    bool refuses(WriteCall made, const char *path) {
+        if (!path || (call && *call != made) || !std::string_view(path).starts_with(prefix)) return false;
+        ++calls;
+        return calls >= first && calls - first < times;
+    }
 };
 
 std::vector<Failure> &failures() {
@@ -128,10 +135,15 @@ std::string devicePathOf(std::string_view path) {
 
 void failWrites(std::string_view devicePathPrefix, int error) {
     if (error) {
-        failures().push_back({resolvePath(devicePathPrefix), error});
+        addWriteFailure({.prefix = std::string(devicePathPrefix), .error = error, .call = {}});
     } else {
         failures().clear();
     }
+}
+
+void addWriteFailure(WriteFailure failure) {
+    failure.prefix = resolvePath(failure.prefix);
+    failures().push_back({std::move(failure)});
 }
 
 SandboxPath::SandboxPath(const char *path) : text_(path) {
@@ -140,10 +152,20 @@ SandboxPath::SandboxPath(const char *path) : text_(path) {
     if (moved()) text_ = storage_.c_str();
 }
 
-bool SandboxPath::refusesWrites() const {
-    if (!text_ || failures().empty()) return false;
-    for (const auto &failure : failures()) {
-        if (!std::string_view(text_).starts_with(failure.prefix)) continue;
+bool SandboxPath::refuses(WriteCall call) const {
+    for (auto &failure : failures()) {
+        if (!failure.refuses(call, text_)) continue;
+        errno = failure.error;
+        return true;
+    }
+    return false;
+}
+
+bool SandboxPath::refusesMoveTo(const SandboxPath &target) const {
+    for (auto &failure : failures()) {
+        // One move is one call, wherever both its ends lie.
+        bool atSource = text_ && std::string_view(text_).starts_with(failure.prefix);
+        if (!failure.refuses(WriteCall::rename, atSource ? text_ : target.text_)) continue;
         errno = failure.error;
         return true;
     }

@@ -2,6 +2,7 @@
 // hands them to the C library, and so for every way of reaching files that Foundation has.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,5 +25,18 @@ std::string devicePathOf(std::string_view path);
 // error, as on a full or damaged disk. Reading and removing go on as before. The path need not end at a
 // name's end: "/var/a" is in front of "/var/abc" as well. An error of 0 ends all of this.
 void failWrites(std::string_view devicePathPrefix, int error);
+
+// The calls by which a file is written; folders, links and truncation are `other`.
+enum class WriteCall { open, rename, other };
+
+struct WriteFailure {
+    std::string prefix; // of paths of the device, as above
+    int error = 0;
+    std::optional<WriteCall> call; // absent: each of them
+    // Of the calls that it is about, this one fails, counted from 1, and so many more as `times` says.
+    uint64_t first = 1;
+    uint64_t times = UINT64_MAX;
+};
+void addWriteFailure(WriteFailure failure);
 
 } // namespace sim

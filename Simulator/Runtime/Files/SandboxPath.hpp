@@ -1,6 +1,8 @@
 // A path on its way into the C library.
 #pragma once
 
+#include "Sandbox.hpp"
+
 #include <string>
 #include <string_view>
 
@@ -13,8 +15,10 @@ public:
 
     operator const char *() const { return text_; }
     bool moved() const { return !storage_.empty(); }
-    // Whether writes here are to fail; errno is set then.
-    bool refusesWrites() const;
+    // Whether this call here is to fail; errno is set then.
+    bool refuses(WriteCall call) const;
+    // The same for a move from here.
+    bool refusesMoveTo(const SandboxPath &target) const;
 
 private:
     const char *text_;

@@ -2,6 +2,7 @@
 
 #include "Blocks.hpp"
 
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
@@ -43,6 +44,8 @@ struct Byref {
     void (*keep)(Byref *destination, Byref *source);
     void (*destroy)(Byref *);
 };
+
+constinit std::atomic<size_t> live = 0; // blocks on the heap
 
 int addReference(int &flags) { return __atomic_add_fetch(&flags, 1, __ATOMIC_RELAXED); }
 bool dropLastReference(int &flags) {
@@ -99,6 +102,7 @@ EXPORTED void *_Block_copy(const void *literal) {
     heap->flags = (heap->flags & ~kReferenceMask) | kNeedsFree | 1;
     heap->isa = _NSConcreteMallocBlock;
     if (heap->flags & kHasCopyDispose) heap->descriptor->copy(heap, block);
+    live.fetch_add(1, std::memory_order_relaxed);
     return heap;
 }
 
@@ -106,6 +110,7 @@ EXPORTED void _Block_release(const void *literal) {
     auto *block = static_cast<Block *>(const_cast<void *>(literal));
     if (!block || !(block->flags & kNeedsFree) || !dropLastReference(block->flags)) return;
     if (block->flags & kHasCopyDispose) block->descriptor->dispose(block);
+    live.fetch_sub(1, std::memory_order_relaxed);
     free(block);
 }
 
@@ -176,5 +181,7 @@ void installBlocks() {
     // A class is complete only once it has got a message.
     for (Class kind : {[SimStackBlock class], [SimMallocBlock class], [SimGlobalBlock class]}) [kind self];
 }
+
+size_t liveBlocks() { return live.load(std::memory_order_relaxed); }
 
 } // namespace sim

@@ -16,6 +16,9 @@ void installCensus();
 // it lived is taken off the class that it had at its end; a count never shows below zero.
 std::map<std::string, size_t> liveObjects();
 
+// How many observers have been added to a notification centre so far; those that were taken off again count.
+size_t observersAdded();
+
 // Of that very class, without subclasses.
 size_t liveCount(const char *className);
 

@@ -68,6 +68,14 @@ namespace {
 id allocate(Class self, SEL, NSZone *zone) { return NSAllocateObject(self, 0, zone); }
 void deallocate(id self, SEL) { NSDeallocateObject(self); }
 
+constinit std::atomic<size_t> observers = 0;
+void (*addObserver)(id, SEL, id, SEL, NSString *, id) = nullptr;
+
+void countObserver(id self, SEL _cmd, id observer, SEL selector, NSString *name, id object) {
+    observers.fetch_add(1, std::memory_order_relaxed);
+    addObserver(self, _cmd, observer, selector, name, object);
+}
+
 // Foundation turns some of its mutable collections into immutable ones where they lie.
 std::string countedName(Class counted) {
     std::string name = class_getName(counted);
@@ -81,6 +89,9 @@ void installCensus() {
     replaceMethod(object_getClass([NSObject class]), @selector(allocWithZone:),
                   reinterpret_cast<IMP>(allocate));
     replaceMethod([NSObject class], @selector(dealloc), reinterpret_cast<IMP>(deallocate));
+    addObserver = reinterpret_cast<decltype(addObserver)>(
+        replaceMethod([NSNotificationCenter class], @selector(addObserver:selector:name:object:),
+                      reinterpret_cast<IMP>(countObserver)));
 }
 
 std::map<std::string, size_t> liveObjects() {
@@ -92,6 +103,8 @@ std::map<std::string, size_t> liveObjects() {
         if (live > 0) result[name] = static_cast<size_t>(live);
     return result;
 }
+
+size_t observersAdded() { return observers.load(std::memory_order_relaxed); }
 
 size_t liveCount(const char *className) {
     auto counts = liveObjects();

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <cstring>
-#include <deque>
+#include <map>
 #include <stdexcept>
 #include <sys/mman.h>
 
@@ -99,12 +99,21 @@ uint8_t *put(uint8_t *at, std::initializer_list<uint8_t> bytes, const void *addr
     return at + sizeof address;
 }
 
+std::map<void *, Stub> &stubsByThunk() {
+    static auto &stubs = *new std::map<void *, Stub>; // the thunks hold their addresses
+    return stubs;
+}
+
 } // namespace
 
-void *makeOriginalStub(void *target, std::function<void()> note) {
-    static std::deque<Stub> stubs;
-    Stub &stub = stubs.emplace_back(Stub{target, std::move(note)});
+void *behindStubs(void *implementation) {
+    auto stub = stubsByThunk().find(implementation);
+    return stub == stubsByThunk().end() ? implementation : behindStubs(stub->second.target);
+}
+
+void *makeStub(void *target, std::function<void()> note) {
     uint8_t *thunk = nextThunk();
+    Stub &stub = stubsByThunk()[thunk] = Stub{target, std::move(note)};
     uint8_t *at = put(thunk, {0x49, 0xbb}, &stub);
     at = put(at, {0x49, 0xba}, reinterpret_cast<const void *>(&simOriginalEntry));
     const uint8_t jump[] = {0x41, 0xff, 0xe2};

@@ -1,5 +1,5 @@
-// Small machine-code stubs in front of the previous implementations of hooked methods, so that a run of one
-// becomes an event. x86-64, System V calling convention: every argument register is kept.
+// Small machine-code stubs in front of implementations of methods, so that whoever put one there hears of
+// each run. x86-64, System V calling convention: every argument register is kept.
 #pragma once
 
 #include <functional>
@@ -8,6 +8,9 @@ namespace sim {
 
 // Makes a stub that calls `note` and then goes on in `target` with the arguments as they came.
 // The stub lives as long as the process.
-void *makeOriginalStub(void *target, std::function<void()> note);
+void *makeStub(void *target, std::function<void()> note);
+
+// Where a stub goes on, through any number of them; what is no stub is its own.
+void *behindStubs(void *implementation);
 
 } // namespace sim

@@ -4,7 +4,9 @@
 #include "Runtime/Objc/Methods.hpp"
 #include "Timers.hpp"
 
+#include <algorithm>
 #include <set>
+#include <tuple>
 #include <vector>
 
 using sim::Clock;
@@ -241,5 +243,16 @@ void installTimers() {
 }
 
 size_t scheduledTimers() { return scheduled().size(); }
+
+std::vector<TimerDescription> describeTimers() {
+    std::vector<TimerDescription> result;
+    for (const SimTimer *timer : scheduled())
+        result.push_back({object_getClassName(timer->target), sel_getName(timer->action),
+                          toSeconds(timer->step), timer->due});
+    std::ranges::sort(result, {}, [](const TimerDescription &timer) {
+        return std::tie(timer.due, timer.target, timer.selector, timer.interval);
+    });
+    return result;
+}
 
 } // namespace sim

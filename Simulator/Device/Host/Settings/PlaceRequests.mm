@@ -119,7 +119,8 @@ UIView *findKind(UIView *view, Class wanted) {
 
 Value placeBack(const Value &) {
     UINavigationController *navigation = [frontPage() navigationController];
-    UIView *found = findKind([navigation navigationBar], [UINavigationItemButtonView class]);
+    UIView *bar = [navigation navigationBar]; // none on a page that was presented by itself
+    UIView *found = bar ? findKind(bar, [UINavigationItemButtonView class]) : nil;
     return found ? Value(centre(presentedOnScreen(found))) : Value();
 }
 

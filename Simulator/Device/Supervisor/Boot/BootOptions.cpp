@@ -4,8 +4,10 @@
 #include "Runtime/Values/Json.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <map>
 #include <set>
 
 namespace sim {
@@ -108,6 +110,41 @@ void readColorBadges(OptionReader &reader, BootOptions &options) {
     badges.finish();
 }
 
+FailingWrites readFailingWrites(const Value &table, const std::string &where) {
+    static const std::map<std::string, int> errors{
+        {"EACCES", EACCES}, {"EIO", EIO}, {"ENOSPC", ENOSPC}, {"EROFS", EROFS}};
+    OptionReader reader(table, where);
+    FailingWrites failure;
+    failure.path = reader.string("path").value_or("");
+    auto error = errors.find(reader.string("error").value_or("ENOSPC"));
+    failure.call = reader.string("call").value_or("");
+    failure.first = reader.integer("first").value_or(1);
+    failure.times = reader.integer("times");
+    reader.finish();
+    if (!failure.path.starts_with("/")) reader.fail("'path' must be an absolute path of the device");
+    if (error == errors.end()) reader.fail("'error' must be \"EACCES\", \"EIO\", \"ENOSPC\" or \"EROFS\"");
+    if (!failure.call.empty() && failure.call != "open" && failure.call != "rename")
+        reader.fail("'call' must be \"open\" or \"rename\"");
+    if (failure.first < 1 || failure.times.value_or(1) < 1) reader.fail("'first' and 'times' count from 1");
+    failure.error = error->second;
+    return failure;
+}
+
+void readFaults(OptionReader &reader, BootOptions &options) {
+    using Strings = std::vector<std::string>;
+    options.hiddenClasses = reader.strings("hide_classes").value_or(Strings{});
+    options.hiddenMethods = reader.strings("hide_methods").value_or(Strings{});
+    options.silencedMethods = reader.strings("nil_methods").value_or(Strings{});
+    options.missingFiles = reader.strings("missing_files").value_or(Strings{});
+    for (const auto &path : options.missingFiles)
+        if (!path.starts_with("/"))
+            reader.fail("'missing_files' holds absolute paths of the device, not '" + path + "'");
+    Array failures = reader.list("fail_writes").value_or(Array{});
+    for (size_t i = 0; i < failures.size(); ++i)
+        options.writeFailures.push_back(
+            readFailingWrites(failures[i], "boot: fail_writes[" + std::to_string(i + 1) + "]"));
+}
+
 } // namespace
 
 std::optional<double> parseClock(const std::string &text) {
@@ -133,11 +170,7 @@ BootOptions readBootOptions(const Value &table, std::string_view stockApplicatio
     readSettings(reader, options);
     readApplications(reader, options, stockApplications);
     options.extension = reader.boolean("extension").value_or(true);
-    options.hiddenClasses = reader.strings("hide_classes").value_or(std::vector<std::string>{});
-    options.missingFiles = reader.strings("missing_files").value_or(std::vector<std::string>{});
-    for (const auto &path : options.missingFiles)
-        if (!path.starts_with("/"))
-            reader.fail("'missing_files' holds absolute paths of the device, not '" + path + "'");
+    readFaults(reader, options);
     readColorBadges(reader, options);
     options.passcode = reader.boolean("passcode").value_or(false);
     options.passcodeLocked = reader.boolean("passcode_locked").value_or(false);

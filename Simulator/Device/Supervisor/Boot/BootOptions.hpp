@@ -26,6 +26,15 @@ struct ColorBadges {
     bool borders = true;
 };
 
+// Writes below a path that do not succeed, in each process of the device.
+struct FailingWrites {
+    std::string path;             // on the device; the beginning of the names meant
+    int64_t error = 0;            // of errno
+    std::string call;             // "open", "rename", or empty for each
+    int64_t first = 1;            // the first of these calls to fail
+    std::optional<int64_t> times; // how many in a row; absent: all
+};
+
 struct BootOptions {
     const Profile *profile = nullptr;
     std::string version; // "8.1"
@@ -37,7 +46,10 @@ struct BootOptions {
     std::vector<Application> applications;
     bool extension = true;
     std::vector<std::string> hiddenClasses;
-    std::vector<std::string> missingFiles; // paths on the device
+    std::vector<std::string> hiddenMethods;   // "Class selector", "Class +selector"
+    std::vector<std::string> silencedMethods; // the same
+    std::vector<std::string> missingFiles;    // paths on the device
+    std::vector<FailingWrites> writeFailures;
     std::optional<ColorBadges> colorBadges;
     bool passcode = false;
     bool passcodeLocked = false;

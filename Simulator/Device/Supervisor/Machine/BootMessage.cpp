@@ -35,6 +35,17 @@ Value applications(const BootOptions &options) {
     return result;
 }
 
+Value writeFailures(const BootOptions &options) {
+    Array result;
+    for (const auto &failure : options.writeFailures) {
+        Object entry{{"path", failure.path}, {"error", failure.error}, {"first", failure.first}};
+        if (!failure.call.empty()) entry.emplace("call", failure.call);
+        if (failure.times) entry.emplace("times", *failure.times);
+        result.push_back(std::move(entry));
+    }
+    return result;
+}
+
 } // namespace
 
 Object bootMessage(const DeviceSetup &setup, const BootOptions &options, const std::filesystem::path &root,
@@ -46,6 +57,9 @@ Object bootMessage(const DeviceSetup &setup, const BootOptions &options, const s
                    {"platform", setup.installation.platform.string()},
                    {"load_extensions", options.extension},
                    {"hide_classes", strings(options.hiddenClasses)},
+                   {"hide_methods", strings(options.hiddenMethods)},
+                   {"nil_methods", strings(options.silencedMethods)},
+                   {"fail_writes", writeFailures(options)},
                    {"applications", applications(options)},
                    {"passcode", options.passcode},
                    {"passcode_locked", options.passcodeLocked},

@@ -18,8 +18,9 @@ const RecordKind &eventKind() {
     return kind;
 }
 
-const RecordKind kCounters{"counter",
-                           {"settings_reads", "settings_writes", "timers", "windows", "views", "live"}};
+const RecordKind kCounters{
+    "counter",
+    {"settings_reads", "settings_writes", "timers", "windows", "views", "blocks", "observers", "live"}};
 
 int log(lua_State *lua, Phone &phone, Script &) {
     push(lua, phone.device.events().log());

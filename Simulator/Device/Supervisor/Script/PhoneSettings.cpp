@@ -30,6 +30,12 @@ int settings(lua_State *lua, Phone &phone, Script &) {
     return 1;
 }
 
+// The file's bytes, whatever they are, as boot's option of that name.
+int settingsText(lua_State *lua, Phone &phone, Script &) {
+    phone.device.settings().writeText(text(lua, 2, "the file's bytes"));
+    return 0;
+}
+
 int deleteSettings(lua_State *, Phone &phone, Script &) {
     phone.device.settings().remove();
     return 0;
@@ -38,8 +44,10 @@ int deleteSettings(lua_State *, Phone &phone, Script &) {
 } // namespace
 
 std::span<const Method> settingsMethods() {
-    static const Method methods[] = {
-        {"set", 2, set}, {"settings", 0, settings}, {"delete_settings", 0, deleteSettings}};
+    static const Method methods[] = {{"set", 2, set},
+                                     {"settings", 0, settings},
+                                     {"settings_text", 1, settingsText},
+                                     {"delete_settings", 0, deleteSettings}};
     return methods;
 }
 

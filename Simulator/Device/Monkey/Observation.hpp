@@ -1,0 +1,93 @@
+// A home screen at one moment, as far as the rules need it.
+#pragma once
+
+#include "Runtime/Values/Value.hpp"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+struct Area {
+    double x = 0, y = 0, w = 0, h = 0;
+    bool operator==(const Area &) const = default;
+};
+
+// A view of an overlay window. Areas are in points.
+struct SeenView {
+    int64_t depth = 0; // 0: the window itself
+    std::string type;  // its class
+    int64_t tag = 0;
+    bool seen = false;   // a part of it is on the screen
+    bool finite = false; // its geometry is made of numbers
+    bool interactive = false;
+    Area onScreen; // what it shows at this moment, upright
+    Area frame;    // model
+    std::string name, text, image;
+    int64_t recognizers = 0;
+    bool moving = false; // an animation of its own is under way
+};
+
+struct SeenWindow {
+    bool interactive = false, hidden = false;
+    int64_t touchable = 0;       // of nine points over the screen, those whose touches it takes
+    std::vector<SeenView> views; // depth first
+
+    // Places in `views` of the direct subviews of one.
+    std::vector<size_t> childrenOf(size_t parent) const;
+    // The first of them with that tag, or npos.
+    size_t child(size_t parent, int64_t tag) const;
+    // The place after the last view that lies below this one.
+    size_t endOf(size_t view) const;
+    static constexpr size_t npos = static_cast<size_t>(-1);
+};
+
+struct SeenTimer {
+    std::string target, selector;
+    double interval = 0; // seconds; 0: fires once
+    int64_t due = 0;     // nanoseconds
+};
+
+// Runs since the observation before; `state` has a bit for each flag of kHookFlags.
+struct SeenHook {
+    std::string type, selector;
+    int64_t state = 0, entered = 0, previous = 0;
+};
+
+struct SeenBadge {
+    std::string application;
+    int64_t value = 0;
+    bool inFolder = false;
+    bool operator==(const SeenBadge &) const = default;
+};
+
+// The extension's own variables.
+struct ExtensionState {
+    bool isShow = false, isEditing = false, needPasscode = false, locked = false, needToPulse = false;
+    std::vector<std::string> datas;
+};
+
+struct Observation {
+    std::vector<SeenWindow> overlays;
+    std::map<std::string, int64_t> windows; // how many of each kind
+    std::vector<SeenTimer> timers;
+    std::vector<SeenHook> hooks;
+    std::vector<SeenBadge> badges; // of the applications that have one
+    ExtensionState extension;
+    bool itemPresent = false, itemVisible = false;
+    std::string itemImage;
+    bool display = true, passcodeLocked = false;
+    double screenWidth = 0, screenHeight = 0; // upright
+    int64_t settingsWrites = 0;               // of the process since its start
+};
+
+// Reads the answer to "inspect". Throws ValueError.
+Observation readObservation(const Value &answer);
+
+// The arguments of the request "watch" that goes before the first "inspect" of a process. Hooks are counted
+// apart by kHookEditing and kHookShown.
+Object watchArguments();
+constexpr int64_t kHookEditing = 1, kHookShown = 2;
+
+} // namespace sim

@@ -1,0 +1,69 @@
+// Nothing of an application shows while the panel is locked.
+#include "Names.hpp"
+#include "Rules.hpp"
+
+#include <algorithm>
+
+namespace sim {
+
+namespace {
+
+bool showsFace(const SeenWindow &window, size_t content) {
+    for (int64_t face : {names::askFace, names::fingerFace, names::keypadFace}) {
+        size_t view = window.child(content, face);
+        if (view != SeenWindow::npos && window.views[view].seen) return true;
+    }
+    return false;
+}
+
+std::string described(const SeenView &view) {
+    std::string text = view.type;
+    if (!view.name.empty()) text += " '" + view.name + "'";
+    if (!view.text.empty()) text += " \"" + view.text + "\"";
+    if (!view.image.empty()) text += " with the image " + view.image;
+    return text;
+}
+
+// Names that items show. One that is as short as a digit could be a key's.
+std::set<std::string> namesIn(const SeenWindow &window, size_t strip) {
+    constexpr size_t kShortest = 3;
+    std::set<std::string> texts;
+    for (size_t i = strip + 1; i < window.endOf(strip); ++i)
+        if (window.views[i].text.size() >= kShortest) texts.insert(window.views[i].text);
+    return texts;
+}
+
+// What a view without a picture, a text or a background of its own shows is nothing.
+bool shows(const SeenView &view) {
+    return view.seen && (!view.name.empty() || !view.text.empty() || !view.image.empty() ||
+                         view.type == "UIImageView" || view.type == "UILabel");
+}
+
+void checkPanel(const SeenWindow &window, size_t panel, bool guarded, Findings &findings) {
+    size_t content = window.child(panel, names::content);
+    if (content == SeenWindow::npos) return;
+    if (!guarded && !showsFace(window, content)) return;
+    auto children = window.childrenOf(content);
+    auto strip =
+        std::ranges::find_if(children, [&](size_t view) { return window.views[view].type == names::strip; });
+    if (strip == children.end()) return;
+    for (size_t i = *strip + 1; i < window.endOf(*strip); ++i)
+        if (shows(window.views[i]))
+            return findings.push_back("the list shows a " + described(window.views[i]));
+    auto texts = namesIn(window, *strip);
+    for (const SeenView &view : window.views)
+        if (view.seen && (texts.contains(view.text) || texts.contains(view.name)))
+            findings.push_back("a " + described(view) + " is to be seen beside the list");
+}
+
+} // namespace
+
+void checkLocked(const Moment &moment, Memory &memory, Findings &findings) {
+    bool guarded = memory.guarded;
+    if (!guarded && !moment.now.extension.needPasscode) return;
+    for (const auto &window : moment.now.overlays)
+        for (size_t view : window.childrenOf(0))
+            if (window.views[view].tag == names::panel) checkPanel(window, view, guarded, findings);
+}
+
+} // namespace sim

@@ -1,0 +1,53 @@
+// What the rules remember from one event to the next. All of it begins anew with the home screen.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace sim {
+
+// The panel's closing in nanoseconds: the slow animation, and a frame or two.
+constexpr int64_t kClosing = 550'000'000;
+
+// The watched settings as the extension's poll has applied them.
+struct AppliedSettings {
+    bool enable = false, hide = false, onlyWithBadges = false;
+    bool operator==(const AppliedSettings &) const = default;
+};
+
+// The timers of one kind.
+struct TimerMemory {
+    int64_t running = 0;                   // at the last look
+    int64_t pending = 0, pendingUntil = 0; // how many have been started and were not seen yet, and until when
+    std::optional<int64_t> unwantedSince;  // since when nothing needs them
+};
+
+struct Memory {
+    // The panel, by the log. Times are virtual, in nanoseconds.
+    bool shown = false;
+    int64_t closedAt = INT64_MIN / 2; // when it was asked to close last
+    // Whether its lock is to be passed at the next opening; nothing when that cannot be told.
+    std::optional<bool> armed = false;
+    bool guarded = false; // the panel that is shown has not been unlocked
+
+    // Applications that have a badge and rightly are not listed.
+    std::set<std::string> unlisted;
+
+    std::optional<bool> visible; // the indicator, when it was seen last
+    std::optional<AppliedSettings> applied;
+    bool dark = false; // the display is off, by the hooks that ran
+
+    TimerMemory pulses, followers;
+    int64_t observers = 0; // of the finger's monitor
+
+    std::optional<int64_t> restingSince; // since when nothing of the panel has moved, at every look
+    bool adrift = false;                 // the indicator was away while this panel was shown
+
+    std::optional<int64_t> crowdedSince; // since when there are many windows of one kind, at every look
+
+    int64_t settingsWrites = 0;
+};
+
+} // namespace sim

@@ -1,0 +1,20 @@
+// The extension's names and numbers that the rules look for.
+#pragma once
+
+#include <cstdint>
+
+namespace sim::names {
+
+// Tags of the overlay's views: in the window, in the panel and in its content view.
+constexpr int64_t screenBackdrop = 21, dismissView = -1, panel = 3, content = 1;
+constexpr int64_t askFace = 44, fingerFace = 45, keypadFace = 46;
+constexpr const char *strip = "NewUIScrollView"; // the class of the view that holds the items
+
+// Lines of the log.
+constexpr const char *opening = "<Pendix> Loading Pendix UI!";
+constexpr const char *closing = "<Pendix> Pendix's UI dismissing!";
+constexpr const char *unlocked = "<Pendix> Pendix UI unlocked!";
+constexpr const char *pulsing = "<Pendix> Pulsing!";
+constexpr const char *noItem = "<Pendix> Error while showing UI!";
+
+} // namespace sim::names

@@ -1,0 +1,76 @@
+#include "Watcher.hpp"
+
+#include <utility>
+
+namespace sim {
+
+Watcher::Watcher(LivePhone &phone) : phone_(phone) {
+    time_ = phone_.device().now();
+    settingsChanged();
+}
+
+void Watcher::meetHomeScreen() {
+    SimulatedDevice &device = phone_.device();
+    generation_ = device.generation();
+    last_.reset();
+    memory_ = {};
+    Value missing = device.ask("watch", watchArguments());
+    if (!missing.array().empty())
+        throw std::runtime_error("the extension has no variable '" + missing.array()[0].string() + "'");
+}
+
+bool Watcher::settingsChanged() {
+    const SettingsFile &file = phone_.device().settings();
+    std::string state = file.state();
+    if (state == settingsState_) return false;
+    settingsState_ = state;
+    std::string problem;
+    settings_ = file.read(&problem).value_or(Value());
+    return true;
+}
+
+Array Watcher::takeSettingsEvents() {
+    const SettingsProcess *settings = phone_.settings();
+    if (settings != settingsProcess_) settingsEvents_ = 0;
+    settingsProcess_ = settings;
+    if (!settings) return {};
+    Array events = settings->events().since(settingsEvents_);
+    settingsEvents_ = settings->events().size();
+    return events;
+}
+
+std::vector<std::string> Watcher::look(const std::string &call) {
+    SimulatedDevice &device = phone_.device();
+    if (generation_ != device.generation()) meetHomeScreen();
+    Observation seen =
+        readObservation(device.ask("inspect", Object{{"item", device.package().statusBarItem}}));
+    Array events = device.events().since(events_), settingsEvents = takeSettingsEvents();
+    Value settingsBefore = settings_;
+    bool changed = settingsChanged();
+    bool pane = phone_.settings() != nullptr;
+    Moment moment{.before = last_ ? &*last_ : nullptr,
+                  .now = seen,
+                  .call = call,
+                  .events = events,
+                  .settingsEvents = settingsEvents,
+                  .settingsBefore = settingsBefore,
+                  .settings = settings_,
+                  .settingsChanged = changed,
+                  .pane = pane || pane_,
+                  .from = time_,
+                  .to = device.now()};
+    followPanel(moment, memory_);
+    std::vector<std::string> findings;
+    for (const Rule &rule : rules()) {
+        Findings own;
+        rule.check(moment, memory_, own);
+        for (auto &sentence : own) findings.push_back(std::string(rule.name) + ": " + std::move(sentence));
+    }
+    events_ = device.events().size();
+    time_ = moment.to;
+    pane_ = pane;
+    last_ = std::move(seen);
+    return findings;
+}
+
+} // namespace sim

@@ -1,0 +1,211 @@
+// Every rule is real: it fires when the home screen is broken in just that way, and is silent when it is not.
+#include "Device/Monkey/Watcher.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+namespace {
+
+namespace fs = std::filesystem;
+using sim::Array;
+using sim::Object;
+using sim::Value;
+using Script = std::vector<std::string>;
+
+// A device's folder with the saboteur in it.
+class Root {
+public:
+    Root() {
+        std::string name = (fs::temp_directory_path() / "rules-XXXXXX").string();
+        path_ = mkdtemp(name.data());
+        fs::path libraries = path_ / "Library/MobileSubstrate/DynamicLibraries";
+        fs::create_directories(libraries);
+        fs::copy_file(SABOTEUR, libraries / "Saboteur.dylib");
+        fs::copy_file(SABOTEUR_FILTER, libraries / "Saboteur.plist");
+    }
+    ~Root() { fs::remove_all(path_); }
+    Root(const Root &) = delete;
+    Root &operator=(const Root &) = delete;
+    std::string path() const { return path_.string(); }
+
+private:
+    fs::path path_;
+};
+
+sim::DeviceSetup setup() {
+    fs::path stage = STAGE;
+    sim::Installation installation{.programs = PROGRAMS,
+                                   .stageRoot = stage / "root",
+                                   .platform = stage / "platform",
+                                   .manifest = stage / "package.json",
+                                   .page = stage / "page"};
+    return {.installation = installation, .package = sim::readPackage(installation.manifest)};
+}
+
+struct Scene {
+    Script script;
+    Object settings;
+    double at; // when the saboteur acts, seconds
+};
+
+// Three badges, and the panel open from 1.1 s to 4.1 s.
+const Scene &panel() {
+    static const Scene scene{{"phone:badge(\"com.apple.mobilemail\", 3)",
+                              "phone:badge(\"com.apple.MobileSMS\", 1)", "phone:wait(1)", "phone:activator()",
+                              "phone:wait(1)", "phone:wait(0.5)", "phone:wait(0.5)", "phone:wait(0.5)",
+                              "phone:wait(0.5)", "phone:activator()", "phone:wait(1)", "phone:wait(1)",
+                              "phone:wait(1)"},
+                             {{"enable", true}, {"where", "everyoff"}},
+                             2.7};
+    return scene;
+}
+
+// The same, locked with a code.
+const Scene &lockedPanel() {
+    static const Scene scene = [] {
+        Scene locked = panel();
+        locked.settings = {{"enable", true}, {"pass", true}, {"password", "1234"}};
+        return locked;
+    }();
+    return scene;
+}
+
+// The panel has been open and is closed again.
+const Scene &closedPanel() {
+    static const Scene scene = [] {
+        Scene closed = panel();
+        closed.at = 6.5;
+        return closed;
+    }();
+    return scene;
+}
+
+// The buttons, a banner and the display, with the panel out of the way and in it.
+const Scene &buttons() {
+    static const Scene scene{{"phone:wait(1)", "phone:home()", "phone:home_twice()", "phone:wait(2)",
+                              "phone:home()", "phone:wait(1)", "phone:banner(\"Hello\")", "phone:wait(6)",
+                              "phone:activator()", "phone:wait(1)", "phone:home()", "phone:wait(1)",
+                              "phone:display(false)", "phone:wait(1)", "phone:display(true)",
+                              "phone:unlock()", "phone:wait(1)"},
+                             {{"enable", true}},
+                             0.5};
+    return scene;
+}
+
+// The indicator comes and goes: with the badges, with the settings at the poll's next tick, and not in the
+// dark.
+const Scene &indicator() {
+    static const Scene scene{{"phone:wait(0.3)",
+                              "phone:badge(\"com.apple.mobilemail\", 3)",
+                              "phone:badge(\"com.apple.mobilemail\", 0)",
+                              "phone:wait(3)",
+                              "phone:badge(\"com.apple.MobileSMS\", 1)",
+                              "phone:set(\"hide\", true)",
+                              "phone:wait(0.2)",
+                              "phone:wait(1)",
+                              "phone:set(\"hide\", nil)",
+                              "phone:wait(1.2)",
+                              "phone:display(false)",
+                              "phone:badge(\"com.apple.MobileSMS\", 0)",
+                              "phone:wait(1.5)",
+                              "phone:display(true)",
+                              "phone:unlock()",
+                              "phone:wait(1)",
+                              "phone:delete_settings()",
+                              "phone:wait(1)",
+                              "phone:respring()",
+                              "phone:wait(1)"},
+                             {{"enable", true}, {"hide_t", true}},
+                             2.5};
+    return scene;
+}
+
+Script findings(const Scene &scene, const char *sabotage) {
+    Root root;
+    Object settings = scene.settings;
+    if (sabotage) settings.insert({{"sabotage", sabotage}, {"sabotage_at", scene.at}});
+    sim::LivePhone phone(setup(), Object{{"root", root.path()}, {"settings", settings}});
+    sim::Watcher watcher(phone);
+    Script all = watcher.look("boot");
+    for (const auto &call : scene.script) {
+        phone.run(call);
+        for (const auto &finding : watcher.look(call)) all.push_back(call + " → " + finding);
+    }
+    return all;
+}
+
+std::string joined(const Script &lines) {
+    std::string text;
+    for (const auto &line : lines) text += line + "\n";
+    return text;
+}
+
+struct Case {
+    const char *sabotage;
+    const char *rule;
+    const Scene &(*scene)();
+};
+
+void PrintTo(const Case &broken, std::ostream *out) { *out << broken.sabotage; }
+
+class BrokenHomeScreen : public testing::TestWithParam<Case> {};
+
+TEST_P(BrokenHomeScreen, IsFoundByItsRule) {
+    const Case &broken = GetParam();
+    Script found = findings(broken.scene(), broken.sabotage);
+    std::string rule = std::string("→ ") + broken.rule + ": ";
+    EXPECT_TRUE(std::ranges::any_of(found, [&](const std::string &finding) {
+        return finding.find(rule) != std::string::npos;
+    })) << joined(found);
+}
+
+constexpr Case kCases[] = {
+    {"second panel", "one panel", panel},
+    {"second overlay", "one panel", panel},
+    {"leave view", "closed", closedPanel},
+    {"take touches", "closed", closedPanel},
+    {"keep backdrop", "closed", closedPanel},
+    {"show list", "locked", lockedPanel},
+    {"show name", "locked", lockedPanel},
+    {"double entry", "lists", panel},
+    {"forget entry", "lists", closedPanel},
+    {"double item", "lists", panel},
+    {"hide indicator", "indicator", panel},
+    {"show indicator", "indicator", indicator},
+    {"second poll", "timers", panel},
+    {"stray timer", "timers", panel},
+    {"stray follower", "timers", panel},
+    {"second observer", "timers", closedPanel},
+    {"raise", "quiet", panel},
+    {"call unknown", "quiet", panel},
+    {"hook unknown", "quiet", panel},
+    {"add recogniser", "quiet", closedPanel},
+    {"leak windows", "quiet", panel},
+    {"swallow click", "hooks", buttons},
+    {"click twice", "hooks", buttons},
+    {"swallow double click", "hooks", buttons},
+    {"swallow banner", "hooks", buttons},
+    {"ask system", "hooks", buttons},
+    {"break number", "geometry", panel},
+    {"move off", "geometry", panel},
+    {"stack items", "geometry", panel},
+    {"write key", "settings", closedPanel},
+};
+
+std::string caseName(const testing::TestParamInfo<Case> &info) {
+    std::string name = info.param.sabotage;
+    std::ranges::replace(name, ' ', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Saboteur, BrokenHomeScreen, testing::ValuesIn(kCases), caseName);
+
+TEST(SoundHomeScreen, GivesNoFindings) {
+    for (auto *scene : {panel, lockedPanel, closedPanel, buttons, indicator})
+        EXPECT_EQ(joined(findings(scene(), nullptr)), "");
+}
+
+} // namespace
