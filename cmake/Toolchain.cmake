@@ -10,7 +10,8 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 foreach(language C CXX OBJCXX)
     set(CMAKE_${language}_FLAGS_DEV "-O1 -g1 -fno-omit-frame-pointer")
-    set(CMAKE_${language}_FLAGS_RELEASE "-O2 -g1 -DNDEBUG")
+    # Debian's valgrind reads this version of the debugger's tables.
+    set(CMAKE_${language}_FLAGS_RELEASE "-O2 -g1 -gdwarf-4 -DNDEBUG")
 endforeach()
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
@@ -44,5 +45,6 @@ if(PENDIX_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(PENDIX_COVERAGE)
-    set(coverage_flags -fprofile-instr-generate -fcoverage-mapping)
+    # Counters that lie in the profile's file from the start: a process that is killed leaves them, too.
+    set(coverage_flags -fprofile-instr-generate -fcoverage-mapping "SHELL:-mllvm -runtime-counter-relocation")
 endif()
