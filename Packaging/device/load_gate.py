@@ -1,8 +1,8 @@
 """Refuses a library or bundle that iOS 7 would not load, or that has lost a part of the product on its way.
 
-    load_gate.py [--exports FILE] FILE...
+    load_gate.py [--exports FILE] [--sources FOLDER] FILE...
 
-Each FILE is thin or universal. Prints every fault and exits with 1 when there is one; otherwise one line a slice."""
+Each FILE is thin or universal. Of other sources than the product's the hook table is not looked for. Prints every fault and exits with 1 when there is one; otherwise one line a slice."""
 
 import argparse
 import pathlib
@@ -122,12 +122,13 @@ def encoding_faults(one, other):
                 yield f"{name} {selector} has the types {types[0]} and {types[1]}"
 
 
-def faults(path, libraries):
+def faults(path, libraries, folder=None):
     found, slices = [], macho.slices(path)
-    classes, categories = sources.implementations()
+    classes, categories = sources.implementations([folder] if folder else sources.FOLDERS)
+    rows = [] if folder else sources.hook_rows()
     for file in slices:
         checks = (command_faults(file), import_faults(file, libraries), start_faults(file), code_faults(file),
-                  metadata_faults(file, classes, categories, sources.hook_rows()), sign.faults(file))
+                  metadata_faults(file, classes, categories, rows), sign.faults(file))
         found += [f"{file.architecture}: {fault}" for check in checks for fault in check]
     for other in slices[1:]:
         found += encoding_faults(slices[0], other)
@@ -145,12 +146,13 @@ def summary(file):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--exports", default=exports.FILE)
+    parser.add_argument("--sources")
     parser.add_argument("files", nargs="+")
     arguments = parser.parse_args()
     libraries, failed = exports.read(arguments.exports), False
     for path in arguments.files:
         name = pathlib.Path(path).name
-        for fault in faults(path, libraries):
+        for fault in faults(path, libraries, arguments.sources):
             failed = True
             print(f"{name}: {fault}", file=sys.stderr)
         for file in macho.slices(path):

@@ -1,4 +1,4 @@
-"""What the product's sources say that its library must hold."""
+"""What the sources of a library say that it must hold: the product's, or those of other folders."""
 
 import pathlib
 import re
@@ -10,14 +10,14 @@ HOOK_TABLE = ROOT / "Tests/Goldens/hook-table.txt"
 _IMPLEMENTATION = re.compile(r"^@implementation\s+(\w+)(?:\s*\(\s*(\w*)\s*\))?", re.MULTILINE)
 
 
-def units(*suffixes):
-    return sorted(path for folder in FOLDERS for path in (ROOT / folder).rglob("*") if path.suffix in suffixes)
+def units(*suffixes, folders=FOLDERS):
+    return sorted(path for folder in folders for path in (ROOT / folder).rglob("*") if path.suffix in suffixes)
 
 
-def implementations():
+def implementations(folders=FOLDERS):
     """The names of the classes, and those of the categories as Class(Category)."""
     classes, categories = set(), set()
-    for path in units(".mm"):
+    for path in units(".mm", folders=folders):
         for name, category in _IMPLEMENTATION.findall(path.read_text("utf-8")):
             if category:
                 categories.add(f"{name}({category})")

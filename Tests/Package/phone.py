@@ -13,6 +13,10 @@ DATA_SYMBOLS = re.compile(r"_OBJC_|__NSConcrete|___CFConstantString|_k[A-Z]|__ob
 # Where messages answer with an object, those that answer with a number all the same.
 NUMBERS = {"countByEnumeratingWithState:objects:count:": 0, "count": 2, "length": 2}
 
+# Messages that answer with a structure of two words, not with a rectangle of four.
+PAIRS = {"center", "position", "size", "contentSize", "contentOffset", "locationInView:", "translationInView:",
+         "velocityInView:", "rangeOfString:", "sizeThatFits:", "sizeWithFont:", "defaultIconSize"}
+
 
 @dataclasses.dataclass(frozen=True)
 class Installed:
@@ -96,7 +100,8 @@ class Phone:
         return self._message(p, p.argument(1))
 
     def _objc_msgSend_stret(self, p):
-        p.engine.mem_write(p.argument(0), bytes(16))
+        pair = p.string(p.argument(2)) in PAIRS
+        p.engine.mem_write(p.argument(0), bytes(8 if pair else 16))
         self._message(p, p.argument(2))
 
     _objc_msgSendSuper2_stret = _objc_msgSend_stret

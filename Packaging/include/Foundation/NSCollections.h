@@ -18,6 +18,7 @@
 
 @interface NSMutableArray : NSArray
 - (void)addObject:(id)object;
+- (void)addObjectsFromArray:(NSArray *)other;
 - (void)insertObject:(id)object atIndex:(NSUInteger)index;
 - (void)removeObject:(id)object;
 - (void)removeObjectsInArray:(NSArray *)other;

@@ -51,5 +51,6 @@
 - (BOOL)fileExistsAtPath:(NSString *)path;
 - (BOOL)fileExistsAtPath:(NSString *)path isDirectory:(BOOL *)isDirectory;
 - (BOOL)isReadableFileAtPath:(NSString *)path;
+- (BOOL)removeItemAtPath:(NSString *)path error:(NSError **)error;
 - (NSArray *)contentsOfDirectoryAtPath:(NSString *)path error:(NSError **)error;
 @end

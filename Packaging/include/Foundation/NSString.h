@@ -2,6 +2,8 @@
 
 #include <Foundation/NSObject.h>
 
+@class NSError;
+
 typedef NSUInteger NSStringEncoding;
 enum { NSUTF8StringEncoding = 4 };
 
@@ -29,6 +31,10 @@ typedef struct _NSRange {
 - (int)intValue;
 - (float)floatValue;
 - (BOOL)boolValue;
+- (BOOL)writeToFile:(NSString *)path
+         atomically:(BOOL)atomically
+           encoding:(NSStringEncoding)encoding
+              error:(NSError **)error;
 @end
 
 @interface NSConstantString : NSString
