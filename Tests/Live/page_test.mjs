@@ -71,7 +71,9 @@ test("a session by hand, recorded and replayed", () => withDevice(SETTINGS, asyn
   await panelView(page).waitFor();
 
   await page.click("#tab-events");
-  await hand.drag(...mail, 0, 60);
+  await pause(page);
+  await hand.swipe(...mail, 0, 60);
+  await page.getByLabel("Real time", { exact: true }).check();
   await page.waitForFunction(id => [...document.querySelectorAll("#events-list .badge_set")]
     .some(item => item.textContent.endsWith(`id ${id}, value 0`)), MAIL);
 
