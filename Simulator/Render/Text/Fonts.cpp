@@ -17,28 +17,6 @@ struct ConfigRelease {
 };
 using Config = std::unique_ptr<FcConfig, ConfigRelease>;
 
-// The text libraries keep what they have opened, some of it where no pointer leads to it. At the end of the
-// process it is given back, after all that was made of it.
-struct Libraries {
-    ~Libraries() {
-        pango_cairo_font_map_set_default(nullptr);
-        cairo_debug_reset_static_data();
-        FcFini();
-    }
-};
-
-struct Contexts {
-    std::array<PangoContext *, 3> of = {};
-    ~Contexts() {
-        for (PangoContext *context : of) {
-            if (!context) continue;
-            // A font map does not let go of its configuration by itself.
-            pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(pango_context_get_font_map(context)), nullptr);
-            g_object_unref(context);
-        }
-    }
-};
-
 const FcChar8 *bytes(const std::string &text) { return reinterpret_cast<const FcChar8 *>(text.c_str()); }
 
 Config parse(const std::string &file) {
@@ -65,9 +43,8 @@ void addFont(FcConfig *target, const std::string &configuration, Face face) {
 }
 
 PangoContext *openContext(Face face) {
-    PangoFontMap *map = openFontMap(SIM_FONT_CONFIG, face);
-    PangoContext *context = pango_font_map_create_context(map);
-    g_object_unref(map);
+    useOwnFontsOnly();
+    PangoContext *context = pango_font_map_create_context(openFontMap(SIM_FONT_CONFIG, face));
     cairo_font_options_t *options = cairo_font_options_create();
     cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
@@ -99,7 +76,6 @@ std::string fontFolder(const std::string &file) { return firstFolder(parse(file)
 void useOwnFontsOnly() {
     static bool done = false;
     if (done) return;
-    static Libraries untilTheEnd;
     Config config(FcConfigCreate()); // knows no folders, so nothing is searched
     addFont(config.get(), SIM_FONT_CONFIG, Face::regular);
     FcConfigSetCurrent(config.get());
@@ -115,9 +91,9 @@ PangoFontMap *openFontMap(const std::string &configuration, Face face) {
 }
 
 PangoContext *fontContext(Face face) {
-    useOwnFontsOnly();
-    static Contexts contexts;
-    PangoContext *&context = contexts.of[static_cast<size_t>(face)];
+    // They live as long as the process: text is set until its end.
+    static std::array<PangoContext *, 3> contexts = {};
+    PangoContext *&context = contexts[static_cast<size_t>(face)];
     if (!context) context = openContext(face);
     return context;
 }

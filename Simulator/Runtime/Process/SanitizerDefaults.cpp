@@ -3,14 +3,13 @@
 extern "C" {
 
 __attribute__((used, visibility("default"))) const char *__asan_default_options() {
-    // Foundation is compiled without frame pointers, so stacks are walked the slow way, and no further than
-    // the suppressions below need.
-    return "fast_unwind_on_malloc=0:malloc_context_size=10";
+    // Foundation is compiled without frame pointers.
+    return "fast_unwind_on_malloc=0";
 }
 
-// The language runtime keeps tables until the end.
+// The language runtime and the font library keep tables until the end.
 __attribute__((used, visibility("default"))) const char *__lsan_default_suppressions() {
-    return "leak:libobjc.so\nleak:__objc_exec_class\n";
+    return "leak:libobjc.so\nleak:__objc_exec_class\nleak:libfontconfig.so\n";
 }
 
 // The suppressions at work are nobody's news.
