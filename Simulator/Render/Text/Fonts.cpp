@@ -1,5 +1,7 @@
 #include "Fonts.hpp"
 
+#include "FontRelease.hpp"
+
 #include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
 #include <pango/pangofc-fontmap.h>
@@ -54,6 +56,7 @@ PangoContext *openContext(Face face) {
     pango_context_set_round_glyph_positions(context, FALSE);
     pango_context_set_language(context, pango_language_from_string("en"));
     pango_context_set_base_dir(context, PANGO_DIRECTION_LTR);
+    releaseAtExit(context);
     return context;
 }
 
@@ -76,6 +79,7 @@ std::string fontFolder(const std::string &file) { return firstFolder(parse(file)
 void useOwnFontsOnly() {
     static bool done = false;
     if (done) return;
+    releaseFontsAtExit();
     Config config(FcConfigCreate()); // knows no folders, so nothing is searched
     addFont(config.get(), SIM_FONT_CONFIG, Face::regular);
     FcConfigSetCurrent(config.get());

@@ -144,6 +144,7 @@ double TextLayout::width() const {
 double TextLayout::height() const { return static_cast<double>(lines.size()) * metrics.lineHeight; }
 
 std::shared_ptr<const TextLayout> layOut(const std::string &text, const TextStyle &style, double maxWidth) {
+    useOwnFontsOnly(); // before the cache: what layouts are made of must outlive them
     static Cache<std::shared_ptr<const TextLayout>> layouts(cachedLayouts);
     CacheKey key;
     key.addText(text).add(style.face).add(style.size).add(style.lineBreak).add(style.maxLines).add(maxWidth);
