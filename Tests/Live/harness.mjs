@@ -78,10 +78,22 @@ export async function finger(page) {
       }
       await page.mouse.up();
     },
-    async drag(x, y, dx, dy) {
+    // To and fro between the ends of the way until `end` of performance.now(), a place every 8 ms, so that there is one for
+    // each of the device's frames. They are made in the page: the browser's own mouse waits for an answer after each.
+    async shake(x, y, dx, dy, end) {
       await page.mouse.move(...at(x, y));
       await page.mouse.down();
-      for (let i = 1; i <= 12; i++) await page.mouse.move(...at(x + dx * i / 12, y + dy * i / 12));
+      await page.evaluate(({ from, to, time }) => new Promise(resolve => {
+        const canvas = document.getElementById("screen"), start = performance.now();
+        const timer = setInterval(() => {
+          const passed = performance.now() - start, way = (1 - Math.cos(passed / 150)) / 2;
+          const [clientX, clientY] = from.map((value, index) => value + (to[index] - value) * way);
+          canvas.dispatchEvent(new PointerEvent("pointermove", { pointerId: 1, clientX, clientY }));
+          if (passed < time) return;
+          clearInterval(timer);
+          resolve();
+        }, 8);
+      }), { from: at(x, y), to: at(x + dx, y + dy), time: end - performance.now() });
       await page.mouse.up();
     },
   };

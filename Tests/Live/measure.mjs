@@ -44,12 +44,7 @@ async function measureDevice(browser, device) {
   await page.waitForTimeout(2000);
   await measure(page, `${device}, at rest (the pulse)`, () => page.waitForTimeout(seconds * 1000));
   const hand = await finger(page);
-  await measure(page, `${device}, strip dragged to and fro`, async end => {
-    while (performance.now() < end) {
-      await hand.drag(250, 90, -150, 0);
-      await hand.drag(100, 90, 150, 0);
-    }
-  });
+  await measure(page, `${device}, strip dragged to and fro`, end => hand.shake(250, 90, -150, 0, end));
   await page.close();
   await server.end();
 }

@@ -9,7 +9,7 @@ namespace sim {
 
 namespace {
 
-constexpr uint32_t kFramesUnderWay = 2; // more would only make what is shown older
+constexpr uint32_t kFramesUnderWay = 3; // more would only make what is shown older
 constexpr size_t kOldEvents = 2000;     // of what happened before it came, a page gets no more
 
 } // namespace

@@ -11,7 +11,8 @@ const PICTURE_TURNS = {
 };
 
 const canvas = document.getElementById("screen");
-const context = canvas.getContext("2d", { alpha: false });
+// Pixels only ever come from memory: a canvas that a graphics processor keeps would take them over again for each frame.
+const context = canvas.getContext("2d", { alpha: false, willReadFrequently: true });
 const frame = document.getElementById("frame");
 const turn = document.getElementById("turn");
 const highlight = document.getElementById("highlight");
