@@ -27,7 +27,7 @@ def micro(seconds):
 
 
 def times(part, floor):
-    return f"{part / floor:.1f}" if floor else ""
+    return f"{part / floor:.1f}" if part and floor else ""
 
 
 def million(count):
