@@ -6,12 +6,6 @@
 
 #include <AppList/AppList.h>
 
-namespace {
-
-// Has no icon of its own, so shows the one that such applications get.
-
-} // namespace
-
 @implementation perAppController
 
 - (NSArray *)buildRows {
@@ -20,6 +14,7 @@ namespace {
     auto iconOf = [list](NSString *identifier) {
         return [list iconOfSize:ALApplicationIconSizeSmall forDisplayIdentifier:identifier];
     };
+    // It has no icon of its own, so shows the one that such applications get.
     NSData *placeholder = UIImagePNGRepresentation(iconOf(pendix::names::placeholderOwner));
     for (NSString *identifier in list.applications) {
         UIImage *icon = iconOf(identifier);

@@ -63,7 +63,7 @@
 @public
     void *_iconViewState;
 }
-// In points; 60 × 60 on iPhone, 76 × 76 on iPad.
+// In points, the room of the name below the image included: 60 × 74 on iPhone, 76 × 93 on iPad.
 + (CGSize)defaultIconSize;
 - (SBIcon *)icon;
 - (SBIconImageView *)_iconImageView;

@@ -2,7 +2,6 @@
 
 #include <elf.h>
 #include <fstream>
-#include <iterator>
 #include <link.h>
 #include <map>
 #include <set>
@@ -21,8 +20,11 @@ bool isSystems(std::string_view path) {
 }
 
 std::vector<char> bytesOf(const std::string &path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file) return {};
+    std::vector<char> bytes(static_cast<size_t>(file.tellg()));
+    file.seekg(0).read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return bytes;
 }
 
 // The data objects of the file's full symbol table, which a stripped file lacks.

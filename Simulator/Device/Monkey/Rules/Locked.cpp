@@ -24,12 +24,16 @@ std::string described(const SeenView &view) {
     return text;
 }
 
-// Names that items show. One that is as short as a digit could be a key's.
+// Names that items show; what the list says when it is empty tells of no application, and a face may say it
+// as well. One that is as short as a digit could be a key's.
 std::set<std::string> namesIn(const SeenWindow &window, size_t strip) {
     constexpr size_t kShortest = 3;
     std::set<std::string> texts;
-    for (size_t i = strip + 1; i < window.endOf(strip); ++i)
-        if (window.views[i].text.size() >= kShortest) texts.insert(window.views[i].text);
+    for (size_t item : window.childrenOf(strip)) {
+        if (window.views[item].name.empty()) continue;
+        for (size_t i = item + 1; i < window.endOf(item); ++i)
+            if (window.views[i].text.size() >= kShortest) texts.insert(window.views[i].text);
+    }
     return texts;
 }
 
