@@ -81,6 +81,17 @@ const Scene &emptyLockedPanel() {
     return scene;
 }
 
+// A finger matches, and the panel closes before the glyph has shown it: the next opening is unlocked.
+const Scene &lateFinger() {
+    static const Scene scene{
+        {"phone:display(false)", "phone:wait(1)", "phone:display(true)", "phone:unlock()", "phone:wait(1)",
+         "phone:activator()", "phone:wait(1)", "phone:finger(3)", "phone:activator()", "phone:wait(1)",
+         "phone:wait(1)", "phone:activator()", "phone:wait(1)"},
+        {{"enable", true}, {"pass", true}, {"password", "1234"}, {"touchid", true}, {"where", "everyoff"}},
+        2.7};
+    return scene;
+}
+
 // The panel has been open and is closed again.
 const Scene &closedPanel() {
     static const Scene scene = [] {
@@ -212,7 +223,7 @@ std::string caseName(const testing::TestParamInfo<Case> &info) {
 INSTANTIATE_TEST_SUITE_P(Saboteur, BrokenHomeScreen, testing::ValuesIn(kCases), caseName);
 
 TEST(SoundHomeScreen, GivesNoFindings) {
-    for (auto *scene : {panel, lockedPanel, emptyLockedPanel, closedPanel, buttons, indicator})
+    for (auto *scene : {panel, lockedPanel, emptyLockedPanel, lateFinger, closedPanel, buttons, indicator})
         EXPECT_EQ(joined(findings(scene(), nullptr)), "");
 }
 
