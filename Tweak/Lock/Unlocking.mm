@@ -93,7 +93,7 @@ void added::useTochID(SpringBoard *, SEL) {
 
 void added::unlockPendix(SpringBoard *self, SEL, int page) {
     const BOOL shown = isShow;
-    if (shown) NSLog(@"<Pendix> Pendix UI unlocked!");
+    NSLog(@"<Pendix> Pendix UI unlocked!");
     needPasscode = NO;
     const BOOL cards = shown && raiseCards();
     stopFingerMonitor();

@@ -45,14 +45,6 @@ void goDark(const Moment &moment, Memory &memory) {
     }
 }
 
-// A finger that has matched draws its glyph to the end before it unlocks. When the panel closes meanwhile,
-// all that it does is to disarm the lock, without a word in the log.
-bool isDisarmedLate(const Moment &moment, const Memory &memory) {
-    constexpr int64_t kGlyph = 1'000'000'000; // and a frame or two
-    return !memory.shown && moment.before && moment.before->extension.needPasscode &&
-           !moment.now.extension.needPasscode && moment.from <= memory.closedAt + kGlyph;
-}
-
 } // namespace
 
 void followPanel(const Moment &moment, Memory &memory) {
@@ -72,7 +64,6 @@ void followPanel(const Moment &moment, Memory &memory) {
             memory.guarded = false;
         }
     }
-    if (isDisarmedLate(moment, memory)) memory.armed = false;
     if (memory.shown == moment.now.extension.isShow) return;
     memory.shown = moment.now.extension.isShow;
     memory.closedAt = moment.to;
