@@ -101,6 +101,7 @@ TEST(Events, CarryTheTimeSinceTheirEpoch) {
     sim::onEvent([&](const sim::Value &event) { heard.push_back(event["kind"].string()); });
     sim::recordEvent("a", sim::Object{{"x", 1}});
     sim::recordWarning("w");
+    sim::onEvent(nullptr);
     auto list = sim::takeEvents();
     ASSERT_EQ(list.size(), 2u);
     EXPECT_EQ(list[0]["t"].number(), 3.0);
