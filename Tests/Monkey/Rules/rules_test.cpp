@@ -92,6 +92,17 @@ const Scene &lateFinger() {
     return scene;
 }
 
+// Unlocked, and the display turned off and on while the face still makes room for the list.
+const Scene &darkUnlocking() {
+    static const Scene scene{
+        {"phone:display(false)", "phone:wait(1)", "phone:display(true)", "phone:unlock()", "phone:wait(1)",
+         "phone:activator()", "phone:wait(1)", "phone:finger(3)", "phone:wait(0.6)", "phone:lock()",
+         "phone:lock()", "phone:wait(0.1)", "phone:wait(1)"},
+        {{"enable", true}, {"pass", true}, {"password", "1234"}, {"touchid", true}, {"where", "everyoff"}},
+        2.7};
+    return scene;
+}
+
 // The panel has been open and is closed again.
 const Scene &closedPanel() {
     static const Scene scene = [] {
@@ -223,7 +234,8 @@ std::string caseName(const testing::TestParamInfo<Case> &info) {
 INSTANTIATE_TEST_SUITE_P(Saboteur, BrokenHomeScreen, testing::ValuesIn(kCases), caseName);
 
 TEST(SoundHomeScreen, GivesNoFindings) {
-    for (auto *scene : {panel, lockedPanel, emptyLockedPanel, lateFinger, closedPanel, buttons, indicator})
+    for (auto *scene :
+         {panel, lockedPanel, emptyLockedPanel, lateFinger, darkUnlocking, closedPanel, buttons, indicator})
         EXPECT_EQ(joined(findings(scene(), nullptr)), "");
 }
 

@@ -63,6 +63,9 @@ void checkPanel(const SeenWindow &window, size_t panel, bool guarded, Findings &
 } // namespace
 
 void checkLocked(const Moment &moment, Memory &memory, Findings &findings) {
+    // One that the display's turning off closes, and arms again, may still be on its way from the face to the
+    // list.
+    if (memory.unlocked) return;
     bool guarded = memory.guarded;
     if (!guarded && !moment.now.extension.needPasscode) return;
     for (const auto &window : moment.now.overlays)

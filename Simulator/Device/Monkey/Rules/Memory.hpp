@@ -30,7 +30,8 @@ struct Memory {
     int64_t closedAt = INT64_MIN / 2; // when it was asked to close last
     // Whether its lock is to be passed at the next opening; nothing when that cannot be told.
     std::optional<bool> armed = false;
-    bool guarded = false; // the panel that is shown has not been unlocked
+    bool guarded = false;  // the panel that is shown has not been unlocked
+    bool unlocked = false; // it has, or the one that was shown last; an opening begins anew
 
     // Applications that have a badge and rightly are not listed.
     std::set<std::string> unlisted;

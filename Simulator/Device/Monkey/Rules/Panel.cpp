@@ -33,6 +33,7 @@ bool hasLock(const Value &settings) {
 void open(const Moment &moment, Memory &memory) {
     if (memory.shown) return;
     memory.shown = true;
+    memory.unlocked = false;
     memory.armed = armedAtOpening(moment, memory.armed);
     memory.guarded = memory.armed.value_or(false) && !moment.settingsChanged && hasLock(moment.settings);
 }
@@ -62,6 +63,7 @@ void followPanel(const Moment &moment, Memory &memory) {
         } else if (line == names::unlocked) {
             memory.armed = false;
             memory.guarded = false;
+            memory.unlocked = true;
         }
     }
     if (memory.shown == moment.now.extension.isShow) return;
