@@ -39,6 +39,13 @@ void checkPanel(const Moment &moment, const SeenView &panel, Findings &findings)
     if (area.w <= 1 || area.h <= 1) findings.push_back("the panel has the size of " + placeText(area));
 }
 
+// A panel that changes its height asks the settings of that moment which edge stays. Where they were others
+// when it was placed, it may grow off the screen.
+bool isAnchoredAnew(const Moment &moment) {
+    auto differs = [&](const char *key) { return !(moment.settingsBefore[key] == moment.settings[key]); };
+    return differs("rech") || differs("position");
+}
+
 void checkItems(const SeenWindow &window, size_t strip, Findings &findings) {
     std::vector<Area> places;
     for (size_t item : window.childrenOf(strip)) {
@@ -60,7 +67,7 @@ bool isInPlace(const Moment &moment, Memory &memory, const SeenWindow &window) {
         memory.restingSince = moment.to;
     }
     if (!memory.shown) memory.adrift = false;
-    if (memory.shown && !moment.now.itemVisible) memory.adrift = true;
+    if (memory.shown && (!moment.now.itemVisible || isAnchoredAnew(moment))) memory.adrift = true;
     return memory.restingSince && moment.to - *memory.restingSince >= kFollowed && !memory.adrift;
 }
 

@@ -44,7 +44,8 @@ struct Memory {
     int64_t observers = 0; // of the finger's monitor
 
     std::optional<int64_t> restingSince; // since when nothing of the panel has moved, at every look
-    bool adrift = false;                 // the indicator was away while this panel was shown
+    bool adrift =
+        false; // while this panel was shown the indicator was away, or other settings came to place it
 
     std::optional<int64_t> crowdedSince; // since when there are many windows of one kind, at every look
 
