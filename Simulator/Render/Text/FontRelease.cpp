@@ -13,8 +13,6 @@
 #include <pango/pangofc-fontmap.h>
 
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 #include <thread>
 #include <vector>
 
@@ -22,33 +20,30 @@ namespace render {
 
 namespace {
 
-bool isSearching() {
-    for (const auto &task : std::filesystem::directory_iterator("/proc/self/task")) {
-        std::string name;
-        std::ifstream(task.path() / "comm") >> name;
-        if (name == "[pango]") return true;
-    }
-    return false;
-}
-
-// Pango looks for fonts in threads that nobody can join; what one of them works on must not go first.
-void waitForSearches() {
+// Pango looks for fonts in threads that nobody can join, and what one of them works on must not go first.
+// Each of them, from before it runs, has a reference of the font map that it looks in.
+void waitForSearches(PangoFontMap *map, guint ownReferences) {
     using namespace std::chrono_literals;
-    for (int i = 0; i < 5000 && isSearching(); ++i) std::this_thread::sleep_for(1ms);
+    auto references = [&] { return static_cast<guint>(g_atomic_int_get(&G_OBJECT(map)->ref_count)); };
+    for (int i = 0; i < 60'000 && references() > ownReferences; ++i) std::this_thread::sleep_for(1ms);
 }
 
 struct Held {
     std::vector<PangoContext *> contexts;
 
     ~Held() {
-        waitForSearches();
         for (PangoContext *context : contexts) {
             PangoFontMap *map = pango_context_get_font_map(context);
+            waitForSearches(map, 2); // ours and the context's
             // A font map does not let go of its configuration by itself.
             pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map), nullptr);
             g_object_unref(map);
             g_object_unref(context);
         }
+        PangoFontMap *drawings = pango_cairo_font_map_get_default();
+        pango_fc_font_map_get_config(
+            PANGO_FC_FONT_MAP(drawings)); // waits for the thread that starts fontconfig
+        waitForSearches(drawings, 1);
         pango_cairo_font_map_set_default(nullptr);
         cairo_debug_reset_static_data();
         FcFini();
