@@ -4,23 +4,13 @@
 
 #include "Measuring/Running.hpp"
 
-#include "Runtime/Objc/Blocks.hpp"
-#include "Runtime/Objc/Census.hpp"
-#include "Runtime/Objc/Exceptions.hpp"
-#include "Runtime/Process/Singletons.hpp"
+#include "Device/Host/ProcessStart.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
 
 namespace {
-
-void preparePlatform() {
-    sim::installBlocks();
-    sim::installCensus();
-    sim::makeFoundationSingletons();
-    sim::installExceptions();
-}
 
 int list() {
     for (const auto &benchmark : bench::allCases()) puts(benchmark.name.c_str());
@@ -34,7 +24,7 @@ int run(const std::string &way, const std::string &name, const std::vector<std::
         fprintf(stderr, "there is no '%s %s'\n", way.c_str(), name.c_str());
         return 2;
     }
-    preparePlatform();
+    sim::startProcess();
     std::vector<std::string> arguments = {name};
     arguments.insert(arguments.end(), more.begin(), more.end());
     @autoreleasepool {

@@ -6,16 +6,11 @@
 local load_here = dofile
 dofile = function(name) return load_here("../Scenarios/" .. name) end
 local L = dofile("lib_lock.lua")
+local to_lock_screen = load_here("lib_hands.lua").to_lock_screen
 local rounds = math.tointeger(args[1] or 30)
 
 local function type_code(phone)
   if L.face_view(phone, "keypad") then L.enter(phone, "1234") end
-end
-local function to_lock_screen(phone)
-  phone:display(false)
-  phone:settle()
-  phone:display(true)
-  phone:wait(0.5)
 end
 -- The pages of the pane that make the most: tables, cards, the sheet for a code.
 local function visit_settings(phone)

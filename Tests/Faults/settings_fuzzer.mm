@@ -17,14 +17,10 @@
 #include "Tweak/Panel/SpringBoard+Panel.h"
 #include "Tweak/Triggers/ShowPanel.h"
 
-#include "Runtime/Files/FoundationFiles.hpp"
-#include "Runtime/Objc/Blocks.hpp"
-#include "Runtime/Process/Singletons.hpp"
-#include "Runtime/Time/Timers.hpp"
+#include "Product/SwitchRow.h"
 #include "Runtime/Values/PropertyList.hpp"
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"
-#include "UIKit/Application/ApplicationState.h"
 
 #include <Preferences/Preferences.h>
 
@@ -84,15 +80,7 @@ void use(uint64_t number) {
     if (pendix::isShow || [pendix::window.subviews count] != 2) fail(number, "the panel stays");
 }
 
-PSSpecifier *rowOf(NSString *key) {
-    return [PSSpecifier preferenceSpecifierNamed:pendix::pane::Translator(key)
-                                          target:nil
-                                             set:nullptr
-                                             get:nullptr
-                                          detail:Nil
-                                            cell:PSSwitchCell
-                                            edit:Nil];
-}
+PSSpecifier *rowOf(NSString *key) { return harness::switchRow(pendix::pane::Translator(key)); }
 
 // Writes one entry in one of the ways there are; its name comes back.
 std::string writeOne(uint64_t number) {
@@ -203,11 +191,7 @@ int run(uint64_t first, uint64_t count, bool trace) {
 } // namespace
 
 int main(int argc, char **argv) {
-    sim::installBlocks();
-    sim::makeFoundationSingletons();
-    sim::installTimers();
-    sim::installPropertyLists();
-    sim::installRunLoop();
+    harness::preparePlatform();
     bool trace = argc > 1 && strcmp(argv[argc - 1], "--trace") == 0;
     careless = argc > 1 && strcmp(argv[argc - 1], "--careless") == 0;
     @autoreleasepool {

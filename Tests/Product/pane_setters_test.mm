@@ -9,6 +9,7 @@
 #include "PendixSettings/Root/LockedUIViewController.h"
 #include "Tweak/Core/Settings.h"
 
+#include "Product/SwitchRow.h"
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"
 #include "UIKit/Alerts/AlertPanel.h"
@@ -43,16 +44,6 @@ protected:
     harness::Sandbox sandbox;
 };
 
-PSSpecifier *row(NSString *name) {
-    return [PSSpecifier preferenceSpecifierNamed:name
-                                          target:nil
-                                             set:nullptr
-                                             get:nullptr
-                                          detail:Nil
-                                            cell:PSSwitchCell
-                                            edit:Nil];
-}
-
 TEST_F(PaneSetters, SayWhatAChangeNeeds) {
     const std::vector<std::string> none, restart{"Restart Home Screen?", "Cancel", "OK"};
     struct {
@@ -77,7 +68,7 @@ TEST_F(PaneSetters, SayWhatAChangeNeeds) {
         std::filesystem::remove(list);
         if (c.other) std::ofstream(list) << "/.\n";
         PendixListController *page = [[c.page new] autorelease];
-        PSSpecifier *changed = row(pendix::pane::Translator(c.key));
+        PSSpecifier *changed = harness::switchRow(pendix::pane::Translator(c.key));
         [page setValue:[NSNumber numberWithBool:c.value] forSpecifier:changed];
         EXPECT_EQ(pendix::isOn(c.key), c.value);
         EXPECT_EQ([[page getValue:changed] boolValue], c.value);
@@ -96,16 +87,16 @@ TEST_F(PaneSetters, SayWhatAChangeNeeds) {
 // A label goes back to its key; one that has none stores under a key that nobody reads.
 TEST_F(PaneSetters, FindTheKeyByTheLabel) {
     PendixListController *page = [[PendixListController new] autorelease];
-    [page setValue:@"a" forSpecifier:row(@"Mark Color")];
-    [page setValue:@"b" forSpecifier:row(@"no text reads like this")];
+    [page setValue:@"a" forSpecifier:harness::switchRow(@"Mark Color")];
+    [page setValue:@"b" forSpecifier:harness::switchRow(@"no text reads like this")];
     EXPECT_EQ(harness::text(pendix::textSetting(@"colors")), "a");
     EXPECT_EQ(harness::text(pendix::textSetting(@"(null)")), "b");
-    EXPECT_EQ([page getValue:row(@"Glow Color")], nil);
+    EXPECT_EQ([page getValue:harness::switchRow(@"Glow Color")], nil);
 
     std::filesystem::remove(folder() / "en.plist");
-    [page setValue:@"c" forSpecifier:row(@"Mark Color")];
+    [page setValue:@"c" forSpecifier:harness::switchRow(@"Mark Color")];
     EXPECT_EQ(harness::text(pendix::textSetting(@"colors")), "a") << "without a table no key is found";
-    EXPECT_EQ(harness::text([page getValue:row(@"anything")]), "c");
+    EXPECT_EQ(harness::text([page getValue:harness::switchRow(@"anything")]), "c");
 }
 
 // Cells ask a value for its truth; what does not know it would end the process.
@@ -125,7 +116,7 @@ TEST_F(PaneSetters, ShowOnlyWhatACellUnderstands) {
     };
     for (const auto &c : cases) {
         pendix::writeSetting(@"ca", c.stored);
-        id shown = [page getValue:row(@"Cards")];
+        id shown = [page getValue:harness::switchRow(@"Cards")];
         EXPECT_TRUE(shown == c.shown || [shown isEqual:c.shown]) << harness::text([c.stored description]);
     }
 }
@@ -136,13 +127,13 @@ TEST_F(PaneSetters, KeepApplicationsApart) {
         [[made navigationItem] setTitle:identifier];
         return made;
     };
-    PSSpecifier *hide = row(@"Hide from Pendix");
+    PSSpecifier *hide = harness::switchRow(@"Hide from Pendix");
     NSNumber *on = [NSNumber numberWithBool:YES];
     pendix::writeSetting(@"org.example.2", @"text");
     [page(@"org.example.1") setValue:on forSpecifier:hide];
     EXPECT_TRUE(pendix::hide_per(@"org.example.1"));
     EXPECT_EQ([page(@"org.example.2") getValue:hide], nil) << "a text is no entry";
-    [page(@"org.example.2") setValue:on forSpecifier:row(@"No Mark on Icon")];
+    [page(@"org.example.2") setValue:on forSpecifier:harness::switchRow(@"No Mark on Icon")];
     EXPECT_FALSE(pendix::hide_per(@"org.example.2"));
     EXPECT_TRUE(pendix::badge_per(@"org.example.2"));
     [page(nil) setValue:on forSpecifier:hide];

@@ -18,6 +18,10 @@
 
 namespace harness {
 
+// Blocks, timers, property lists, the run loop: first in the main of a program that has the extension's units
+// in it.
+void preparePlatform();
+
 // "iPhone 4S", "iPhone 5", "iPhone 6", "iPhone 6 Plus", "iPad 2" or "iPad Air".
 sim::Device profile(const std::string &name, sim::Version version = {8, 1});
 

@@ -1,7 +1,12 @@
 #include "Harness.h"
 
+#include "Runtime/Files/FoundationFiles.hpp"
 #include "Runtime/Objc/Availability.hpp"
+#include "Runtime/Objc/Blocks.hpp"
+#include "Runtime/Process/Singletons.hpp"
+#include "Runtime/Time/Timers.hpp"
 #include "Runtime/Values/Json.hpp"
+#include "UIKit/Application/ApplicationState.h"
 
 #include <algorithm>
 
@@ -22,6 +27,14 @@ void launch() {
 }
 
 } // namespace
+
+void preparePlatform() {
+    sim::installBlocks();
+    sim::makeFoundationSingletons();
+    sim::installTimers();
+    sim::installPropertyLists();
+    sim::installRunLoop();
+}
 
 sim::Device profile(const std::string &name, sim::Version version) {
     struct Model {

@@ -3,18 +3,12 @@
 #import <Foundation/Foundation.h>
 
 #include "Device/Protocol/Descriptors.hpp"
-#include "Runtime/Objc/Blocks.hpp"
-#include "Runtime/Objc/Census.hpp"
-#include "Runtime/Objc/Exceptions.hpp"
+#include "ProcessStart.h"
 #include "Runtime/Process/Crash.hpp"
-#include "Runtime/Process/Singletons.hpp"
 #include "Session.hpp"
 
 int main() {
-    sim::installBlocks();
-    sim::installCensus();
-    sim::makeFoundationSingletons();
-    sim::installExceptions();
+    sim::startProcess();
     sim::installCrashHandler(sim::kCrashDescriptor);
     @autoreleasepool {
         sim::serve();
