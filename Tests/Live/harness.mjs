@@ -48,6 +48,20 @@ export async function open(browser, address, problems, options = {}) {
   return page;
 }
 
+// The clock stands, and everything that was done is on the screen.
+export async function pause(page) {
+  await page.getByLabel("Pause", { exact: true }).check();
+  await page.waitForFunction(() => document.querySelector("[name=speed][value='0']").checked);
+}
+
+const resume = page => page.getByLabel("Real time", { exact: true }).check();
+
+// A second of the device's time, in which what moves there comes to rest.
+async function settle(page) {
+  const now = parseFloat(await page.textContent("#time"));
+  await page.waitForFunction(until => parseFloat(document.getElementById("time").textContent) >= until, now + 1);
+}
+
 // Lets a frame pass on a device whose clock stands. The mouse stays where it is.
 async function step(page) {
   const before = await page.textContent("#time");
@@ -55,29 +69,27 @@ async function step(page) {
   await page.waitForFunction(time => document.getElementById("time").textContent !== time, before);
 }
 
-// The device's screen under the mouse, in its points.
+// The device's screen under the mouse, in its points. A touch waits until the screen has come to rest. Then the clock
+// stands but for a frame at each place, so that it is as quick on every machine; after it real time goes on.
 export async function finger(page) {
   const box = await page.locator("#screen").boundingBox();
   const zoom = box.width / await page.evaluate(() => document.getElementById("screen").width / 2);
   const at = (x, y) => [box.x + x * zoom, box.y + y * zoom];
+  async function touch(...places) {
+    await settle(page);
+    await pause(page);
+    await page.mouse.move(...at(...places[0]));
+    await page.mouse.down();
+    for (const place of places) {
+      await page.mouse.move(...at(...place));
+      await step(page);
+    }
+    await page.mouse.up();
+    await resume(page);
+  }
   return {
-    async tap(x, y) {
-      await page.mouse.move(...at(x, y));
-      await page.mouse.down();
-      await page.waitForFunction(before => document.getElementById("time").textContent !== before,
-        await page.textContent("#time"));
-      await page.mouse.up();
-    },
-    // While the clock stands: a frame for each place, so that it is as fast on every machine.
-    async swipe(x, y, dx, dy) {
-      await page.mouse.move(...at(x, y));
-      await page.mouse.down();
-      for (let i = 1; i <= 12; i++) {
-        await page.mouse.move(...at(x + dx * i / 12, y + dy * i / 12));
-        await step(page);
-      }
-      await page.mouse.up();
-    },
+    tap: (x, y) => touch([x, y]),
+    swipe: (x, y, dx, dy) => touch(...Array.from({ length: 13 }, (_, i) => [x + dx * i / 12, y + dy * i / 12])),
     // To and fro between the ends of the way until `end` of performance.now(), a place every 8 ms, so that there is one for
     // each of the device's frames. They are made in the page: the browser's own mouse waits for an answer after each.
     async shake(x, y, dx, dy, end) {

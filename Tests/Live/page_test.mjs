@@ -2,7 +2,7 @@
 // changes a setting, records and replays all that; and the screen shows, pixel by pixel, what a script's picture shows.
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
-import { cleanUp, difference, finger, launch, open, picture, run, serve } from "./harness.mjs";
+import { cleanUp, difference, finger, launch, open, pause, picture, run, serve } from "./harness.mjs";
 
 const SETTINGS = ["--set", "enable=true", "--set", "glow=true"];
 const MAIL = "com.apple.mobilemail";
@@ -37,12 +37,6 @@ async function setBadge(page, id, number) {
 const scriptText = page => page.evaluate(() =>
   [...document.querySelectorAll("#script-lines li")].map(line => line.textContent).join("\n"));
 
-// The clock stands, and everything that was done is on the screen.
-async function pause(page) {
-  await page.getByLabel("Pause", { exact: true }).check();
-  await page.waitForFunction(() => document.querySelector("[name=speed][value='0']").checked);
-}
-
 async function wholeScript(page) {
   await page.click("#tab-script");
   const [download] = await Promise.all([page.waitForEvent("download"), page.click("#script-save")]);
@@ -71,9 +65,7 @@ test("a session by hand, recorded and replayed", () => withDevice(SETTINGS, asyn
   await panelView(page).waitFor();
 
   await page.click("#tab-events");
-  await pause(page);
   await hand.swipe(...mail, 0, 60);
-  await page.getByLabel("Real time", { exact: true }).check();
   await page.waitForFunction(id => [...document.querySelectorAll("#events-list .badge_set")]
     .some(item => item.textContent.endsWith(`id ${id}, value 0`)), MAIL);
 
