@@ -41,8 +41,8 @@ struct Held {
             g_object_unref(context);
         }
         PangoFontMap *drawings = pango_cairo_font_map_get_default();
-        pango_fc_font_map_get_config(
-            PANGO_FC_FONT_MAP(drawings)); // waits for the thread that starts fontconfig
+        // Asking for it waits for the thread that starts fontconfig.
+        pango_fc_font_map_get_config(PANGO_FC_FONT_MAP(drawings));
         waitForSearches(drawings, 1);
         pango_cairo_font_map_set_default(nullptr);
         cairo_debug_reset_static_data();

@@ -81,25 +81,28 @@ const Scene &emptyLockedPanel() {
     return scene;
 }
 
-// A finger matches, and the panel closes before the glyph has shown it: the next opening is unlocked.
-const Scene &lateFinger() {
-    static const Scene scene{
-        {"phone:display(false)", "phone:wait(1)", "phone:display(true)", "phone:unlock()", "phone:wait(1)",
-         "phone:activator()", "phone:wait(1)", "phone:finger(3)", "phone:activator()", "phone:wait(1)",
-         "phone:wait(1)", "phone:activator()", "phone:wait(1)"},
+// Locked with a code and a finger, which matches at 3 s; then `after`.
+Scene fingerScene(const Script &after) {
+    Script script{"phone:display(false)", "phone:wait(1)",     "phone:display(true)", "phone:unlock()",
+                  "phone:wait(1)",        "phone:activator()", "phone:wait(1)",       "phone:finger(3)"};
+    script.insert(script.end(), after.begin(), after.end());
+    return {
+        script,
         {{"enable", true}, {"pass", true}, {"password", "1234"}, {"touchid", true}, {"where", "everyoff"}},
         2.7};
+}
+
+// The panel closes before the glyph has shown the match: the next opening is unlocked.
+const Scene &lateFinger() {
+    static const Scene scene = fingerScene(
+        {"phone:activator()", "phone:wait(1)", "phone:wait(1)", "phone:activator()", "phone:wait(1)"});
     return scene;
 }
 
 // Unlocked, and the display turned off and on while the face still makes room for the list.
 const Scene &darkUnlocking() {
-    static const Scene scene{
-        {"phone:display(false)", "phone:wait(1)", "phone:display(true)", "phone:unlock()", "phone:wait(1)",
-         "phone:activator()", "phone:wait(1)", "phone:finger(3)", "phone:wait(0.6)", "phone:lock()",
-         "phone:lock()", "phone:wait(0.1)", "phone:wait(1)"},
-        {{"enable", true}, {"pass", true}, {"password", "1234"}, {"touchid", true}, {"where", "everyoff"}},
-        2.7};
+    static const Scene scene =
+        fingerScene({"phone:wait(0.6)", "phone:lock()", "phone:lock()", "phone:wait(0.1)", "phone:wait(1)"});
     return scene;
 }
 

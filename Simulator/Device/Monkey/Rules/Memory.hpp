@@ -44,8 +44,8 @@ struct Memory {
     int64_t observers = 0; // of the finger's monitor
 
     std::optional<int64_t> restingSince; // since when nothing of the panel has moved, at every look
-    bool adrift =
-        false; // while this panel was shown the indicator was away, or other settings came to place it
+    // While this panel was shown the indicator was away, or other settings came to place it.
+    bool adrift = false;
 
     std::optional<int64_t> crowdedSince; // since when there are many windows of one kind, at every look
 
