@@ -4,7 +4,7 @@
 
 #include "Measuring/Running.hpp"
 
-#include "Device/Host/ProcessStart.h"
+#include "Process/Shared/ProcessStart.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,11 +1,11 @@
 #include "Device.hpp"
 
-#include "Device/Host/Requests.h"
-#include "Device/Protocol/Descriptors.hpp"
-#include "Device/Protocol/SharedTime.hpp"
-#include "Device/Supervisor/Machine/BootMessage.hpp"
+#include "Process/Shared/Requests.h"
 #include "Runtime/Process/Events.hpp"
 #include "Runtime/Time/Clock.hpp"
+#include "Supervisor/Machine/BootMessage.hpp"
+#include "Supervisor/Protocol/Descriptors.hpp"
+#include "Supervisor/Protocol/SharedTime.hpp"
 
 #include <unistd.h>
 

@@ -2,7 +2,7 @@
 // that what is measured is the process's work and nothing else.
 #pragma once
 
-#include "Device/Supervisor/Machine/SimulatedDevice.hpp"
+#include "Supervisor/Machine/SimulatedDevice.hpp"
 
 namespace bench {
 

@@ -2,8 +2,10 @@
 
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Rows.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 
+namespace keys = pendix::keys;
 namespace pane = pendix::pane;
 
 namespace {
@@ -20,8 +22,8 @@ NSDictionary *entryOf(NSString *identifier) {
 
 - (NSArray *)buildRows {
     pane::Rows rows(self);
-    rows.group(@"desc_hide_perapp").toggle(@"hide_perapp");
-    rows.group(@"desc_badge_perapp").toggle(@"badge_perapp");
+    rows.group(@"desc_hide_perapp").toggle(keys::appHidden);
+    rows.group(@"desc_badge_perapp").toggle(keys::appWithoutMark);
     return rows.list();
 }
 

@@ -10,10 +10,12 @@
 #include "PendixSettings/Passcode/passwordController.h"
 #include "Tweak/Core/Names.h"
 #include "Tweak/Core/Screen.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 
 #include <Activator/LAListenerSettingsViewController.h>
 
+namespace keys = pendix::keys;
 namespace pane = pendix::pane;
 
 namespace {
@@ -23,7 +25,7 @@ NSString *const kOtherExtension = @"/var/lib/dpkg/info/com.a3tweaks.apex2.list";
 
 constexpr NSInteger kBackFooter = 2; // the place of the group that explains `back`
 
-NSString *backFooterKey() { return pendix::isOn(@"light") ? @"desc_back_dark" : @"desc_back_light"; }
+NSString *backFooterKey() { return pendix::isOn(keys::lightScheme) ? @"desc_back_dark" : @"desc_back_light"; }
 
 NSArray *amounts() {
     NSString *const numbers[] = {@"1", @"2", @"3", @"4", @"5"};
@@ -36,18 +38,18 @@ NSArray *amounts() {
 
 - (NSArray *)buildRows {
     pane::Rows rows(self);
-    rows.group(@"desc_light").toggle(@"light");
-    rows.group(backFooterKey()).toggle(@"back");
-    rows.group(@"desc_blur").toggle(@"blur");
-    rows.group(@"desc_fast").toggle(@"fast");
-    rows.group(@"desc_ca").toggle(@"ca");
-    rows.group(@"desc_rech").link(@"rech", [reachController class]);
-    rows.group(@"desc_close").toggle(@"close");
-    rows.group(@"desc_paging").toggle(@"paging");
-    rows.group(@"desc_b").toggle(@"b");
-    rows.group(@"desc_newb1").link(@"newb", [indeterminateController class]);
-    rows.group(@"desc_badge").toggle(@"badge");
-    rows.group(@"desc_amount").segments(@"amount", amounts());
+    rows.group(@"desc_light").toggle(keys::lightScheme);
+    rows.group(backFooterKey()).toggle(keys::clearBackground);
+    rows.group(@"desc_blur").toggle(keys::blursScreen);
+    rows.group(@"desc_fast").toggle(keys::fastAnimations);
+    rows.group(@"desc_ca").toggle(keys::cards);
+    rows.group(@"desc_rech").link(keys::followsPosition, [reachController class]);
+    rows.group(@"desc_close").toggle(keys::closeMarks);
+    rows.group(@"desc_paging").toggle(keys::paging);
+    rows.group(@"desc_b").toggle(keys::hidesBadges);
+    rows.group(@"desc_newb1").link(keys::showsMarks, [indeterminateController class]);
+    rows.group(@"desc_badge").toggle(keys::runningMode);
+    rows.group(@"desc_amount").segments(keys::rows, amounts());
     rows.group(@"desc_act").button(@"activator", PSLinkCell, @selector(showActivatorSetup));
     rows.group(@"desc_perapp").link(@"perapp", [perAppController class]);
     rows.group(@"desc_icon").link(@"icon", [pendixIconController class]);
@@ -57,15 +59,15 @@ NSArray *amounts() {
 
 - (void)setValue:(id)value forSpecifier:(PSSpecifier *)row {
     NSString *label = row.identifier;
-    if ([label isEqual:pane::Translator(@"b")]) {
+    if ([label isEqual:pane::Translator(keys::hidesBadges)]) {
         pane::offerRestart(self);
-    } else if ([label isEqual:pane::Translator(@"newb")]) {
+    } else if ([label isEqual:pane::Translator(keys::showsMarks)]) {
         [self announceMarks];
-    } else if ([label isEqual:pane::Translator(@"light")]) {
+    } else if ([label isEqual:pane::Translator(keys::lightScheme)]) {
         [super setValue:value forSpecifier:row];
         return [self explainBack];
-    } else if ([label isEqual:pane::Translator(@"rech")] && [value boolValue]) {
-        pane::showNote(@"rech", @"message_rech", self);
+    } else if ([label isEqual:pane::Translator(keys::followsPosition)] && [value boolValue]) {
+        pane::showNote(keys::followsPosition, @"message_rech", self);
     }
     [super setValue:value forSpecifier:row];
 }

@@ -4,7 +4,9 @@
 #include "PendixSettings/Core/PaneState.h"
 #include "PendixSettings/Core/Rows.h"
 #include "PendixSettings/Icon/colorPickerController.h"
+#include "Tweak/Core/SettingKeys.h"
 
+namespace keys = pendix::keys;
 namespace pane = pendix::pane;
 
 @implementation indeterminateController
@@ -16,9 +18,9 @@ namespace pane = pendix::pane;
 
 - (NSArray *)buildRows {
     pane::Rows rows(self);
-    rows.group(@"desc_newb").toggle(@"newb");
-    rows.group(@"desc_auto").toggle(@"auto");
-    rows.group(@"desc_colors").link(@"colors", [colorPickerController class]);
+    rows.group(@"desc_newb").toggle(keys::showsMarks);
+    rows.group(@"desc_auto").toggle(keys::marksTakeIconColor);
+    rows.group(@"desc_colors").link(keys::markColor, [colorPickerController class]);
     return rows.list();
 }
 

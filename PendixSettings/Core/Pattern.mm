@@ -1,11 +1,12 @@
 #include "PendixSettings/Core/Pattern.h"
+#include "Tweak/Core/Names.h"
 
 #include <UIKit/UIImage.h>
 
 namespace pendix::pane {
 
 UIColor *pattern() {
-    UIImage *tile = [UIImage imageWithContentsOfFile:@"/Library/Application Support/Pendix/background.png"];
+    UIImage *tile = [UIImage imageWithContentsOfFile:names::supportFile(@"background.png")];
     return tile ? [UIColor colorWithPatternImage:tile] : nil;
 }
 

@@ -1,6 +1,7 @@
 #include "PendixSettings/Icon/ColorNames.h"
 
 #include "PendixSettings/Core/PaneState.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 
 namespace pendix::pane {
@@ -18,8 +19,8 @@ NSString *stringFromColor(UIColor *color) {
 }
 
 NSString *editedColorKey() {
-    if ([wtf isEqual:kIndeterminate]) return @"colors";
-    return [wtf isEqual:kIcon] ? @"tint" : nil;
+    if ([wtf isEqual:kIndeterminate]) return keys::markColor;
+    return [wtf isEqual:kIcon] ? keys::pulseColor : nil;
 }
 
 } // namespace pendix::pane

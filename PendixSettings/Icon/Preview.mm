@@ -1,15 +1,16 @@
 #include "PendixSettings/Icon/Preview.h"
 
 #include "PendixSettings/Core/PaneState.h"
+#include "Tweak/Core/Names.h"
 #include "Tweak/Core/PanelViews.h"
 
 namespace pendix::pane {
 
 namespace {
 
-NSString *const kIconImage = @"/Library/Application Support/Pendix/preview.png";
-NSString *const kMarkImage = @"/Library/Application Support/Pendix/PendixMiniNotification.png";
-NSString *const kGlyphImage = @"/Library/Application Support/Pendix/Pendix.png";
+NSString *const kIconImage = @"preview.png";
+NSString *const kMarkImage = @"PendixMiniNotification.png";
+NSString *const kGlyphImage = @"Pendix.png";
 
 constexpr NSInteger kPreview = 1, kMark = 2; // tags
 
@@ -32,15 +33,15 @@ UIImage *templateAt(NSString *path) {
 
 void addMarkedIcon(UIView *cell, CGFloat correction) {
     const CGFloat left = (correction + width - kIconSide) * 0.5;
-    addImage(cell, [UIImage imageWithContentsOfFile:kIconImage],
+    addImage(cell, [UIImage imageWithContentsOfFile:pendix::names::supportFile(kIconImage)],
              CGRectMake(left, kIconTop, kIconSide, kIconSide), kPreview);
-    addImage(cell, templateAt(kMarkImage),
+    addImage(cell, templateAt(pendix::names::supportFile(kMarkImage)),
              CGRectMake(left + kIconSide - kMarkInset, kIconTop, kMarkSide, kMarkSide), kMark);
 }
 
 void addGlyph(UIView *cell, CGFloat correction) {
     const CGFloat left = (correction + width - kGlyphSide) * 0.5;
-    UIImageView *glyph = addImage(cell, templateAt(kGlyphImage),
+    UIImageView *glyph = addImage(cell, templateAt(pendix::names::supportFile(kGlyphImage)),
                                   CGRectMake(left, kGlyphTop, kGlyphSide, kGlyphSide), kPreview);
     glyph.tintColor = [UIColor blackColor];
     glyph.layer.shadowRadius = kGlowRadius;

@@ -3,7 +3,9 @@
 #include "PendixSettings/Core/PaneState.h"
 #include "PendixSettings/Core/Rows.h"
 #include "PendixSettings/Icon/colorPickerController.h"
+#include "Tweak/Core/SettingKeys.h"
 
+namespace keys = pendix::keys;
 namespace pane = pendix::pane;
 
 @implementation pendixIconController
@@ -15,10 +17,10 @@ namespace pane = pendix::pane;
 
 - (NSArray *)buildRows {
     pane::Rows rows(self);
-    rows.group(@"desc_hide").toggle(@"hide");
-    rows.group(@"desc_hide_t").toggle(@"hide_t");
-    rows.group(@"desc_glow").toggle(@"glow");
-    rows.group(@"desc_tint").link(@"tint", [colorPickerController class]);
+    rows.group(@"desc_hide").toggle(keys::hidesIndicator);
+    rows.group(@"desc_hide_t").toggle(keys::hidesWithoutBadges);
+    rows.group(@"desc_glow").toggle(keys::pulses);
+    rows.group(@"desc_tint").link(keys::pulseColor, [colorPickerController class]);
     return rows.list();
 }
 

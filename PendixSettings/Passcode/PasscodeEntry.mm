@@ -1,13 +1,14 @@
 #include "PendixSettings/Passcode/PasscodeSheet.h"
 
 #include "PendixSettings/Passcode/DigitEntry.hpp"
+#include "Tweak/Core/Names.h"
 #include "Tweak/Core/Sounds.h"
 
 namespace pendix::pane {
 
 namespace {
 
-NSString *const kDot = @"/Library/Application Support/Pendix/dot.png";
+NSString *const kDot = @"dot.png";
 
 constexpr NSTimeInterval kAdvance = 0.25; // seconds
 constexpr NSUInteger kGroupSize = 1 + kDigits;
@@ -18,7 +19,8 @@ UIView *viewAt(UITextField *field, NSInteger group, size_t place) {
 }
 
 void show(UITextField *field, NSInteger group, size_t place, NSString *image) {
-    [(UIImageView *)viewAt(field, group, place) setImage:[UIImage imageWithContentsOfFile:image]];
+    [(UIImageView *)viewAt(field, group, place)
+        setImage:[UIImage imageWithContentsOfFile:names::supportFile(image)]];
 }
 
 } // namespace

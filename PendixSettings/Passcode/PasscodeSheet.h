@@ -10,7 +10,7 @@
 namespace pendix::pane {
 
 // A place without a digit.
-inline NSString *const kDash = @"/Library/Application Support/Pendix/dash.png";
+inline NSString *const kDash = @"dash.png";
 
 struct DigitGroup {
     NSString *key; // of its text

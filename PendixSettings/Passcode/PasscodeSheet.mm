@@ -2,6 +2,7 @@
 
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Passcode/DigitEntry.hpp"
+#include "Tweak/Core/Names.h"
 
 namespace pendix::pane {
 
@@ -39,7 +40,7 @@ UILabel *addText(UIView *view, const DigitGroup &group, CGFloat below) {
 
 void addGroup(UIView *view, const DigitGroup &group, CGFloat below) {
     const CGRect text = addText(view, group, below).frame;
-    UIImage *image = [UIImage imageWithContentsOfFile:kDash];
+    UIImage *image = [UIImage imageWithContentsOfFile:names::supportFile(kDash)];
     const CGSize size = image.size;
     const CGFloat step = (text.size.width - size.width) / 3;
     for (size_t i = 0; i < kDigits; ++i) {

@@ -4,8 +4,10 @@
 #include "PendixSettings/Core/Rows.h"
 #include "PendixSettings/Passcode/NewPSListItemsController.h"
 #include "PendixSettings/Passcode/PasscodeSheet.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 
+namespace keys = pendix::keys;
 namespace pane = pendix::pane;
 
 namespace {
@@ -14,7 +16,7 @@ constexpr NSInteger kLockGroup = 0; // the place of the group with the lock's sw
 
 // nil when none was ever set.
 NSString *storedCode() {
-    NSString *code = pendix::textSetting(@"password");
+    NSString *code = pendix::textSetting(keys::passcode);
     return [code length] ? code : nil;
 }
 
@@ -31,10 +33,10 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     pane::Rows rows(self);
     NSArray *moments = [NSArray arrayWithObjects:@"lockscreen", @"every", @"everyoff", nil];
     rows.group(@"desc_sec").toggle(@"security", @selector(setEnable:), @selector(enable));
-    if (pendix::isOn(@"hasTouchID")) rows.group(@"desc_id").toggle(@"touchid");
-    rows.group(@"desc_clear").toggle(@"clear");
-    rows.group(@"desc_where").choice(@"where", moments, [NewPSListItemsController class]);
-    rows.group(@"desc_ask").toggle(@"ask");
+    if (pendix::isOn(keys::hasSensor)) rows.group(@"desc_id").toggle(keys::unlocksByFinger);
+    rows.group(@"desc_clear").toggle(keys::labelledKeys);
+    rows.group(@"desc_where").choice(keys::lockMoment, moments, [NewPSListItemsController class]);
+    rows.group(@"desc_ask").toggle(keys::asksFirst);
     rows.group(@"change_pass");
     PSSpecifier *button = rows.button(@"change_pass", PSButtonCell, @selector(changePass));
     [button setProperty:[NSNumber numberWithInt:2] forKey:@"alignment"]; // centred
@@ -48,7 +50,7 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     if (pane::showed) return;
     if (pane::whereShowed) {
         pane::whereShowed = NO;
-    } else if (storedCode() && pendix::isOn(@"pass")) {
+    } else if (storedCode() && pendix::isOn(keys::lockEnabled)) {
         pane::showed = YES;
         presentWrite(self, @selector(dismiss), @selector(textFieldDidChange:));
     }
@@ -71,18 +73,18 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
 // The lock.
 
 - (id)enable {
-    return pane::showable(pendix::setting(@"pass"));
+    return pane::showable(pendix::setting(keys::lockEnabled));
 }
 
 - (void)setEnable:(id)value {
     pane::showed = YES;
     if (!storedCode()) {
-        pendix::writeSetting(@"pass", value);
+        pendix::writeSetting(keys::lockEnabled, value);
         pane::showed = NO;
         return;
     }
     pane::keep(pane::pendingSettings, pendix::settingsToChange());
-    [pane::pendingSettings setObject:value forKey:@"pass"];
+    [pane::pendingSettings setObject:value forKey:keys::lockEnabled];
     presentWrite(self, @selector(dismiss1), @selector(textFieldDidChange1:));
 }
 
@@ -133,7 +135,7 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     pane::changeStep = step + 1;
     if (step < 2) return pane::advance(field, step);
     pane::endEntry(field);
-    pendix::writeSetting(@"password", typed);
+    pendix::writeSetting(keys::passcode, typed);
     pane::keep<NSMutableArray>(pane::newCodes, nil);
     pane::dismissSheet(^{ pane::showed = NO; });
 }

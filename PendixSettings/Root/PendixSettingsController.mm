@@ -5,22 +5,25 @@
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Rows.h"
 #include "PendixSettings/Root/creatorsController.h"
+#include "Tweak/Core/Names.h"
+#include "Tweak/Core/SettingKeys.h"
 
 #include <Twitter/TWTweetComposeViewController.h>
 
+namespace keys = pendix::keys;
 namespace pane = pendix::pane;
 
 namespace {
 
-NSString *const kTitleImage = @"/Library/Application Support/Pendix/Pendix_Title.png";
-NSString *const kShareImage = @"/Library/Application Support/Pendix/happy.png";
-NSString *const kEnableIcon = @"/Library/Application Support/Pendix/Enable@2x.png";
-NSString *const kConfigurationIcon = @"/Library/Application Support/Pendix/Configuration.png";
-NSString *const kContactIcon = @"/Library/Application Support/Pendix/Contact.png";
+NSString *const kTitleImage = @"Pendix_Title.png";
+NSString *const kShareImage = @"happy.png";
+NSString *const kEnableIcon = @"Enable@2x.png";
+NSString *const kConfigurationIcon = @"Configuration.png";
+NSString *const kContactIcon = @"Contact.png";
 
 UIImageView *titleView() {
-    UIImage *image =
-        [[UIImage imageNamed:kTitleImage] imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    UIImage *image = [[UIImage imageNamed:pendix::names::supportFile(kTitleImage)]
+        imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
     return [[[UIImageView alloc] initWithImage:image] autorelease];
 }
 
@@ -31,11 +34,13 @@ UIImageView *titleView() {
 - (NSArray *)buildRows {
     pane::Rows rows(self);
     rows.header(@"HeaderCellForPendix");
-    pane::setIcon(rows.toggle(@"enable"), [UIImage imageWithContentsOfFile:kEnableIcon]);
+    pane::setIcon(rows.toggle(keys::enabled),
+                  [UIImage imageWithContentsOfFile:pendix::names::supportFile(kEnableIcon)]);
     rows.group();
-    rows.link(@"configuration", [configurationController class], kConfigurationIcon);
+    rows.link(@"configuration", [configurationController class],
+              pendix::names::supportFile(kConfigurationIcon));
     rows.group();
-    rows.link(@"contacts", [creatorsController class], kContactIcon);
+    rows.link(@"contacts", [creatorsController class], pendix::names::supportFile(kContactIcon));
     return rows.list();
 }
 
@@ -55,11 +60,11 @@ UIImageView *titleView() {
 }
 
 - (void)addShareButton {
-    UIBarButtonItem *button =
-        [[UIBarButtonItem alloc] initWithImage:[UIImage imageWithContentsOfFile:kShareImage]
-                                         style:UIBarButtonItemStyleBordered
-                                        target:self
-                                        action:@selector(Tweet)];
+    UIBarButtonItem *button = [[UIBarButtonItem alloc]
+        initWithImage:[UIImage imageWithContentsOfFile:pendix::names::supportFile(kShareImage)]
+                style:UIBarButtonItemStyleBordered
+               target:self
+               action:@selector(Tweet)];
     self.navigationItem.rightBarButtonItem = button;
     [button release];
 }

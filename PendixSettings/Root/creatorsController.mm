@@ -3,13 +3,14 @@
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Pattern.h"
 #include "PendixSettings/Core/Rows.h"
+#include "Tweak/Core/Names.h"
 
 namespace pane = pendix::pane;
 
 namespace {
 
 NSString *const kInfo = @"/Library/PreferenceBundles/PendixSettings.bundle/Info.plist";
-NSString *const kGlyph = @"/Library/Application Support/Pendix/Pendix.png";
+NSString *const kGlyph = @"Pendix.png";
 
 constexpr CGFloat kHeight = 156, kGlyphTop = 36, kGlyphSide = 40, kNameTop = 84, kVersionTop = 132;
 
@@ -48,7 +49,8 @@ UILabel *newLine(NSString *text, NSString *font, CGFloat size, UIColor *color) {
                 reuseIdentifier:@"headerCell"
                       specifier:specifier];
     if (!self) return nil;
-    UIImageView *glyph = [[UIImageView alloc] initWithImage:[UIImage imageWithContentsOfFile:kGlyph]];
+    UIImageView *glyph = [[UIImageView alloc]
+        initWithImage:[UIImage imageWithContentsOfFile:pendix::names::supportFile(kGlyph)]];
     UILabel *name = newLine(@"Pendix", @"HelveticaNeue-UltraLight", 40, pane::pattern());
     UILabel *number = newLine(version(), @"HelveticaNeue-Light", 15, [UIColor grayColor]);
     glyph.frame = CGRectMake(0, kGlyphTop, kGlyphSide, kGlyphSide);

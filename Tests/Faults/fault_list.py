@@ -24,7 +24,7 @@ def looked_up(text):
 
 
 def hook_rows(source):
-    text = (source / "Tweak/Core/HookTable.mm").read_text()
+    text = (source / "Tweak/Start/HookTable.mm").read_text()
     return re.findall(r'\b(hook|add)\(\s*"(\w+)",\s*"([\w:]+)"', text)
 
 

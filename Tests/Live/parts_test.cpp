@@ -1,9 +1,9 @@
 // What the live page's server calculates: the texts of recorded scripts, the areas that a page has not seen,
 // the frames that are due.
-#include "Device/Live/FrameParts.hpp"
-#include "Device/Live/Journal.hpp"
-#include "Device/Live/LiveClock.hpp"
-#include "Device/Live/LuaText.hpp"
+#include "Tools/Live/FrameParts.hpp"
+#include "Tools/Live/Journal.hpp"
+#include "Tools/Live/LiveClock.hpp"
+#include "Tools/Live/LuaText.hpp"
 
 #include <gtest/gtest.h>
 

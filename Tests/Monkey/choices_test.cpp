@@ -1,9 +1,9 @@
 // What a seed decides is the same everywhere, legal, and within what was asked for.
-#include "Device/Monkey/BootTable.hpp"
-#include "Device/Monkey/SettingValues.hpp"
-#include "Device/Supervisor/Boot/BootOptions.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Runtime/Values/PropertyList.hpp"
+#include "Supervisor/Boot/BootOptions.hpp"
+#include "Tools/Monkey/BootTable.hpp"
+#include "Tools/Monkey/SettingValues.hpp"
 
 #include <gtest/gtest.h>
 
@@ -65,7 +65,7 @@ TEST(BootTable, KeepsWhatIsGiven) {
     given.object().erase("settings");
     for (uint64_t seed = 0; seed < 50; ++seed) {
         Random random(seed);
-        EXPECT_TRUE(sim::bootTable(random, given).has("settings")) << "or the last life's would stay";
+        EXPECT_TRUE(sim::bootTable(random, given).has("settings")) << "or the last session's would stay";
     }
     Random random(1);
     EXPECT_THROW(sim::bootTable(random, sim::parseJson(R"({"device": "iPhone 6", "ios": "7.1"})")),

@@ -30,17 +30,17 @@ class Monkey(unittest.TestCase):
         return result.stdout, trace.read_bytes() if trace.exists() else b""
 
     def test_a_seed_decides_every_event(self):
-        run = ["--events", 300, "--life", 150]
+        run = ["--events", 300, "--session", 150]
         _, first = self.monkey("first", "--seed", 11, *run)
         _, second = self.monkey("second", "--seed", 11, *run)
         _, other = self.monkey("other", "--seed", 12, *run)
         self.assertEqual(first, second)
         self.assertNotEqual(first, other)
-        self.assertEqual(len(first.splitlines()), 300 + 2, "a line an event and a boot a life")
+        self.assertEqual(len(first.splitlines()), 300 + 2, "a line an event and a boot a session")
         self.assertEqual(sum(line.startswith(b"local phone = boot") for line in first.splitlines()), 2)
 
     def test_few_events_are_refused(self):
-        said, _ = self.monkey("trace", "--seed", 3, "--events", 600, "--life", 200)
+        said, _ = self.monkey("trace", "--seed", 3, "--events", 600, "--session", 200)
         self.assertLess(float(re.search(r"([\d.]+) % refused", said)[1]), 10)
 
     def plant(self):
@@ -50,9 +50,9 @@ class Monkey(unittest.TestCase):
         return json.dumps({"root": str(root)})
 
     def test_a_fault_is_found_made_short_and_comes_again(self):
-        said, _ = self.monkey("trace", "--seed", 2, "--events", 4000, "--life", 2000, "--device", "iPhone 5",
+        said, _ = self.monkey("trace", "--seed", 2, "--events", 4000, "--session", 2000, "--device", "iPhone 5",
                               "--ios", "7.1", "--script", "found.lua", "--boot", self.plant(), wanted=1)
-        for part in ("seed 2, iPhone 5, iOS 7.1, life 1", "plantedFault", "found.lua"):
+        for part in ("seed 2, iPhone 5, iOS 7.1, session 1", "plantedFault", "found.lua"):
             self.assertIn(part, said)
         script = (self.folder / "found.lua").read_text()
         self.assertIn("plantedFault", script.splitlines()[0], "what broke stands at the head")
@@ -64,7 +64,7 @@ class Monkey(unittest.TestCase):
         self.assertIn("plantedFault", replayed.stderr)
 
     def test_a_run_goes_on_where_it_was(self):
-        run = ["--seed", 5, "--life", 100]
+        run = ["--seed", 5, "--session", 100]
         whole_said, whole = self.monkey("whole", *run, "--events", 400)
         _, first = self.monkey("first", *run, "--events", 200, "--resume", "progress.json")
         said, rest = self.monkey("rest", *run, "--events", 400, "--resume", "progress.json")
@@ -75,9 +75,9 @@ class Monkey(unittest.TestCase):
         self.assertEqual(nothing, b"", "a run that is done does nothing more")
 
     def test_the_progress_of_another_run_is_refused(self):
-        self.monkey("trace", "--seed", 5, "--life", 50, "--events", 50, "--resume", "progress.json")
-        for other in (["--seed", 6, "--life", 50], ["--seed", 5, "--life", 60],
-                      ["--seed", 5, "--life", 50, "--device", "iPad 2"]):
+        self.monkey("trace", "--seed", 5, "--session", 50, "--events", 50, "--resume", "progress.json")
+        for other in (["--seed", 6, "--session", 50], ["--seed", 5, "--session", 60],
+                      ["--seed", 5, "--session", 50, "--device", "iPad 2"]):
             before = (self.folder / "progress.json").read_bytes()
             self.monkey("trace", *other, "--events", 100, "--resume", "progress.json", wanted=2)
             self.assertEqual((self.folder / "progress.json").read_bytes(), before)

@@ -1,5 +1,5 @@
 // A list that shows a fault is made as short as it can be, and with no more replays than allowed.
-#include "Device/Monkey/Shrink.hpp"
+#include "Tools/Monkey/Shrink.hpp"
 
 #include <gtest/gtest.h>
 
@@ -36,28 +36,28 @@ TEST(Shrink, LeavesWhatTheFaultTakes) {
                           {777, {"1", "2", "3", "4", "5", "6", "7"}},
                           {100, {}}};
     for (const auto &item : cases) {
-        auto replay = [&](const Lines &lines) { return needs(item.wanted, lines); };
-        EXPECT_EQ(sim::shrunk(numbered(item.count), replay, 10'000), item.wanted) << item.count;
+        auto attempt = [&](const Lines &lines) { return needs(item.wanted, lines); };
+        EXPECT_EQ(sim::shrunk(numbered(item.count), attempt, 10'000), item.wanted) << item.count;
     }
 }
 
 TEST(Shrink, DropsLinesThatOnlyGoTogether) {
     // A finger that goes up must have come down: neither line can go alone.
-    auto replay = [](const Lines &lines) -> std::optional<size_t> {
+    auto attempt = [](const Lines &lines) -> std::optional<size_t> {
         bool down = std::ranges::count(lines, "10"), up = std::ranges::count(lines, "11");
         return down == up ? needs({"40"}, lines) : std::nullopt;
     };
-    EXPECT_EQ(sim::shrunk(numbered(64), replay, 10'000), Lines{"40"});
+    EXPECT_EQ(sim::shrunk(numbered(64), attempt, 10'000), Lines{"40"});
 }
 
 TEST(Shrink, StopsWhenItHasReplayedEnough) {
     for (size_t most : {size_t{0}, size_t{1}, size_t{5}, size_t{30}}) {
         size_t replays = 0;
-        auto replay = [&](const Lines &lines) {
+        auto attempt = [&](const Lines &lines) {
             ++replays;
             return needs({"0", "350", "999"}, lines);
         };
-        Lines left = sim::shrunk(numbered(1000), replay, most);
+        Lines left = sim::shrunk(numbered(1000), attempt, most);
         EXPECT_LE(replays, most);
         EXPECT_TRUE(needs({"0", "350", "999"}, left)) << "what is left still shows it";
     }

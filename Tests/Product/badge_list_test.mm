@@ -1,8 +1,8 @@
 // The list of badged applications: newest change first, nobody twice, nobody hidden. It is the order in which
 // the panel will show them.
-#include "Tweak/Core/HookTable.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
+#include "Tweak/Start/HookTable.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"

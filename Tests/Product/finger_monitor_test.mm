@@ -1,8 +1,8 @@
 // The fingerprint sensor is observed once however often that is asked for, and its matching is left as it was
 // found: others look for fingers as well.
-#include "Tweak/Core/FingerMonitor.h"
-#include "Tweak/Core/HookTable.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Lock/Lock.h"
+#include "Tweak/Start/HookTable.h"
 
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"

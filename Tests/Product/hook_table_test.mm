@@ -1,7 +1,7 @@
 // The table is the agreed one, and installs what it says, with the types it says, on every system version; it
 // does nothing to what a version lacks. A regression shows as a method that is missing or answers with
 // garbage.
-#include "Tweak/Core/HookTable.h"
+#include "Tweak/Start/HookTable.h"
 
 #include "Runtime/Objc/OriginalStub.hpp"
 #include "SpringBoard/Harness.h"

@@ -1,5 +1,5 @@
 // What Activator shows of the extension in its list of listeners, and where it may be assigned.
-#include "Tweak/Core/QLActivatorListener.h"
+#include "Tweak/Triggers/QLActivatorListener.h"
 
 #include "SpringBoard/Sandbox.h"
 

@@ -1,10 +1,10 @@
 // The small pieces on which the panel stands: the swipe's delegate, the strip's own knowledge of moving, the
 // colours of an image, the shimmer and the snapshot that a card shows.
-#include "Tweak/Core/HookTable.h"
 #include "Tweak/Core/Support/UIImage+AverageColor.h"
 #include "Tweak/Core/Support/UIView+Shimmer.h"
 #include "Tweak/Panel/NewUIScrollView.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Start/HookTable.h"
 
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"

@@ -5,13 +5,13 @@
 namespace pendix {
 
 NSString *identifierOf(SBApplication *application) {
-    return systemVersion() >= 8.0 ? [application bundleIdentifier] : [application displayIdentifier];
+    return isEight() ? [application bundleIdentifier] : [application displayIdentifier];
 }
 
 SBApplication *applicationOf(NSString *identifier) {
     SBApplicationController *controller = [objc_getClass("SBApplicationController") sharedInstance];
-    return systemVersion() >= 8.0 ? [controller applicationWithBundleIdentifier:identifier]
-                                  : [controller applicationWithDisplayIdentifier:identifier];
+    return isEight() ? [controller applicationWithBundleIdentifier:identifier]
+                     : [controller applicationWithDisplayIdentifier:identifier];
 }
 
 SBIconView *iconViewOf(NSString *identifier) {

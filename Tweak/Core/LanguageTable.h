@@ -18,6 +18,6 @@ NSDictionary *languageTable(NSString *language);
 NSString *textForKey(NSString *key, NSString *language);
 
 // What a look-up gives that found nothing.
-extern NSString *const missingText;
+inline NSString *const missingText = @"(null)";
 
 } // namespace pendix

@@ -4,14 +4,12 @@
 
 namespace pendix {
 
-NSString *const missingText = @"(null)";
-
 namespace {
 
 NSString *const kEnglish = @"en";
 
 NSString *tablePath(NSString *language) {
-    return [[names::languageFolder stringByAppendingString:language] stringByAppendingString:@".plist"];
+    return names::supportFile([NSString stringWithFormat:@"Languages/%@.plist", language]);
 }
 
 BOOL hasTable(NSString *language) {

@@ -6,7 +6,8 @@
 namespace pendix::names {
 
 inline NSString *const settingsFile = @"/var/mobile/Library/Preferences/org.quillhub.PendixSettings.plist";
-inline NSString *const languageFolder = @"/Library/Application Support/Pendix/Languages/";
+// The extension's pictures and language tables.
+inline NSString *const supportFolder = @"/Library/Application Support/Pendix/";
 inline NSString *const paneIcon =
     @"/Library/PreferenceBundles/PendixSettings.bundle/PendixSettingsIcon@2x.png";
 
@@ -19,5 +20,8 @@ inline NSString *const placeholderOwner = @"com.apple.WebViewService";
 // Status-bar images, and so the indicator names by which the item is recognised.
 inline NSString *const badgeImage = @"Pendix";
 inline NSString *const switcherImage = @"PendixSwitcher";
+
+// The path of a file of the extension's own folder.
+inline NSString *supportFile(NSString *name) { return [supportFolder stringByAppendingString:name]; }
 
 } // namespace pendix::names

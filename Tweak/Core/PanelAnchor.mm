@@ -1,6 +1,7 @@
 #include "Tweak/Core/PanelAnchor.h"
 
 #include "Tweak/Core/Screen.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 
@@ -12,8 +13,8 @@ BOOL reachabilityIsActive() {
 }
 
 Anchor currentAnchor(BOOL reachability) {
-    BOOL rech = isOn(@"rech");
-    NSString *name = rech ? textSetting(@"position") : nil;
+    BOOL rech = isOn(keys::followsPosition);
+    NSString *name = rech ? textSetting(keys::position) : nil;
     Position position = Position::top;
     if ([name isEqualToString:@"middle"]) position = Position::middle;
     if ([name isEqualToString:@"bottom"]) position = Position::bottom;

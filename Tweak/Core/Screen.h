@@ -13,6 +13,9 @@ CGRect portraitScreenBounds();
 // that its home screen has.
 float systemVersion();
 
+// Whether it is 8.0 or later, where applications are known by other names and quit in other ways.
+BOOL isEight();
+
 // Whether the device is an iPad, by its model's name.
 BOOL isPad();
 

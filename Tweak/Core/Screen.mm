@@ -20,6 +20,11 @@ float systemVersion() {
                                                                                                : kSeven;
 }
 
+BOOL isEight() {
+    constexpr float kEight = 8;
+    return systemVersion() >= kEight;
+}
+
 BOOL isPad() { return [[UIDevice currentDevice].model hasPrefix:@"iPad"]; }
 
 } // namespace pendix

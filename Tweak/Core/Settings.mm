@@ -1,4 +1,5 @@
 #include "Tweak/Core/Settings.h"
+#include "Tweak/Core/SettingKeys.h"
 
 #include "Tweak/Core/Names.h"
 
@@ -65,7 +66,7 @@ UIColor *color(NSString *key, NSString *defaultName) {
     return colorFrom(settings ? [settings objectForKey:key] : defaultName);
 }
 
-BOOL hide_per(NSString *identifier) { return isOnFor(identifier, @"hide_perapp"); }
-BOOL badge_per(NSString *identifier) { return isOnFor(identifier, @"badge_perapp"); }
+BOOL hide_per(NSString *identifier) { return isOnFor(identifier, keys::appHidden); }
+BOOL badge_per(NSString *identifier) { return isOnFor(identifier, keys::appWithoutMark); }
 
 } // namespace pendix

@@ -7,54 +7,56 @@
 
 namespace pendix {
 
-// Start-up (Core/Launch.mm).
-extern SpringBoard *Spring; // receiver of every added method when called from other classes' hooks
-extern UIWindow *window;    // the overlay; tags 21 and -1 from launch on, the panel while it is shown
-extern LSStatusBarItem *statusbaritem; // the indicator
-extern NSMutableArray *datas; // identifiers of applications with a badge, newest change first, no doubles
+// Start-up (Start/Launch.mm).
+inline SpringBoard *Spring = nil; // receiver of every added method when called from other classes' hooks
+inline UIWindow *window = nil;    // the overlay; tags 21 and -1 from launch on, the panel while it is shown
+inline LSStatusBarItem *statusbaritem = nil; // the indicator
+inline NSMutableArray *datas =
+    nil; // identifiers of applications with a badge, newest change first, no doubles
 
-// The watched settings as they were last applied (Core/SettingsPoll.mm).
-extern BOOL lastEnable;   // `enable`
-extern BOOL lastHide;     // `hide`
-extern BOOL lastTempor;   // `hide_t`
-extern BOOL lastSwitcher; // `badge`
+// The watched settings as they were last applied (Start/SettingsPoll.mm).
+inline BOOL lastEnable = NO;   // `enable`
+inline BOOL lastHide = NO;     // `hide`
+inline BOOL lastTempor = NO;   // `hide_t`
+inline BOOL lastSwitcher = NO; // `badge`
 
 // Badges and indicator (StatusBar/).
-extern UIWindow *window1;     // the status bar's window, stored before each look-up of the item view
-extern float badgeHeight;     // of the first home-screen badge view seen, in points; 0 until then
-extern BOOL needToPulse;      // a pulse runs
-extern float co;              // the alpha that the pulse computed last
-extern float per;             // its signed step
-extern float lastx;           // the item view's x when it was last seen
-extern BOOL lastReachability; // the Reachability state then
+inline UIWindow *window1 = nil;    // the status bar's window, stored before each look-up of the item view
+inline float badgeHeight = 0;      // of the first home-screen badge view seen, in points; 0 until then
+inline BOOL needToPulse = NO;      // a pulse runs
+inline float co = 0;               // the alpha that the pulse computed last
+inline float per = 0;              // its signed step
+inline float lastx = 0;            // the item view's x when it was last seen
+inline BOOL lastReachability = NO; // the Reachability state then
 
 // Panel, its layout in points.
-extern BOOL isShow;        // the panel is shown; a new build is refused meanwhile
-extern BOOL needPasscode;  // the panel must be unlocked before use
-extern BOOL requireFinger; // the fingerprint sensor's events count
-extern float gheight;      // the panel's height while its list shows
-extern float lastGheight;  // the same with cards; 0 without
-extern float lastHeight;   // with the Touch ID face
-extern float lastHeight1;  // with the keypad
-extern NSInteger pages;    // of the strip
-extern NSInteger last;     // the interface orientation, 1 to 4, that the panel follows
+inline BOOL isShow = NO;        // the panel is shown; a new build is refused meanwhile
+inline BOOL needPasscode = NO;  // the panel must be unlocked before use
+inline BOOL requireFinger = NO; // the fingerprint sensor's events count
+inline float gheight = 0;       // the panel's height while its list shows
+inline float lastGheight = 0;   // the same with cards; 0 without
+inline float lastHeight = 0;    // with the Touch ID face
+inline float lastHeight1 = 0;   // with the keypad
+inline NSInteger pages = 0;     // of the strip
+inline NSInteger last =
+    UIInterfaceOrientationPortrait; // the interface orientation, 1 to 4, that the panel follows
 
 // The clock on the panel: the moment at which it was set, and its hands' angles then in degrees.
-extern float ss, mm, hh;
-extern float lastRotation, lastRotation1, lastRotation2; // second, minute, hour
+inline float ss = 0, mm = 0, hh = 0;
+inline float lastRotation = 0, lastRotation1 = 0, lastRotation2 = 0; // second, minute, hour
 
 // Gestures on the panel.
-extern BOOL isEditing;     // close marks are shown
-extern BOOL isSliding;     // an application is being dragged off
-extern BOOL sliding;       // a drag has begun and not ended
-extern CGPoint startPoint; // of the drag, in the window
-extern CGPoint endPoint;
-extern float firstLocation;   // the dragged item's y when the drag began
-extern BOOL okay;             // every application has been quit through the switcher already
-extern NSString *openThisApp; // to open once the device is unlocked; "" for none; owned
+inline BOOL isEditing = NO;         // close marks are shown
+inline BOOL isSliding = NO;         // an application is being dragged off
+inline BOOL sliding = NO;           // a drag has begun and not ended
+inline CGPoint startPoint = {0, 0}; // of the drag, in the window
+inline CGPoint endPoint = {0, 0};
+inline float firstLocation = 0;     // the dragged item's y when the drag began
+inline BOOL okay = NO;              // every application has been quit through the switcher already
+inline NSString *openThisApp = @""; // to open once the device is unlocked; "" for none; owned
 
 // Triggers.
-extern BOOL locked; // the display is off: the poll and badge-driven changes of the item pause
+inline BOOL locked = NO; // the display is off: the poll and badge-driven changes of the item pause
 
 // Makes `datas`. The library's constructor calls it before anything else.
 void createBadgeList();

@@ -1,8 +1,8 @@
 // What the three lock faces are made of. Each is added to its parent, which alone retains it.
 #pragma once
 
-#include "Tweak/Core/LockFaces.h"
 #include "Tweak/Core/PanelAnchor.h"
+#include "Tweak/Lock/Lock.h"
 
 #include <UIKit/UIKit.h>
 

@@ -1,9 +1,9 @@
 // The fingerprint sensor for the panel's other parts, and the pace of the glyph's drawing.
 #include "Tweak/Core/AnimationDuration.h"
-#include "Tweak/Core/FingerMonitor.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Lock/Lock.h"
 #include "Tweak/Lock/PendixTouchIDController.h"
+#include "Tweak/Lock/Replacements.h"
 
 namespace pendix {
 
@@ -17,7 +17,5 @@ void hooked::setProgress(PKFingerprintGlyphView *self, SEL _cmd, double progress
     if (isShow && requireFinger) duration = animationDuration(kGlyphDrawing);
     original::setProgress(self, _cmd, progress, duration, index);
 }
-
-decltype(original::setProgress) original::setProgress = nullptr;
 
 } // namespace pendix

@@ -5,8 +5,8 @@
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Lock/FaceLayout.hpp"
 #include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/Lock.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
 
 #include <PassKit/PKGlyphView.h>
 

@@ -1,18 +1,19 @@
 // Entering a code, and what a wrong one looks like.
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/Sounds.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Lock/CodeEntry.hpp"
 #include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/Lock.h"
 #include "Tweak/Lock/Passcode.h"
+#include "Tweak/Lock/Replacements.h"
 #include "Tweak/Lock/Shake.hpp"
 #include "Tweak/Lock/SpringBoard+Lock.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
 
 namespace pendix {
 
@@ -58,7 +59,7 @@ void flash(UIView *key, UIColor *ink) {
 }
 
 void compareCode(SpringBoard *springBoard, UIView *keypad) {
-    if (matchesPasscode(enteredCode(keypad), setting(@"password"))) {
+    if (matchesPasscode(enteredCode(keypad), setting(keys::passcode))) {
         [springBoard unlockPendix:tags::keypadFace];
         return;
     }

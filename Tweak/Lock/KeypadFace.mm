@@ -1,14 +1,15 @@
 // The keypad, as it is built.
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Screen.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Lock/FaceLayout.hpp"
 #include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/Lock.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
 
 namespace pendix {
 
@@ -57,7 +58,7 @@ void placeKeyTexts(UIView *key, CGFloat scale) {
 }
 
 void addKeys(UIView *keypad, const LockFacesInput &input) {
-    const BOOL showsDigits = isOn(@"clear");
+    const BOOL showsDigits = isOn(keys::labelledKeys);
     for (int digit = 0; digit < 10; ++digit) {
         UIView *key = addRound(keypad, CGRectZero, keyOfDigit(digit), input.scheme);
         UITapGestureRecognizer *tap = [[UITapGestureRecognizer alloc] initWithTarget:input.springBoard

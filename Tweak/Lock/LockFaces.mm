@@ -1,7 +1,7 @@
-#include "Tweak/Core/LockFaces.h"
+#include "Tweak/Lock/Lock.h"
 
-#include "Tweak/Core/FingerMonitor.h"
 #include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
@@ -15,7 +15,7 @@ namespace pendix {
 namespace {
 
 Where currentWhere() {
-    NSString *where = textSetting(@"where");
+    NSString *where = textSetting(keys::lockMoment);
     if ([where length] == 0 || [where isEqualToString:@"every"]) return Where::everyOpening;
     return [where isEqualToString:@"lockscreen"] ? Where::deviceLocked : Where::displayOff;
 }
@@ -34,11 +34,11 @@ void armLock() {
     needPasscode = armedAtOpening(currentWhere(), needPasscode, passcodeLocked);
 }
 
-BOOL isLocked() { return needPasscode && isOn(@"pass") && isPasscode(setting(@"password")); }
+BOOL isLocked() { return needPasscode && isOn(keys::lockEnabled) && isPasscode(setting(keys::passcode)); }
 
 CGFloat addLockFaces(const LockFacesInput &input) {
     const BOOL sensor = [input.springBoard hasTouchID];
-    const OpeningFace opening = openingFace(sensor, isOn(@"touchid"), isOn(@"ask"));
+    const OpeningFace opening = openingFace(sensor, isOn(keys::unlocksByFinger), isOn(keys::asksFirst));
     input.strip.alpha = 0;
     input.dots.alpha = 0;
 

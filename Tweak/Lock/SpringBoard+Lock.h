@@ -7,6 +7,8 @@
 @interface SpringBoard (PendixLock)
 // Leaves the ask face for the keypad or the Touch ID face.
 - (void)unlockTap:(UIButton *)button;
+// The keypad's button: takes back the last digit; without one closes the panel.
+- (void)dismisPendixUIorDelete:(UIButton *)button;
 // A digit key. The fourth digit sets off the comparison.
 - (void)tapNumber:(UITapGestureRecognizer *)recognizer;
 // After a wrong code: says so, empties the dots and shakes them.

@@ -1,13 +1,14 @@
 // From one lock face to the next, and from the last one to the list.
 #include "Tweak/Core/AnimationDuration.h"
-#include "Tweak/Core/FingerMonitor.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Lock/FaceParts.h"
+#include "Tweak/Lock/Lock.h"
+#include "Tweak/Lock/Replacements.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
 
 namespace pendix {
@@ -30,7 +31,7 @@ void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSid
 
 // Cards stand higher than the strip that was built behind the lock.
 BOOL raiseCards() {
-    if (!isOn(@"ca")) return NO;
+    if (!isOn(keys::cards)) return NO;
     NSArray *items = itemViews();
     for (UIView *item in items) setY(item, 0);
     if ([items count] != 0) gheight = lastGheight;
@@ -64,7 +65,7 @@ void showList(SpringBoard *springBoard, int page, BOOL cards) {
 void added::unlockTap(SpringBoard *self, SEL, UIButton *button) {
     UIView *ask = button.superview;
     UIView *keypad = lockFace(tags::keypadFace), *finger = lockFace(tags::fingerFace), *panel = panelView();
-    const BOOL usesFinger = [self hasTouchID] && isOn(@"touchid");
+    const BOOL usesFinger = [self hasTouchID] && isOn(keys::unlocksByFinger);
     const CGFloat height = usesFinger ? lastHeight : lastHeight1;
     const CGRect frame = frameWithHeight(panel, height);
     [UIView animateWithDuration:animationDuration(kLeaveAsk)

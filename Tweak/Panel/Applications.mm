@@ -22,15 +22,14 @@ NSString *const kNeverListed[] = {@"com.apple.SiriViewService", @"com.apple.Prin
 NSArray *candidates(BOOL running) {
     if (!running) return [NSArray arrayWithArray:datas];
     SBAppSwitcherModel *switcher = [objc_getClass("SBAppSwitcherModel") sharedInstance];
-    NSArray *list = systemVersion() >= 8.0
-                        ? [switcher snapshotOfFlattenedArrayOfAppIdentifiersWhichIsOnlyTemporary]
-                        : [switcher identifiers];
+    NSArray *list = isEight() ? [switcher snapshotOfFlattenedArrayOfAppIdentifiersWhichIsOnlyTemporary]
+                              : [switcher identifiers];
     return [NSArray arrayWithArray:list];
 }
 
 NSString *foregroundIdentifier() {
     SBApplication *top = [(SpringBoard *)[UIApplication sharedApplication] _accessibilityTopDisplay];
-    SEL selector = systemVersion() >= 8.0 ? @selector(bundleIdentifier) : @selector(displayIdentifier);
+    SEL selector = isEight() ? @selector(bundleIdentifier) : @selector(displayIdentifier);
     return [top respondsToSelector:selector] ? identifierOf(top) : @"-";
 }
 
@@ -83,7 +82,7 @@ BOOL find(NSString *identifier, BOOL running, NSString *foreground, Placeholder 
           PanelApplication &result) {
     if (hide_per(identifier)) return NO;
     SBApplication *application = applicationOf(identifier);
-    if (running && systemVersion() < 8.0 && ![application isRunning]) return NO;
+    if (running && !isEight() && ![application isRunning]) return NO;
     SBIconView *iconView = iconViewOf(identifier);
     SBIcon *icon = [iconView icon];
     if (!icon || [[icon nodeIdentifier] isEqualToString:foreground]) return NO;

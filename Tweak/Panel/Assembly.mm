@@ -6,11 +6,12 @@
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Panel/Panel.h"
 
 namespace pendix {
 
@@ -86,7 +87,7 @@ void openPanel(PanelBuild &build) {
                                   .anchor = currentAnchor(reachabilityIsActive()),
                                   .height = static_cast<Real>(build.height)});
     build.bubble.alpha = place.bubbleAlpha;
-    BOOL blurs = isOn(@"blur");
+    BOOL blurs = isOn(keys::blursScreen);
     UIView *bubble = build.bubble, *panel = build.panel;
     [UIView animateWithDuration:animationDuration(kOpening)
         animations:^{

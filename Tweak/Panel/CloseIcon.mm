@@ -6,15 +6,17 @@
 #include "Tweak/Core/Geometry/StripLayout.hpp"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/CloseMarks.h"
+#include "Tweak/Panel/ItemState.h"
 #include "Tweak/Panel/NewUIScrollView.h"
 #include "Tweak/Panel/PanelBuild.h"
+#include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
 
 namespace pendix {
@@ -23,14 +25,11 @@ namespace {
 
 constexpr float kStep = 0.3f;     // seconds; collapsing, closing up and the empty text
 constexpr float kMarkFade = 0.5f; // seconds
-// Tells an item that is on its way out; closing it twice would quit its neighbour's place.
-NSString *const kClosing = @"closing";
 
 // The place on the strip that the item leaves free: a drag took it above or below.
 Rect restingFrame(UIView *item) {
     Rect frame = toRect(item.frame);
-    NSNumber *y = [item.layer valueForKey:kRestingY];
-    if (y) frame.y = [y floatValue];
+    frame.y = itemState::restingY(item);
     return frame;
 }
 
@@ -76,7 +75,7 @@ void updateDots(int count, int rows) {
 }
 
 void updateContent(int rows) {
-    BOOL paging = isOn(@"paging");
+    BOOL paging = isOn(keys::paging);
     NewUIScrollView *scroller = (NewUIScrollView *)strip();
     std::vector<Rect> cells = restingFrames(itemViews());
     if (paging) updateDots(static_cast<int>(cells.size()), rows);
@@ -108,7 +107,7 @@ void showEmptyText(BOOL running) {
 
 void finishClosing(NSString *identifier, int rows) {
     updateContent(rows);
-    BOOL running = isOn(@"badge");
+    BOOL running = isOn(keys::runningMode);
     if (!running) {
         clearBadge(identifier);
     } else if (!okay) {
@@ -139,8 +138,8 @@ void removeFromStrip(UIView *item, NSString *identifier) {
 
 void added::closeIcon(SpringBoard *, SEL, UIView *item) {
     isSliding = NO;
-    if (!item.superview || [[item.layer valueForKey:kClosing] boolValue]) return;
-    [item.layer setValue:[NSNumber numberWithBool:YES] forKey:kClosing];
+    if (!item.superview || itemState::isClosing(item)) return;
+    itemState::setClosing(item);
     NSString *identifier = [[item.layer.name copy] autorelease];
     [datas removeObject:identifier];
     [UIView animateWithDuration:animationDuration(kStep)

@@ -1,4 +1,4 @@
-#include "Tweak/Core/Replacements.h"
+#include "Tweak/Panel/Replacements.h"
 
 #include <cmath>
 

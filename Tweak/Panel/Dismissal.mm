@@ -1,15 +1,15 @@
 // Closing the panel back into the indicator.
 #include "Tweak/Core/AnimationDuration.h"
-#include "Tweak/Core/FingerMonitor.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
+#include "Tweak/Lock/Lock.h"
 #include "Tweak/Panel/Corners.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 

@@ -3,13 +3,14 @@
 #include "Tweak/Core/Geometry/StripLayout.hpp"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/CloseMarks.h"
+#include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
 
 namespace pendix {
@@ -88,8 +89,8 @@ void removePrompt() {
 
 void added::longPressEvent(SpringBoard *self, SEL, UILongPressGestureRecognizer *recognizer) {
     if (sliding || recognizer.state != UIGestureRecognizerStateBegan) return;
-    if (isOn(@"close")) isEditing = !isEditing;
-    BOOL running = isOn(@"badge");
+    if (isOn(keys::closeMarks)) isEditing = !isEditing;
+    BOOL running = isOn(keys::runningMode);
     float duration = animationDuration(kGrowing);
     for (UIView *item in itemViews()) {
         if (isEditing) {

@@ -1,8 +1,8 @@
 #include "Tweak/Core/AnimationDuration.h"
-#include "Tweak/Core/PanelOpening.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Panel/CloseMarks.h"
+#include "Tweak/Panel/Panel.h"
 
 namespace pendix {
 

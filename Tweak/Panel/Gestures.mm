@@ -1,15 +1,16 @@
 // Opening an application, and dragging one off the strip.
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Panel/ItemState.h"
 #include "Tweak/Panel/NewUIScrollView.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+
+#include <SpringBoard/SBLockScreen.h>
 
 namespace pendix {
-
-NSString *const kRestingY = @"restingY";
 
 namespace {
 
@@ -83,8 +84,7 @@ void added::swipeToClose(SpringBoard *self, SEL, UIPanGestureRecognizer *recogni
         startPoint = endPoint = location;
         firstLocation = static_cast<float>(item.frame.origin.y);
         // The first drag begins at rest; a later one may catch it on its way.
-        if (![item.layer valueForKey:kRestingY])
-            [item.layer setValue:[NSNumber numberWithFloat:firstLocation] forKey:kRestingY];
+        itemState::rememberRestingY(item);
         sliding = YES;
         break;
     case UIGestureRecognizerStateEnded:

@@ -3,9 +3,10 @@
 
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/ItemState.h"
+#include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
 
 namespace pendix {
@@ -61,7 +62,7 @@ void addSwipe(PanelBuild &build, UIView *itemView) {
     swipeController *delegate = [swipeController new];
     pan.delegate = delegate;
     // A recogniser does not retain its delegate; the item's layer keeps this one for as long as it lives.
-    [itemView.layer setValue:delegate forKey:@"swipeDelegate"];
+    itemState::keepDelegate(itemView, delegate);
     [itemView addGestureRecognizer:pan];
     [delegate release];
     [pan release];

@@ -2,10 +2,10 @@
 #include "Tweak/Panel/PanelBuild.h"
 
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
 
 namespace pendix {
 

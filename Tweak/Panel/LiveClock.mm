@@ -1,8 +1,8 @@
 #include "Tweak/Core/Geometry/HandAngles.hpp"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
 
 #include <math.h>
 

@@ -3,6 +3,7 @@
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/Tags.h"
 
@@ -11,7 +12,7 @@ namespace {
 constexpr float kDotDuration = 0.25f; // seconds
 
 void showPage(UIScrollView *strip) {
-    if (!pendix::isOn(@"paging") || strip.frame.size.width <= 0) return;
+    if (!pendix::isOn(pendix::keys::paging) || strip.frame.size.width <= 0) return;
     NSInteger page = static_cast<NSInteger>(strip.contentOffset.x / strip.frame.size.width);
     UIColor *ink = pendix::currentScheme().ink;
     float duration = pendix::animationDuration(kDotDuration);

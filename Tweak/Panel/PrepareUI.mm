@@ -1,20 +1,22 @@
 #include "Tweak/Panel/PanelBuild.h"
 
-#include "Tweak/Core/LockFaces.h"
+#include "Tweak/Core/Names.h"
 #include "Tweak/Core/PanelAnchor.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Screen.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Lock/Lock.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
 
 namespace pendix {
 
 namespace {
 
-NSString *const kCloseImage = @"/Library/Application Support/Pendix/close@2x.png";
+NSString *const kCloseImage = @"close@2x.png";
 
 // A closing that has not finished when the next opening begins leaves views behind.
 void removeLeftovers() {
@@ -27,11 +29,11 @@ PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
     build.springBoard = springBoard;
     build.item = item;
     build.scheme = currentScheme();
-    build.running = isOn(@"badge");
-    build.paging = isOn(@"paging");
-    build.cards = isOn(@"ca");
-    build.closeMarks = isOn(@"close");
-    build.closeImage = [[UIImage imageWithContentsOfFile:kCloseImage]
+    build.running = isOn(keys::runningMode);
+    build.paging = isOn(keys::paging);
+    build.cards = isOn(keys::cards);
+    build.closeMarks = isOn(keys::closeMarks);
+    build.closeImage = [[UIImage imageWithContentsOfFile:names::supportFile(kCloseImage)]
         imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
     build.badgeTexts = [NSMutableDictionary dictionary];
     build.screen = portraitScreenBounds().size;

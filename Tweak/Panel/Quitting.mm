@@ -3,6 +3,7 @@
 
 #include "Tweak/Core/Applications.h"
 #include "Tweak/Core/Screen.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 
@@ -45,14 +46,14 @@ void quitByProcess(NSString *identifier) {
 } // namespace
 
 void quitThroughSwitcher() {
-    if (systemVersion() < 8.0 || !isOn(@"badge")) return;
+    if (!isEight() || !isOn(keys::runningMode)) return;
     okay = YES;
     for (SBDisplayLayout *layout in recentLayouts())
         if (NSString *identifier = identifierOfLayout(layout)) quitLayout(layout, identifier);
 }
 
 void quit(NSString *identifier) {
-    if (systemVersion() < 8.0) {
+    if (!isEight()) {
         quitByProcess(identifier);
         return;
     }

@@ -1,12 +1,12 @@
 #include "Tweak/Core/AnimationDuration.h"
-#include "Tweak/Core/LockFaces.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Lock/Lock.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
 
 #include <math.h>
 

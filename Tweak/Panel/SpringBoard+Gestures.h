@@ -21,9 +21,3 @@
 - (void)okay;
 - (void)dismissRequest;
 @end
-
-namespace pendix {
-// Key of a value of an item's layer: the y at which the item lay when its first drag began, an NSNumber; none
-// before the first.
-extern NSString *const kRestingY;
-} // namespace pendix

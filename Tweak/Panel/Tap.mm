@@ -1,13 +1,12 @@
 // Bringing the panel up.
 #include "Tweak/Core/AnimationDuration.h"
-#include "Tweak/Core/PanelOpening.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Scheme.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
-#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/Replacements.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 
@@ -19,7 +18,7 @@ constexpr CGFloat kDimmedItems = 0.3;
 
 UIColor *dimming() {
     constexpr CGFloat kBarely = 0.01, kStrong = 0.7;
-    if (isOn(@"back")) return [UIColor colorWithWhite:0 alpha:kBarely];
+    if (isOn(keys::clearBackground)) return [UIColor colorWithWhite:0 alpha:kBarely];
     return [UIColor colorWithWhite:currentScheme().light ? 0 : 1 alpha:kStrong];
 }
 
@@ -52,7 +51,7 @@ void bringUpPanel(SpringBoard *self) {
 }
 
 void added::tap(SpringBoard *self, SEL) {
-    if (isOn(@"enable")) bringUpPanel(self);
+    if (isOn(keys::enabled)) bringUpPanel(self);
 }
 
 } // namespace pendix

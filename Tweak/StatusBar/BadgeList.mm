@@ -1,9 +1,9 @@
 #include "Tweak/Core/Applications.h"
-#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
-#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+#include "Tweak/StatusBar/Replacements.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 
@@ -30,12 +30,12 @@ void listFolder(SBFolderIcon *folderIcon) {
 
 // The indicator shows only while there are badges, and pulses while there are, where the settings say so.
 void followBadges() {
-    if (locked || !isOn(@"enable") || isOn(@"badge") || isOn(@"hide")) return;
-    if (isOn(@"hide_t")) statusbaritem.visible = [Spring checkBadges];
-    if (!isOn(@"glow")) {
+    if (locked || !isOn(keys::enabled) || isOn(keys::runningMode) || isOn(keys::hidesIndicator)) return;
+    if (isOn(keys::hidesWithoutBadges)) statusbaritem.visible = [Spring checkBadges];
+    if (!isOn(keys::pulses)) {
         if (needToPulse) [Spring removePulse];
     } else if ([Spring checkBadges]) {
-        [Spring makePulse:color(@"tint", @"clear")];
+        [Spring makePulse:color(keys::pulseColor, @"clear")];
     } else {
         [Spring removePulse];
     }
@@ -59,14 +59,12 @@ void hooked::resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image)
 }
 
 BOOL added::checkBadges(SpringBoard *, SEL) {
-    if (locked || isOn(@"badge")) return NO;
+    if (locked || isOn(keys::runningMode)) return NO;
     NSMutableArray *hidden = [NSMutableArray array];
     for (NSString *identifier in datas)
         if (hide_per(identifier)) [hidden addObject:identifier];
     [datas removeObjectsInArray:hidden];
     return [datas count] != 0;
 }
-
-decltype(original::resizeForTextImage) original::resizeForTextImage = nullptr;
 
 } // namespace pendix

@@ -1,11 +1,10 @@
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelAnchor.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
-#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+#include "Tweak/StatusBar/Replacements.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 

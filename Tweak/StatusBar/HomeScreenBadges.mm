@@ -2,17 +2,19 @@
 // its application is open.
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/Applications.h"
+#include "Tweak/Core/Names.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/Support/UIImage+AverageColor.h"
 #include "Tweak/Core/Tags.h"
+#include "Tweak/StatusBar/Replacements.h"
 
 namespace pendix {
 
 namespace {
 
-NSString *const kMarkImage = @"/Library/Application Support/Pendix/pendixMiniNotification.png";
+NSString *const kMarkImage = @"pendixMiniNotification.png";
 
 constexpr float kFade = 0.2f;     // seconds, when a badge changes and when the application opens
 constexpr float kFadeBack = 0.5f; // when the application is left
@@ -24,18 +26,20 @@ void fade(UIView *mark, CGFloat alpha, float seconds) {
 }
 
 BOOL wantsMark(SBIcon *icon) {
-    return !badge_per([icon nodeIdentifier]) && isOn(@"b") && isOn(@"enable") && isOn(@"newb");
+    return !badge_per([icon nodeIdentifier]) && isOn(keys::hidesBadges) && isOn(keys::enabled) &&
+           isOn(keys::showsMarks);
 }
 
 void addMark(SBIconView *iconView) {
     SBIconImageView *iconImage = [iconView _iconImageView];
-    UIImage *image = [UIImage imageWithContentsOfFile:kMarkImage];
+    UIImage *image = [UIImage imageWithContentsOfFile:names::supportFile(kMarkImage)];
     CGRect corner = iconImage.frame;
     UIImageView *mark =
         [[UIImageView alloc] initWithFrame:CGRectMake(corner.size.width - image.size.width, corner.origin.y,
                                                       image.size.width, image.size.height)];
     mark.image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    mark.tintColor = isOn(@"auto") ? [[iconImage contentsImage] mergedColor] : color(@"colors", @"red");
+    mark.tintColor = isOn(keys::marksTakeIconColor) ? [[iconImage contentsImage] mergedColor]
+                                                    : color(keys::markColor, @"red");
     mark.tag = tags::iconMark;
     [iconView addSubview:mark];
     [mark release];
@@ -59,7 +63,7 @@ UIView *markOfApplication(SBApplication *application) {
 // Badge views that are there already stay as they are until they are made again.
 id hooked::initBadgeView(SBIconBadgeView *self, SEL _cmd) {
     SBIconBadgeView *view = original::initBadgeView(self, _cmd);
-    if (view && isOn(@"b") && isOn(@"enable")) view.hidden = YES;
+    if (view && isOn(keys::hidesBadges) && isOn(keys::enabled)) view.hidden = YES;
     return view;
 }
 
@@ -88,10 +92,5 @@ void hooked::willAnimateDeactivation(SBApplication *self, SEL _cmd, BOOL animate
     original::willAnimateDeactivation(self, _cmd, animated);
     fade(markOfApplication(self), 1, kFadeBack);
 }
-
-decltype(original::initBadgeView) original::initBadgeView = nullptr;
-decltype(original::updateAccessoryView) original::updateAccessoryView = nullptr;
-decltype(original::willActivate) original::willActivate = nullptr;
-decltype(original::willAnimateDeactivation) original::willAnimateDeactivation = nullptr;
 
 } // namespace pendix

@@ -1,8 +1,7 @@
 #include "Tweak/Core/Names.h"
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
+#include "Tweak/StatusBar/Replacements.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 
@@ -58,9 +57,5 @@ void hooked::setUserInteractionEnabled(UIStatusBarItemView *self, SEL _cmd, BOOL
 
 // Otherwise the bar would keep touches for its own "scroll to top".
 BOOL hooked::touchShouldProduceReturnEvent(UIStatusBar *, SEL) { return YES; }
-
-decltype(original::initWithItem) original::initWithItem = nullptr;
-decltype(original::setUserInteractionEnabled) original::setUserInteractionEnabled = nullptr;
-decltype(original::touchShouldProduceReturnEvent) original::touchShouldProduceReturnEvent = nullptr;
 
 } // namespace pendix

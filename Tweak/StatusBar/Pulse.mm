@@ -1,10 +1,10 @@
 #include "Tweak/StatusBar/PulseStep.hpp"
 
-#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
-#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+#include "Tweak/StatusBar/Replacements.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 
@@ -24,7 +24,7 @@ void setGlow(UIView *view, UIColor *color) {
 } // namespace
 
 void added::makePulse(SpringBoard *self, SEL, UIColor *color) {
-    if (needToPulse || !isOn(@"glow") || isOn(@"hide")) return;
+    if (needToPulse || !isOn(keys::pulses) || isOn(keys::hidesIndicator)) return;
     window1 = [[UIApplication sharedApplication] statusBarWindow];
     UIView *view = window1 ? [self pendix] : nil;
     if (!view) return;
@@ -49,7 +49,7 @@ void added::pulse(SpringBoard *self, SEL, NSTimer *timer) {
         return;
     }
     // A status bar that changed its style has dropped the glow.
-    if (view.layer.shadowOpacity != kGlowOpacity) setGlow(view, pendix::color(@"tint", @"clear"));
+    if (view.layer.shadowOpacity != kGlowOpacity) setGlow(view, pendix::color(keys::pulseColor, @"clear"));
     PulseStep step = nextPulseStep(static_cast<float>(view.alpha), per);
     co = step.alpha;
     per = step.step;

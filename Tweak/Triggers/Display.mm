@@ -1,26 +1,28 @@
 // The display's turning off and on, and the unlocking of the lock screen.
-#include "Tweak/Core/Replacements.h"
 #include "Tweak/Core/Screen.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
-#include "Tweak/StatusBar/SpringBoard+Pulse.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/StatusBar/StatusBar.h"
+#include "Tweak/Triggers/Replacements.h"
 
 namespace pendix {
 
 namespace {
 
 // Whether the indicator may show and pulse for badges.
-BOOL followsBadges() { return isOn(@"enable") && !isOn(@"badge") && !isOn(@"hide"); }
+BOOL followsBadges() {
+    return isOn(keys::enabled) && !isOn(keys::runningMode) && !isOn(keys::hidesIndicator);
+}
 
 void goDark() {
     locked = YES;
     // A pulse also ends when `glow` was turned off while it ran.
-    if (needToPulse || (followsBadges() && isOn(@"glow"))) [Spring removePulse];
+    if (needToPulse || (followsBadges() && isOn(keys::pulses))) [Spring removePulse];
     [openThisApp release];
     openThisApp = @"";
-    if ([@"everyoff" isEqual:setting(@"where")]) needPasscode = YES;
+    if ([@"everyoff" isEqual:setting(keys::lockMoment)]) needPasscode = YES;
     if (isShow) [Spring dismisPendixUI];
 }
 
@@ -28,8 +30,8 @@ void wake() {
     locked = NO;
     if (!followsBadges()) return;
     // Badges that came in the dark have not moved the indicator.
-    if (isOn(@"hide_t")) statusbaritem.visible = [Spring checkBadges];
-    if (isOn(@"glow") && [Spring checkBadges]) [Spring makePulse:color(@"tint", @"clear")];
+    if (isOn(keys::hidesWithoutBadges)) statusbaritem.visible = [Spring checkBadges];
+    if (isOn(keys::pulses) && [Spring checkBadges]) [Spring makePulse:color(keys::pulseColor, @"clear")];
 }
 
 } // namespace
@@ -41,10 +43,8 @@ void hooked::handleDisplayTurnedOff(SBLockScreenViewController *self, SEL _cmd) 
 
 // Where the form with a reason exists, that one does the work. On 8.0 it does not exist yet.
 void hooked::handleDisplayTurnedOn(SBLockScreenViewController *self, SEL _cmd) {
-    constexpr float kFirstWithReason = 8.0f;
     original::handleDisplayTurnedOn(self, _cmd);
-    if (systemVersion() >= kFirstWithReason && [self respondsToSelector:@selector(_handleDisplayTurnedOn:)])
-        return;
+    if (isEight() && [self respondsToSelector:@selector(_handleDisplayTurnedOn:)]) return;
     wake();
 }
 
@@ -62,10 +62,5 @@ void hooked::prepareForUIUnlock(SBLockScreenViewController *self, SEL _cmd) {
     openThisApp = @"";
     [[UIApplication sharedApplication] launchApplicationWithIdentifier:identifier suspended:NO];
 }
-
-decltype(original::handleDisplayTurnedOff) original::handleDisplayTurnedOff = nullptr;
-decltype(original::handleDisplayTurnedOn) original::handleDisplayTurnedOn = nullptr;
-decltype(original::handleDisplayTurnedOnWithReason) original::handleDisplayTurnedOnWithReason = nullptr;
-decltype(original::prepareForUIUnlock) original::prepareForUIUnlock = nullptr;
 
 } // namespace pendix

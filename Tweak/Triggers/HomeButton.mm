@@ -1,9 +1,9 @@
 // The home button, banners, and windows over the lock screen.
-#include "Tweak/Core/PanelOpening.h"
-#include "Tweak/Core/Replacements.h"
+#include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/Triggers/Replacements.h"
 #include "Tweak/Triggers/SBUIController+Editing.h"
 #include "Tweak/Triggers/ShowPanel.h"
 
@@ -33,7 +33,7 @@ BOOL hooked::handleMenuDoubleTap(SBUIController *self, SEL _cmd) {
         [Spring dismisPendixUI];
         return YES;
     }
-    if (isOn(@"badge") && isOn(@"enable") && showPanel()) return YES;
+    if (isOn(keys::runningMode) && isOn(keys::enabled) && showPanel()) return YES;
     return original::handleMenuDoubleTap(self, _cmd);
 }
 
@@ -45,10 +45,5 @@ void hooked::presentBannerForContext(SBBannerController *self, SEL _cmd, id cont
 
 // Without it the panel would not be seen over the lock screen.
 BOOL hooked::shouldCreateContextAsSecure(UIWindow *, SEL) { return YES; }
-
-decltype(original::clickedMenuButton) original::clickedMenuButton = nullptr;
-decltype(original::handleMenuDoubleTap) original::handleMenuDoubleTap = nullptr;
-decltype(original::presentBannerForContext) original::presentBannerForContext = nullptr;
-decltype(original::shouldCreateContextAsSecure) original::shouldCreateContextAsSecure = nullptr;
 
 } // namespace pendix

@@ -1,10 +1,11 @@
-#include "Tweak/Core/QLActivatorListener.h"
+#include "Tweak/Triggers/QLActivatorListener.h"
 
 #include "Tweak/Core/Names.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Translator.h"
-#include "Tweak/Panel/SpringBoard+Panel.h"
+#include "Tweak/Panel/Panel.h"
 #include "Tweak/Triggers/ShowPanel.h"
+#include "Tweak/Triggers/Triggers.h"
 
 #include <UIKit/UIImage.h>
 
@@ -51,3 +52,10 @@
 }
 
 @end
+
+void pendix::registerListener() {
+    QLActivatorListener *listener = [QLActivatorListener new];
+    [[objc_getClass("LAActivator") sharedInstance] registerListener:listener
+                                                            forName:names::activatorListener];
+    [listener release];
+}

@@ -1,8 +1,8 @@
 #include "Tweak/Triggers/ShowPanel.h"
 
-#include "Tweak/Core/PanelOpening.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/StatusBar/SpringBoard+Badges.h"
+#include "Tweak/Panel/Panel.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 

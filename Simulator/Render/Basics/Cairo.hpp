@@ -1,8 +1,8 @@
 // cairo's objects with owners, and our values in its terms.
 #pragma once
 
-#include "../Bitmap.hpp"
-#include "../Geometry.hpp"
+#include "Render/Bitmap.hpp"
+#include "Render/Geometry.hpp"
 
 #include <cairo.h>
 

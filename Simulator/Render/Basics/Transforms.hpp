@@ -1,7 +1,7 @@
 // Sums with affine transforms and with whole pixels.
 #pragma once
 
-#include "../Geometry.hpp"
+#include "Render/Geometry.hpp"
 
 #include <optional>
 

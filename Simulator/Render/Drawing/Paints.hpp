@@ -1,8 +1,8 @@
 // What areas are filled with.
 #pragma once
 
-#include "../Basics/Cairo.hpp"
-#include "../DisplayList.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/DisplayList.hpp"
 
 namespace render {
 

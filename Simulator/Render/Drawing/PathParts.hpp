@@ -1,7 +1,7 @@
 // Lengths along paths.
 #pragma once
 
-#include "../Geometry.hpp"
+#include "Render/Geometry.hpp"
 
 namespace render {
 

@@ -1,7 +1,7 @@
 #include "Shadows.hpp"
 
-#include "../Basics/Transforms.hpp"
 #include "PathParts.hpp"
+#include "Render/Basics/Transforms.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -1,10 +1,10 @@
 // Blurred outlines. A shadow's radius is the spread (sigma) of its blur, as on the platform.
 #pragma once
 
-#include "../Basics/Cache.hpp"
-#include "../Basics/Cairo.hpp"
-#include "../DisplayList.hpp"
 #include "Blur.hpp"
+#include "Render/Basics/Cache.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/DisplayList.hpp"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #include "Shapes.hpp"
 
-#include "../Basics/Transforms.hpp"
 #include "PathParts.hpp"
+#include "Render/Basics/Transforms.hpp"
 
 #include <algorithm>
 

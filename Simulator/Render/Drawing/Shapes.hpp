@@ -1,8 +1,8 @@
 // Outlines, filled and stroked.
 #pragma once
 
-#include "../Basics/Cairo.hpp"
-#include "../DisplayList.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/DisplayList.hpp"
 
 namespace render {
 

@@ -1,6 +1,6 @@
 #include "Compositor.hpp"
 
-#include "../Basics/Transforms.hpp"
+#include "Render/Basics/Transforms.hpp"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
 // Keeps the picture of one screen and paints what changes from frame to frame.
 #pragma once
 
-#include "../DisplayList.hpp"
 #include "Changes.hpp"
 #include "Painter.hpp"
+#include "Render/DisplayList.hpp"
 
 namespace render {
 

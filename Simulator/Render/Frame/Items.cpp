@@ -1,10 +1,10 @@
 #include "Items.hpp"
 
-#include "../Basics/Transforms.hpp"
-#include "../Drawing/Paints.hpp"
-#include "../Drawing/PathParts.hpp"
-#include "../Drawing/Shapes.hpp"
-#include "../Text/TextMask.hpp"
+#include "Render/Basics/Transforms.hpp"
+#include "Render/Drawing/Paints.hpp"
+#include "Render/Drawing/PathParts.hpp"
+#include "Render/Drawing/Shapes.hpp"
+#include "Render/Text/TextMask.hpp"
 
 namespace render {
 

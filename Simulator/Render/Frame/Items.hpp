@@ -1,9 +1,9 @@
 // A display list laid out flat, in the order of painting, with where everything falls on the screen.
 #pragma once
 
-#include "../DisplayList.hpp"
-#include "../Drawing/Shadows.hpp"
 #include "MaterialSource.hpp"
+#include "Render/DisplayList.hpp"
+#include "Render/Drawing/Shadows.hpp"
 
 #include <span>
 

@@ -1,9 +1,9 @@
 // The arithmetic of translucent materials.
 #pragma once
 
-#include "../Bitmap.hpp"
-#include "../DisplayList.hpp"
-#include "../Drawing/Blur.hpp"
+#include "Render/Bitmap.hpp"
+#include "Render/DisplayList.hpp"
+#include "Render/Drawing/Blur.hpp"
 
 namespace render {
 

@@ -3,8 +3,8 @@
 // leaves what is known of it valid.
 #pragma once
 
-#include "../Basics/Cairo.hpp"
 #include "Material.hpp"
+#include "Render/Basics/Cairo.hpp"
 #include "TileGrid.hpp"
 
 #include <functional>

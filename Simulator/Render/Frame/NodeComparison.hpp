@@ -1,7 +1,7 @@
 // Which parts of two nodes are equal.
 #pragma once
 
-#include "../DisplayList.hpp"
+#include "Render/DisplayList.hpp"
 
 namespace render {
 

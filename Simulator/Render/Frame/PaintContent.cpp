@@ -1,8 +1,8 @@
 // What a painter draws of one item by itself.
-#include "../Basics/Transforms.hpp"
-#include "../Drawing/Paints.hpp"
-#include "../Drawing/Shapes.hpp"
 #include "Painter.hpp"
+#include "Render/Basics/Transforms.hpp"
+#include "Render/Drawing/Paints.hpp"
+#include "Render/Drawing/Shapes.hpp"
 
 #include <algorithm>
 #include <cmath>

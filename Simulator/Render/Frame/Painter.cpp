@@ -1,7 +1,7 @@
 #include "Painter.hpp"
 
-#include "../Basics/Transforms.hpp"
-#include "../Drawing/Paints.hpp"
+#include "Render/Basics/Transforms.hpp"
+#include "Render/Drawing/Paints.hpp"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // Paints items onto a surface.
 #pragma once
 
-#include "../Pictures/Images.hpp"
-#include "../Text/TextMask.hpp"
 #include "Items.hpp"
+#include "Render/Pictures/Images.hpp"
+#include "Render/Text/TextMask.hpp"
 
 #include <functional>
 

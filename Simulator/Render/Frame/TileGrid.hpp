@@ -2,7 +2,7 @@
 // so its pixels do not depend on what else is painted, nor on when.
 #pragma once
 
-#include "../Basics/Transforms.hpp"
+#include "Render/Basics/Transforms.hpp"
 
 namespace render {
 

@@ -1,6 +1,6 @@
 #include "Images.hpp"
 
-#include "../Basics/Transforms.hpp"
+#include "Render/Basics/Transforms.hpp"
 #include "Resize.hpp"
 
 #include <algorithm>

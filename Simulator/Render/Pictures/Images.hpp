@@ -1,9 +1,9 @@
 // Bitmaps made ready for where they go: resized by their caps, tinted, shrunk.
 #pragma once
 
-#include "../Basics/Cache.hpp"
-#include "../Basics/Cairo.hpp"
-#include "../DisplayList.hpp"
+#include "Render/Basics/Cache.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/DisplayList.hpp"
 
 namespace render {
 

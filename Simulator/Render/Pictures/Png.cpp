@@ -1,4 +1,4 @@
-#include "../Basics/Cairo.hpp"
+#include "Render/Basics/Cairo.hpp"
 
 #include <algorithm>
 #include <cstring>

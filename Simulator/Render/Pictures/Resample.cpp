@@ -1,6 +1,6 @@
 // Copying and stretching bitmaps pixel by pixel, outside of any scene.
-#include "../Basics/Transforms.hpp"
-#include "../Renderer.hpp"
+#include "Render/Basics/Transforms.hpp"
+#include "Render/Renderer.hpp"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // New bitmaps from old ones.
 #pragma once
 
-#include "../Bitmap.hpp"
-#include "../Geometry.hpp"
+#include "Render/Bitmap.hpp"
+#include "Render/Geometry.hpp"
 
 namespace render {
 

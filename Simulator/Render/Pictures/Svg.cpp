@@ -1,5 +1,5 @@
-#include "../Basics/Cairo.hpp"
-#include "../Text/Fonts.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/Text/Fonts.hpp"
 
 #include <librsvg/rsvg.h>
 

@@ -1,7 +1,7 @@
 // The faces of the simulated device, each from one file.
 #pragma once
 
-#include "../Text.hpp"
+#include "Render/Text.hpp"
 
 #include <pango/pango.h>
 

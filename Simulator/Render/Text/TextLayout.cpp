@@ -1,7 +1,7 @@
 #include "TextLayout.hpp"
 
-#include "../Basics/Cache.hpp"
 #include "Fonts.hpp"
+#include "Render/Basics/Cache.hpp"
 
 #include <algorithm>
 #include <cmath>

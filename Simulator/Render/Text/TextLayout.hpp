@@ -1,8 +1,8 @@
 // Lines of text, broken and cut short as a style says.
 #pragma once
 
-#include "../Basics/Cairo.hpp"
-#include "../Text.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/Text.hpp"
 
 #include <pango/pango.h>
 

@@ -1,6 +1,6 @@
 #include "TextMask.hpp"
 
-#include "../Basics/Transforms.hpp"
+#include "Render/Basics/Transforms.hpp"
 #include "TextLayout.hpp"
 
 #include <pango/pangocairo.h>

@@ -1,9 +1,9 @@
 // Text as a stencil of alpha, ready to be painted through.
 #pragma once
 
-#include "../Basics/Cache.hpp"
-#include "../Basics/Cairo.hpp"
-#include "../DisplayList.hpp"
+#include "Render/Basics/Cache.hpp"
+#include "Render/Basics/Cairo.hpp"
+#include "Render/DisplayList.hpp"
 
 namespace render {
 

@@ -1,5 +1,5 @@
 // Every rule is real: it fires when the home screen is broken in just that way, and is silent when it is not.
-#include "Device/Monkey/Watcher.hpp"
+#include "Tools/Monkey/Watcher.hpp"
 
 #include <gtest/gtest.h>
 

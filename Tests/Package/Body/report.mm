@@ -1,6 +1,6 @@
 // Tells what the simulated body is made of, for comparison with the slices of the device's: the hook table,
 // and the methods of the classes named as arguments, one a line, fields separated by tabs.
-#include "Tweak/Core/HookTable.h"
+#include "Tweak/Start/HookTable.h"
 
 #import <Foundation/Foundation.h>
 

@@ -1,0 +1,17 @@
+// pendix-home: the home-screen process of a simulated device. Started by the supervisor, with the files that
+// Descriptors.hpp names.
+#import <Foundation/Foundation.h>
+
+#include "Process/Shared/ProcessStart.h"
+#include "Process/Shared/Session.hpp"
+#include "Runtime/Process/Crash.hpp"
+#include "Supervisor/Protocol/Descriptors.hpp"
+
+int main() {
+    sim::startProcess();
+    sim::installCrashHandler(sim::kCrashDescriptor);
+    @autoreleasepool {
+        sim::serve();
+    }
+    return 0;
+}

@@ -1,0 +1,66 @@
+#include "EventList.hpp"
+
+#include "Supervisor/Text/Readable.hpp"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace sim {
+
+void EventList::add(double seconds, const char *kind, Object fields) {
+    fields.insert_or_assign("t", seconds);
+    fields.insert_or_assign("kind", kind);
+    events_.emplace_back(std::move(fields));
+}
+
+Array EventList::ofKind(const std::string &kind) const {
+    Array result;
+    for (const auto &event : events_)
+        if (event["kind"].string() == kind) result.push_back(event);
+    return result;
+}
+
+Array EventList::since(size_t first) const {
+    first = std::min(first, events_.size());
+    return {events_.begin() + static_cast<Array::difference_type>(first), events_.end()};
+}
+
+Array EventList::log() const {
+    Array result;
+    for (const auto &event : events_)
+        if (event["kind"].string() == "log") result.push_back(event["text"]);
+    return result;
+}
+
+std::string EventList::tail(size_t count) const {
+    std::string result;
+    for (size_t i = events_.size() > count ? events_.size() - count : 0; i < events_.size(); ++i) {
+        Object fields = events_[i].object();
+        char start[80];
+        snprintf(start, sizeof start, "%12.6f  %s", fields["t"].number(), fields["kind"].string().c_str());
+        fields.erase("t");
+        fields.erase("kind");
+        result += start;
+        for (const auto &[name, value] : fields) result += "  " + name + " = " + readable(value);
+        result += '\n';
+    }
+    return result;
+}
+
+const std::vector<std::string> &eventKinds() {
+    static const std::vector<std::string> kinds = {
+        "log",      "launch",   "quit",     "signal",       "badge_set",    "notifications_cancelled",
+        "sound",    "respring", "listener", "statusbar",    "biometric",    "passcode_prompt",
+        "original", "tweet",    "crash",    "unrecognized", "missing_file", "activator_settings",
+        "warning"};
+    return kinds;
+}
+
+const std::vector<std::string> &eventFields() {
+    static const std::vector<std::string> fields = {
+        "t",    "kind",  "text",     "id",   "how",      "pid",   "number", "value",   "name",
+        "what", "class", "selector", "path", "property", "stack", "signal", "listener"};
+    return fields;
+}
+
+} // namespace sim

@@ -1,0 +1,83 @@
+#include "Conversion.hpp"
+#include "Supervisor/Machine/ViewDump.hpp"
+#include "Supervisor/Text/Suggest.hpp"
+#include "ViewTable.hpp"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace sim {
+
+namespace {
+
+const RecordKind kQuery{"query", {"window", "tag", "class", "name", "text", "inside", "parent", "visible"}};
+
+const std::vector<std::string> kWindows = {"overlay", "statusbar", "home", "lock", "alert", "app"};
+
+void checkWindow(const std::string &window) {
+    if (!std::ranges::count(kWindows, window))
+        throw std::runtime_error("there is no window '" + window + "'" + suggestion(window, kWindows));
+}
+
+Value criterion(lua_State *lua, const std::string &name, const Phone &phone) {
+    if (name == "inside" || name == "parent") return viewNumber(lua, -1, phone);
+    if (name == "tag") return wholeNumber(lua, -1, "'tag'");
+    if (name == "visible") {
+        if (!lua_isboolean(lua, -1)) throw std::runtime_error("'visible' must be true or false");
+        return lua_toboolean(lua, -1) != 0;
+    }
+    std::string value = text(lua, -1, ("'" + name + "'").c_str());
+    if (name == "window") checkWindow(value);
+    return value;
+}
+
+// The table of criteria as the home screen takes it.
+Object query(lua_State *lua, const Phone &phone) {
+    if (!lua_istable(lua, 2)) throw std::runtime_error("a query is a table, not " + describe(lua, 2));
+    Object result;
+    for (lua_pushnil(lua); lua_next(lua, 2); lua_pop(lua, 1)) {
+        if (lua_type(lua, -2) != LUA_TSTRING)
+            throw std::runtime_error("a query has names for what it asks, not " + describe(lua, -2));
+        std::string name = lua_tostring(lua, -2);
+        checkField(kQuery, name);
+        result.emplace(name, criterion(lua, name, phone));
+    }
+    return result;
+}
+
+int find(lua_State *lua, Phone &phone, Script &) {
+    Object criteria = query(lua, phone);
+    pushFirstView(lua, phone, phone.device.ask("find", {{"query", criteria}, {"first", true}}));
+    return 1;
+}
+
+int all(lua_State *lua, Phone &phone, Script &) {
+    pushViews(lua, phone, phone.device.ask("find", {{"query", query(lua, phone)}}));
+    return 1;
+}
+
+int again(lua_State *lua, Phone &phone, Script &) {
+    pushFirstView(lua, phone, phone.device.ask("view", {{"view", viewNumber(lua, 2, phone)}}));
+    return 1;
+}
+
+int dump(lua_State *lua, Phone &phone, Script &) {
+    Object arguments;
+    if (!lua_isnoneornil(lua, 2)) {
+        std::string window = text(lua, 2, "the window");
+        checkWindow(window);
+        arguments.emplace("window", window);
+    }
+    lua_pushstring(lua, viewDump(phone.device.ask("windows", std::move(arguments))).c_str());
+    return 1;
+}
+
+} // namespace
+
+std::span<const Method> lookingMethods() {
+    static const Method methods[] = {
+        {"find", 1, find}, {"all", 1, all}, {"again", 1, again}, {"dump", 1, dump}};
+    return methods;
+}
+
+} // namespace sim

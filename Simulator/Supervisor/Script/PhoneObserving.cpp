@@ -1,0 +1,98 @@
+#include "Conversion.hpp"
+#include "Phone.hpp"
+#include "Record.hpp"
+#include "Supervisor/Machine/FilmStrip.hpp"
+#include "Supervisor/Machine/Nanoseconds.hpp"
+#include "Supervisor/Text/Suggest.hpp"
+
+#include <algorithm>
+#include <fstream>
+#include <stdexcept>
+
+namespace sim {
+
+namespace {
+
+const RecordKind &eventKind() {
+    static const RecordKind kind{"event", eventFields()};
+    return kind;
+}
+
+const RecordKind kCounters{
+    "counter",
+    {"settings_reads", "settings_writes", "timers", "windows", "views", "blocks", "observers", "live"}};
+
+int log(lua_State *lua, Phone &phone, Script &) {
+    push(lua, phone.device.events().log());
+    return 1;
+}
+
+int events(lua_State *lua, Phone &phone, Script &) {
+    if (lua_isnoneornil(lua, 2)) {
+        pushRecords(lua, eventKind(), phone.device.events().all());
+        return 1;
+    }
+    std::string kind = text(lua, 2, "the kind of event");
+    if (!std::ranges::count(eventKinds(), kind))
+        throw std::runtime_error("there is no event of kind '" + kind + "'" + suggestion(kind, eventKinds()));
+    pushRecords(lua, eventKind(), phone.device.events().ofKind(kind));
+    return 1;
+}
+
+int counters(lua_State *lua, Phone &phone, Script &) {
+    pushRecord(lua, kCounters, phone.device.ask("counters"));
+    return 1;
+}
+
+int resetCounters(lua_State *, Phone &phone, Script &) {
+    phone.device.act("reset_counters");
+    return 0;
+}
+
+// Writes DIR/NAME.png, makes the folders that it lies in, and pushes its path.
+int save(lua_State *lua, const Script &script, const std::string &name, const render::Bitmap &picture) {
+    std::filesystem::path relative = name + ".png";
+    if (name.empty() || relative.is_absolute() || *relative.lexically_normal().begin() == "..")
+        throw std::runtime_error("a picture's name must lead into the folder of pictures, not to '" + name +
+                                 "'");
+    std::filesystem::path path = script.options().pictures / relative;
+    std::filesystem::create_directories(path.parent_path());
+    if (!(std::ofstream(path, std::ios::binary) << render::encodePng(picture)).flush())
+        throw std::runtime_error("cannot write " + path.string());
+    lua_pushstring(lua, path.c_str());
+    return 1;
+}
+
+int shot(lua_State *lua, Phone &phone, Script &script) {
+    return save(lua, script, text(lua, 2, "the picture's name"), phone.device.picture());
+}
+
+// The first frame shows the present, the last the end.
+int filmstrip(lua_State *lua, Phone &phone, Script &script) {
+    std::string name = text(lua, 2, "the picture's name");
+    double seconds = duration(lua, 3);
+    int64_t count = wholeNumber(lua, 4, "the number of frames");
+    constexpr int64_t kMost = 100;
+    if (count < 1 || count > kMost)
+        throw std::runtime_error("a film strip has 1 to " + std::to_string(kMost) + " frames");
+    int64_t start = phone.device.now(), whole = toNanoseconds(seconds);
+    std::vector<render::Bitmap> frames;
+    for (int64_t i = 0; i < count; ++i) {
+        int64_t due = count > 1 ? start + whole * i / (count - 1) : start;
+        if (due > phone.device.now()) phone.device.advance(due - phone.device.now());
+        frames.push_back(phone.device.picture());
+    }
+    if (start + whole > phone.device.now()) phone.device.advance(start + whole - phone.device.now());
+    return save(lua, script, name, filmStrip(frames));
+}
+
+} // namespace
+
+std::span<const Method> observingMethods() {
+    static const Method methods[] = {{"log", 0, log},           {"events", 1, events},
+                                     {"counters", 0, counters}, {"reset_counters", 0, resetCounters},
+                                     {"shot", 1, shot},         {"filmstrip", 3, filmstrip}};
+    return methods;
+}
+
+} // namespace sim

@@ -1,0 +1,69 @@
+// One run of a script: its interpreter, the devices that it boots, and what it found wrong.
+#pragma once
+
+#include "Supervisor/Machine/SimulatedDevice.hpp"
+
+#include <filesystem>
+#include <lua.hpp>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+struct Phone;
+
+struct ScriptOptions {
+    std::filesystem::path file;
+    std::vector<std::string> arguments;
+    std::filesystem::path pictures = "out"; // made when the first picture is written
+    int64_t seed = 0;
+};
+
+// Exit statuses.
+enum class Outcome { passed = 0, failed = 1, refused = 2 };
+
+class Script {
+public:
+    Script(DeviceSetup setup, ScriptOptions options);
+    ~Script();
+    Script(const Script &) = delete;
+    Script &operator=(const Script &) = delete;
+
+    // Runs it to its end. Failed expectations do not stop it; they and an error that does are reported on the
+    // standard error stream. `refused` when the script or a boot that it asked for could not be started.
+    Outcome run();
+
+    // For what the script calls:
+    const ScriptOptions &options() const { return options_; }
+    const DeviceSetup &setup() const { return setup_; }
+    // An expectation did not hold. `where` is "file:line".
+    void fail(const std::string &where, const std::string &message);
+    // A boot was wrong; the script may go on if it catches the error.
+    void noteBootError(const std::string &text) { bootErrors_.push_back(text); }
+    Phone &add(std::unique_ptr<Phone> phone);
+    void close(Phone *phone);
+    // For who runs pieces of a script one by one.
+    lua_State *interpreter() const { return lua_; }
+    // The one that was booted last; nullptr before the first boot.
+    Phone *lastPhone() const { return phones_.empty() ? nullptr : phones_.back().get(); }
+
+private:
+    Outcome runFile();
+    Outcome reportError();
+    void reportDevice();
+    void addTroubles(const std::string &troubles);
+
+    DeviceSetup setup_;
+    ScriptOptions options_;
+    lua_State *lua_;
+    std::vector<std::unique_ptr<Phone>> phones_; // in the order of their boots
+    std::vector<std::string> bootErrors_;
+    std::string reported_; // of the device, last
+    bool failed_ = false;
+};
+
+// The script that an interpreter's state belongs to.
+Script &scriptOf(lua_State *lua);
+
+} // namespace sim

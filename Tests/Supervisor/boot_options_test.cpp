@@ -1,0 +1,117 @@
+// Which tables boot a device and which are refused, and that the refusal says what to change.
+#include "Supervisor/Boot/BootOptions.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using sim::Array;
+using sim::Object;
+using sim::Value;
+
+constexpr const char *kStock =
+    R"([{"id": "com.example.mail", "name": {"en": "Mail", "it": "Posta"}, "dock": true},
+                                   {"id": "com.example.game", "name": {"en": "Game"}, "folder": "Social"}])";
+
+sim::BootOptions read(Value table) { return sim::readBootOptions(table, kStock); }
+
+TEST(BootOptions, AnEmptyTableGivesTheUsualDevice) {
+    for (const Value &table : {Value(), Value(Object{}), Value(Array{})}) {
+        auto options = read(table);
+        EXPECT_STREQ(options.profile->name, "iPhone 6");
+        EXPECT_EQ(options.version, "8.1");
+        EXPECT_EQ(options.wallClock, 1425205230) << "2015-03-01 10:20:30 UTC";
+        EXPECT_FALSE(options.settings);
+        EXPECT_TRUE(options.extension);
+        EXPECT_FALSE(options.colorBadges);
+        EXPECT_FALSE(options.passcode);
+        ASSERT_EQ(options.applications.size(), 2u);
+        EXPECT_EQ(options.applications[1].folder, "Social");
+    }
+}
+
+TEST(BootOptions, ApplicationsGetTheirDefaults) {
+    auto options =
+        read(Object{{"language", "it"},
+                    {"apps", Array{Object{{"id", "com.example.mail"}},
+                                   Object{{"id", "org.other.thing"}, {"badge", 2}, {"icon", false}}}}});
+    ASSERT_EQ(options.applications.size(), 2u);
+    EXPECT_EQ(options.applications[0].name, "Posta") << "the stock name in the device's language";
+    EXPECT_FALSE(options.applications[0].dock) << "in home-screen order, as listed";
+    EXPECT_EQ(options.applications[1].name, "thing");
+    EXPECT_EQ(options.applications[1].badge, 2);
+    EXPECT_FALSE(options.applications[1].icon);
+    EXPECT_TRUE(options.applications[1].snapshot);
+}
+
+TEST(BootOptions, TheOtherExtensionIsPresentWhenATableIsGiven) {
+    EXPECT_FALSE(read(Object{{"color_badges", false}}).colorBadges);
+    auto badges = read(Object{{"color_badges", Object{{"borders", false}}}}).colorBadges;
+    ASSERT_TRUE(badges);
+    EXPECT_TRUE(badges->enabled);
+    EXPECT_FALSE(badges->borders);
+}
+
+TEST(BootOptions, RefusalsSayWhatToChange) {
+    struct {
+        Object table;
+        const char *part;
+    } const cases[] = {
+        {{{"devcie", "iPhone 5"}}, "unknown option 'devcie'; did you mean 'device'?"},
+        {{{"device", 5}}, "'device' must be a string, not 5"},
+        {{{"device", "iPhone 5S"}}, "did you mean 'iPhone 5s'?"},
+        {{{"ios", "7.0"}}, "never was an iPhone 6 with iOS 7.0 (it is simulated with 8.0, 8.1 and 8.3)"},
+        {{{"device", "iPhone 4"}, {"ios", "8.1"}}, "7.0 and 7.1"},
+        {{{"ios", 8.1}}, "'ios' must be a string, not 8.1"},
+        {{{"clock", "2015-02-30 10:00:00"}}, "must look like"},
+        {{{"clock", "2015-02-03"}}, "must look like"},
+        {{{"settings", Array{1}}}, "'settings' must be a table with names"},
+        {{{"settings", Object{}}, {"settings_text", ""}}, "not both"},
+        {{{"extension", "yes"}}, "'extension' must be true or false, not \"yes\""},
+        {{{"hide_classes", "UIView"}}, "'hide_classes' must be a list"},
+        {{{"hide_classes", Array{1}}}, "a list of strings"},
+        {{{"missing_files", Array{"Pendix.png"}}}, "absolute paths"},
+        {{{"hide_methods", "UIView tag"}}, "'hide_methods' must be a list"},
+        {{{"nil_methods", Array{1}}}, "a list of strings"},
+        {{{"fail_writes", Array{Object{{"path", "x"}}}}}, "fail_writes[1]: 'path' must be an absolute path"},
+        {{{"fail_writes", Array{Object{{"path", "/x"}, {"error", "EPERM"}}}}}, "'error' must be"},
+        {{{"fail_writes", Array{Object{{"path", "/x"}, {"call", "close"}}}}}, "'call' must be"},
+        {{{"fail_writes", Array{Object{{"path", "/x"}, {"first", 0}}}}}, "count from 1"},
+        {{{"apps", Object{{"id", "x"}}}}, "'apps' must be a list"},
+        {{{"apps", Array{Object{{"name", "x"}}}}}, "apps[1]: an application needs an 'id'"},
+        {{{"apps", Array{Object{{"id", "x"}, {"bagde", 1}}}}}, "did you mean 'badge'?"},
+        {{{"apps", Array{Object{{"id", "x"}, {"badge", -1}}}}}, "must not be negative"},
+        {{{"apps", Array{Object{{"id", "x"}}, Object{{"id", "x"}}}}}, "apps[2]: 'x' is listed twice"},
+        {{{"color_badges", Object{{"border", true}}}}, "did you mean 'borders'?"},
+        {{{"color_badges", true}, {"passcod", true}}, "did you mean 'passcode'?"},
+    };
+    for (const auto &test : cases) {
+        try {
+            read(test.table);
+            ADD_FAILURE() << "booted, wanted: " << test.part;
+        } catch (const sim::BootError &error) {
+            std::string text = error.what();
+            EXPECT_TRUE(text.starts_with("boot: ") || text.starts_with("boot:")) << text;
+            EXPECT_NE(text.find(test.part), std::string::npos) << text << "\nwanted: " << test.part;
+        }
+    }
+}
+
+TEST(Profiles, EveryPairThatExistedCanBeBooted) {
+    int pairs = 0;
+    for (const auto &profile : sim::profiles()) {
+        for (const char *version : {"7.0", "7.1", "8.0", "8.1", "8.3", "8.2", ""}) {
+            Object table{{"device", profile.name}, {"ios", version}};
+            pairs += profile.ran(version);
+            if (profile.ran(version)) {
+                EXPECT_EQ(read(table).version, version);
+            } else {
+                EXPECT_THROW(read(table), sim::BootError) << profile.name << ' ' << version;
+            }
+        }
+    }
+    // Two versions on the oldest phone, all five on five devices, three on two phones, two on two tablets.
+    EXPECT_EQ(pairs, 2 + 5 * 5 + 2 * 3 + 2 * 2);
+}
+
+} // namespace

@@ -1,0 +1,56 @@
+// What must hold on a phone with the extension whatever was done to it: a rule a function, and the table of
+// them.
+#pragma once
+
+#include "Tools/Monkey/Observation.hpp"
+#include "Memory.hpp"
+
+#include <span>
+
+namespace sim {
+
+// What there is to judge: the phone before and after one event.
+struct Moment {
+    const Observation *before; // nullptr for the first look at a home screen that has just been started
+    const Observation &now;
+    const std::string &call;                // what was done, as a script writes it
+    const Array &events;                    // what happened in the home screen meanwhile
+    const Array &settingsEvents;            // and in the Settings application
+    const Value &settingsBefore, &settings; // the settings file: an object, null when it is none
+    bool settingsChanged;                   // it was written, or removed, meanwhile
+    bool pane;                              // the Settings application was open at some time
+    int64_t from, to;                       // virtual time in nanoseconds
+
+    // How many lines with this text came to the log.
+    int64_t logged(std::string_view text) const;
+    // How often the replacement of a hooked method was entered.
+    int64_t entered(std::string_view selector) const;
+    bool restarted() const { return before == nullptr; }
+};
+
+using Findings = std::vector<std::string>;
+
+struct Rule {
+    const char *name;
+    // Adds a sentence for each thing that is broken.
+    void (*check)(const Moment &moment, Memory &memory, Findings &findings);
+};
+
+// In the order in which they are checked; followPanel() goes before them.
+std::span<const Rule> rules();
+
+// Keeps what `memory` knows of the panel and of its lock up to date.
+void followPanel(const Moment &moment, Memory &memory);
+
+void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);
+void checkClosed(const Moment &moment, Memory &memory, Findings &findings);
+void checkLocked(const Moment &moment, Memory &memory, Findings &findings);
+void checkLists(const Moment &moment, Memory &memory, Findings &findings);
+void checkIndicator(const Moment &moment, Memory &memory, Findings &findings);
+void checkTimers(const Moment &moment, Memory &memory, Findings &findings);
+void checkQuiet(const Moment &moment, Memory &memory, Findings &findings);
+void checkHooks(const Moment &moment, Memory &memory, Findings &findings);
+void checkGeometry(const Moment &moment, Memory &memory, Findings &findings);
+void checkSettingsFile(const Moment &moment, Memory &memory, Findings &findings);
+
+} // namespace sim

@@ -1,0 +1,49 @@
+// The indicator as the rest of the extension sees it: the badged applications, its view in the status bar,
+// its pulse, and what keeps the panel on it. Added to the home screen's application, but for the last
+// category.
+#pragma once
+
+#include <SpringBoard/SpringBoard.h>
+#include <UIKit/UIStatusBar.h>
+
+@interface SpringBoard (PendixBadges)
+// Whether an application with a badge is listed. Applications hidden by their own setting leave the list
+// here. NO in running mode and while the display is off.
+- (BOOL)checkBadges;
+@end
+
+// All nil or empty while there is no status bar; `window1` must have been set to its window.
+@interface SpringBoard (PendixItemView)
+// The status bar's subview at that index; 1 is the foreground, which holds the item views.
+- (UIView *)getForeGround:(int)index;
+- (NSArray *)statusBarItemViews;
+// Whether the view is the extension's item view.
+- (BOOL)isPendix:(id)view;
+// The extension's item view; nil, with a line in the log, when the item is invisible or absent.
+- (UIStatusBarItemView *)pendix;
+@end
+
+@interface SpringBoard (PendixPulse)
+// Starts the pulse in that colour unless one runs, `glow` is off or `hide` is on.
+- (void)makePulse:(UIColor *)color;
+// One step, sent by the pulse's own timer.
+- (void)pulse:(NSTimer *)timer;
+// The timer ends with its next step.
+- (void)removePulse;
+@end
+
+@interface SpringBoard (PendixFollower)
+// Sent every tenth of a second while the panel is shown: dims the other items and moves the panel with its
+// own.
+- (void)alphaStatusBar:(NSTimer *)timer;
+@end
+
+// What the indicator asks for; the panel answers.
+@interface SpringBoard (PendixIndicatorTap)
+// Opens the panel out of the indicator, unless `enable` is off.
+- (void)tap;
+@end
+
+@interface UIStatusBarItemView (Pendix)
+- (BOOL)isPendix:(id)view;
+@end
