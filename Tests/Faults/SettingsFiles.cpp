@@ -2,6 +2,7 @@
 
 #include "Runtime/PropertyListSamples.hpp"
 #include "Runtime/Values/PropertyList.hpp"
+#include "Tools/Monkey/SettingList.hpp"
 
 #include <algorithm>
 #include <random>
@@ -88,21 +89,22 @@ void changeWord(Random &random, std::string &bytes) {
 } // namespace
 
 Object wholeSettings() {
-    Object settings{{"tint", "green"},
-                    {"colors", "blue"},
-                    {"position", "middle"},
-                    {"amount", "2"},
-                    {"where", "every"},
-                    {"password", "1234"},
-                    {"hasTouchID", "1"},
-                    {"enable", true},
-                    {"com.apple.mobilemail", Object{{"hide_perapp", false}, {"badge_perapp", true}}},
-                    {"org.example.1", Object{{"hide_perapp", true}}}};
-    for (const char *off :
-         {"badge", "hide", "hide_t", "auto", "back", "fast", "ca", "close", "paging", "pass"})
-        settings.emplace(off, false);
-    for (const char *on : {"glow", "newb", "b", "light", "blur", "rech", "touchid", "ask", "clear"})
-        settings.emplace(on, true);
+    using Kind = sim::Setting::Kind;
+    Object settings{{"com.apple.mobilemail", Object{}}, {"org.example.1", Object{}}};
+    bool on = true; // every other switch
+    for (const sim::Setting &setting : sim::settingList()) {
+        if (setting.kind == Kind::perApplication)
+            for (const char *identifier : {"com.apple.mobilemail", "org.example.1"})
+                settings[identifier].set(setting.key, on = !on);
+        else if (setting.kind == Kind::toggle)
+            settings.emplace(setting.key, on = !on);
+        else
+            settings.emplace(setting.key, setting.kind == Kind::color  ? "green"
+                                          : setting.kind == Kind::code ? "1234"
+                                                                       : setting.values[1]);
+    }
+    for (const char *name : {"enabled", "pulses"}) settings[sim::keyNamed(name)] = true;
+    settings[sim::keyNamed("lockEnabled")] = false;
     return settings;
 }
 

@@ -21,17 +21,16 @@ local keys = {
   -- Read with intValue, so numbers count: 7, 2 and 1.
   amount = { "string", { integer = "7", real = "2", boolean = "1", data = none, date = none, array = none,
     dictionary = none } },
-  hasTouchID = { "string", only_text }, tint = { "string", only_text }, colors = { "string", only_text },
-  position = { "string", only_text }, where = { "string", only_text },
   -- A code that is no text locks, and no digits are it; see below.
   password = { "string", { integer = "none of these", real = "none of these", boolean = "none of these",
     data = "none of these", date = "none of these", array = "none of these", dictionary = "none of these" } },
   ["org.example.ada"] = { "dictionary", { string = none, integer = none, real = none, boolean = none, data = none,
     date = none, array = none } },
 }
-for _, key in ipairs{ "enable", "badge", "hide", "hide_t", "glow", "newb", "auto", "b", "light", "back", "fast", "blur",
-  "ca", "rech", "close", "paging", "touchid", "ask", "clear", "pass" } do
-  keys[key] = { "boolean", number_is_on }
+for _, setting in ipairs(require("setting_keys")) do
+  if setting.page ~= "application" and not keys[setting.key] then
+    keys[setting.key] = setting.kind == "toggle" and { "boolean", number_is_on } or { "string", only_text }
+  end
 end
 
 local about_lock = { password = true, where = true, touchid = true, ask = true, clear = true, pass = true }

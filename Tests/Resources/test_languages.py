@@ -2,6 +2,7 @@
 have room, and that no text which the product asks for is missing. A failure shows a user "(null)", a cut label, or a
 switch that writes another switch's setting."""
 
+import json
 import plistlib
 import re
 import unittest
@@ -12,15 +13,19 @@ FOLDER = PROJECT / "Resources/Languages"
 LANGUAGES = ("en", "it", "es")
 TABLES = {language: plistlib.loads((FOLDER / f"{language}.plist").read_bytes()) for language in LANGUAGES}
 
+SETTINGS = json.loads((STAGE / "settings.json").read_text("utf-8"))
+# Those with words to choose from; numbers read alike in every language.
+CHOICES = [setting for setting in SETTINGS if setting["kind"] == "choice" and not setting["values"][0].isdigit()]
+
 # Characters that fit in one line of the narrowest screen, by where the text stands.
 ROOM = {
-    "beside a switch": (26, """enable light back blur fast ca rech close paging b newb auto badge hide hide_t glow
-        hide_perapp badge_perapp security touchid clear ask"""),
+    "beside a switch": (26, " ".join(
+        "security" if setting["key"] == "pass" else setting["key"] for setting in SETTINGS if "toggle" in setting["kind"])),
     "half a panel's width": (12, "cancel delete passcode ok touch_ID"),
     "over the keypad": (24, "write try unlock_touchid fail"),
     "on a colour card": (32, "slide"),
-    "beside a chosen value": (17, "where position"),
-    "a value beside its label": (16, "top middle bottom lockscreen every everyoff"),
+    "beside a chosen value": (17, " ".join(setting["key"] for setting in CHOICES)),
+    "a value beside its label": (16, " ".join(value for setting in CHOICES for value in setting["values"])),
 }
 
 
@@ -73,6 +78,12 @@ class Languages(unittest.TestCase):
         self.assertEqual({path.name for path in staged.iterdir()}, {f"{language}.plist" for language in LANGUAGES})
         for language in LANGUAGES:
             self.assertEqual(plistlib.loads((staged / f"{language}.plist").read_bytes()), TABLES[language])
+
+    def test_every_setting_has_a_label_in_every_language(self):
+        for setting in SETTINGS:
+            key = {"pass": "security", "password": "change_pass"}.get(setting["key"], setting["key"])
+            for language in LANGUAGES if setting["page"] != "none" else ():
+                self.assertIn(key, TABLES[language], f'{language}.plist has no label for the setting "{setting["key"]}"')
 
     def test_every_text_the_product_asks_for_exists(self):
         for path, source in product_sources().items():

@@ -2,41 +2,31 @@
 -- type and value, and everything else as it was.
 local P = dofile("lib_pane.lua")
 
-local configuration = { "Configuration" }
-local marks = { "Configuration", "Indeterminate Badges" }
-local reach = { "Configuration", "Reachability" }
-local icon = { "Configuration", "Status Bar Icon" }
-local lock = { "Configuration", "Passcode Lock" }
-local mail = { "Configuration", "Apps", "com.apple.mobilemail" }
-
--- Page, label, key; a switch unless it has choices, given as title and stored value.
-local settings = {
-  { {}, "Enable", "enable" },
-  { configuration, "Light Appearance", "light" },
-  { configuration, "Clear Background", "back" },
-  { configuration, "Blur Background", "blur" },
-  { configuration, "Fast Animations", "fast" },
-  { configuration, "Cards", "ca" },
-  { configuration, "Close Buttons", "close" },
-  { configuration, "Pages", "paging" },
-  { configuration, "Hide Badges", "b", restart = true },
-  { configuration, "Running Apps", "badge" },
-  { configuration, "Apps in a Row", "amount", { "2", "2" }, { "1", "1" }, { "4", "4" }, { "3", "3" } },
-  { marks, "Indeterminate Badges", "newb", restart = true },
-  { marks, "Automatic Color", "auto", restart = true },
-  { reach, "Reachability", "rech" },
-  { reach, "Position", "position", { "Middle", "middle" }, { "Bottom", "bottom" }, { "Top", "top" } },
-  { icon, "Hide Icon", "hide" },
-  { icon, "Only with Badges", "hide_t" },
-  { icon, "Pulse", "glow" },
-  { lock, "Lock Panel", "pass" },
-  { lock, "Unlock with Touch ID", "touchid" },
-  { lock, "Show Digits", "clear" },
-  { lock, "Require Passcode", "where", { "Every Time", "every" }, { "After Sleep", "everyoff" }, { "When Locked", "lockscreen" } },
-  { lock, "Ask First", "ask" },
-  { mail, "Hide from Pendix", "hide_perapp", inside = "com.apple.mobilemail" },
-  { mail, "No Mark on Icon", "badge_perapp", inside = "com.apple.mobilemail" },
+local mail = "com.apple.mobilemail"
+-- The way to each page, and what asks for a restart.
+local paths = {
+  root = {}, configuration = { "Configuration" }, marks = { "Configuration", "Indeterminate Badges" },
+  reachability = { "Configuration", "Reachability" }, icon = { "Configuration", "Status Bar Icon" },
+  passcode = { "Configuration", "Passcode Lock" }, application = { "Configuration", "Apps", mail },
 }
+local restarts = { b = true, newb = true, auto = true }
+
+-- Page, label, key; a switch unless it has choices, given as title and stored value. Colours and the code have pages of
+-- their own, and scenarios.
+local settings = {}
+for _, setting in ipairs(require("setting_keys")) do
+  local path = paths[setting.page]
+  if path and setting.kind ~= "color" and setting.kind ~= "code" then
+    local entry = { path, setting.label, setting.key, restart = restarts[setting.key],
+      inside = setting.page == "application" and mail or nil }
+    for i, value in ipairs(setting.values) do
+      -- Five in a row are for an iPad.
+      if value ~= "5" then entry[#entry + 1] = { setting.titles[i], value } end
+    end
+    settings[#settings + 1] = entry
+  end
+end
+expect(#settings > 20, "there are settings")
 
 local function copy(t)
   local result = {}

@@ -26,8 +26,11 @@ expect_eq(old_style:settings()["com.apple.mobilemail"].hide_perapp, "1", "the ne
 
 -- Each key with each wrong kind, while badges come and go.
 local kinds = { {}, { 1, 2 }, { a = "b" }, "", "banana", 7, -1, 2.5, true }
-for _, key in ipairs{ "enable", "badge", "hide", "hide_t", "glow", "tint", "colors", "rech", "position", "fast", "where",
-  H.mail } do
+local keys = { H.mail }
+for _, setting in ipairs(require("setting_keys")) do
+  if setting.page ~= "application" then keys[#keys + 1] = setting.key end
+end
+for _, key in ipairs(keys) do
   local phone = boot{ settings = { enable = true, glow = true }, apps = H.apps(H.mail, H.phone) }
   for _, value in ipairs(kinds) do
     phone:set(key, value)

@@ -1,6 +1,7 @@
 #include "SettingValues.hpp"
 
 #include "Runtime/Values/PropertyList.hpp"
+#include "SettingList.hpp"
 
 #include <algorithm>
 
@@ -8,33 +9,51 @@ namespace sim {
 
 namespace {
 
-constexpr const char *kEnable = "enable", *kCode = "password";
+using Kind = Setting::Kind;
 
-const std::vector<std::string> &switches() {
-    static const std::vector<std::string> keys = {
-        "badge", "hide", "hide_t", "glow",  "newb",   "auto",    "b",   "light", "back", "fast",
-        "blur",  "ca",   "rech",   "close", "paging", "touchid", "ask", "clear", "pass", kEnable};
-    return keys;
-}
+const std::string &enabled() { return keyNamed("enabled"); }
 
-const std::vector<std::string> &choices() {
-    static const std::vector<std::string> keys = {"tint", "colors", "position", "amount", "where", kCode};
+// What `set` finds in the file's own dictionary: the switches, and what has more than two values.
+std::vector<std::string> keysOf(bool switches) {
+    std::vector<std::string> keys;
+    for (const Setting &setting : settingList())
+        if (setting.kind != Kind::record && setting.kind != Kind::perApplication &&
+            (setting.kind == Kind::toggle) == switches)
+            keys.push_back(setting.key);
     return keys;
 }
 
 const std::vector<std::string> kColors = {"black",   "white",  "gray",   "red",   "green", "blue",  "cyan",
                                           "magenta", "orange", "purple", "brown", "clear", "yellow"};
 
-Value choice(Random &random, const std::string &key) {
-    if (key == "tint" || key == "colors") return random.pick(kColors);
-    if (key == "position") return random.pick({"top", "middle", "bottom"});
-    if (key == "amount") return std::to_string(random.between(1, 5));
-    if (key == "where") return random.pick({"everyoff", "every", "lockscreen"});
-    return random.pick(codes());
+// Mostly off: a lock or a hidden indicator keeps everything else from being reached.
+unsigned percentOn(const std::string &key) {
+    if (key == enabled()) return 85;
+    return key == keyNamed("hidesIndicator") || key == keyNamed("lockEnabled") ? 25 : 50;
 }
 
-bool isSwitch(const std::string &key) { return std::ranges::count(switches(), key) > 0; }
-bool isChoice(const std::string &key) { return std::ranges::count(choices(), key) > 0; }
+Value valueFor(Random &random, const Setting &setting) {
+    switch (setting.kind) {
+    case Kind::toggle:
+    case Kind::perApplication:
+        return random.percent(percentOn(setting.key));
+    case Kind::color:
+        return random.pick(kColors);
+    case Kind::code:
+        return random.pick(codes());
+    case Kind::choice:
+    case Kind::record:
+        break;
+    }
+    return random.pick(setting.values);
+}
+
+Value applicationValues(Random &random) {
+    Object result;
+    for (const Setting &setting : settingList())
+        if (setting.kind == Kind::perApplication) result.insert_or_assign(setting.key, valueFor(random, setting));
+    return result;
+}
 
 std::string noise(Random &random, size_t length) {
     std::string result;
@@ -50,19 +69,15 @@ const std::vector<std::string> &codes() {
 }
 
 std::string anyKey(Random &random, const std::vector<std::string> &applications) {
+    static const std::vector<std::string> switches = keysOf(true), others = keysOf(false);
     if (random.percent(12)) return random.pick(applications);
-    if (random.percent(3)) return random.pick({"hasTouchID", "", "no such key", "enable ", "perapp"});
-    return random.percent(70) ? random.pick(switches()) : random.pick(choices());
+    if (random.percent(3)) return random.pick<std::string>({keyNamed("hasSensor"), "", "no such key", enabled() + " ", "perapp"});
+    return random.percent(70) ? random.pick(switches) : random.pick(others);
 }
 
 Value legalValue(Random &random, const std::string &key) {
-    if (key == kEnable) return random.percent(85);
-    // Mostly off: a lock or a hidden indicator keeps everything else from being reached.
-    if (key == "hide" || key == "pass") return random.percent(25);
-    if (isSwitch(key)) return random.percent(50);
-    if (isChoice(key)) return choice(random, key);
-    if (key == "hasTouchID") return random.pick({"0", "1"});
-    return Object{{"hide_perapp", random.percent(50)}, {"badge_perapp", random.percent(50)}};
+    const Setting *setting = settingOfKey(key);
+    return setting ? valueFor(random, *setting) : applicationValues(random);
 }
 
 Value illegalValue(Random &random) {
@@ -88,9 +103,9 @@ Value illegalValue(Random &random) {
     case 9:
         return Object{{"a", 1}};
     case 10:
-        return Object{{"hide_perapp", Object{{"a", 1}}}, {"badge_perapp", Array{Value(1)}}};
+        return Object{{keyNamed("appHidden"), Object{{"a", 1}}}, {keyNamed("appWithoutMark"), Array{Value(1)}}};
     case 11:
-        return Object{{"hide_perapp", "yes"}, {"badge_perapp", 2.5}};
+        return Object{{keyNamed("appHidden"), "yes"}, {keyNamed("appWithoutMark"), 2.5}};
     case 12:
         return random.pick({"12", "12345", "abcd", "12 4", "1234"});
     default:
@@ -99,22 +114,23 @@ Value illegalValue(Random &random) {
 }
 
 Object legalSettings(Random &random, const std::vector<std::string> &applications) {
-    Object result{{kEnable, random.percent(95)}};
+    Object result{{enabled(), random.percent(95)}};
     for (uint64_t i = random.below(14); i > 0; --i) {
         std::string key = anyKey(random, applications);
-        if (key != kEnable) result.insert_or_assign(key, legalValue(random, key));
+        if (key != enabled()) result.insert_or_assign(key, legalValue(random, key));
     }
     if (random.percent(25)) {
-        result.insert_or_assign("pass", true);
-        result.insert_or_assign(kCode, random.pick(codes()));
-        result.insert_or_assign("where", choice(random, "where"));
-        if (random.percent(50)) result.insert_or_assign("touchid", true);
+        result.insert_or_assign(keyNamed("lockEnabled"), true);
+        result.insert_or_assign(keyNamed("passcode"), random.pick(codes()));
+        const std::string &where = keyNamed("lockMoment");
+        result.insert_or_assign(where, legalValue(random, where));
+        if (random.percent(50)) result.insert_or_assign(keyNamed("unlocksByFinger"), true);
     }
     return result;
 }
 
 std::string brokenFile(Random &random) {
-    std::string whole = toXmlPropertyList(Object{{kEnable, true}, {"amount", "3"}, {"pass", false}});
+    std::string whole = toXmlPropertyList(Object{{enabled(), true}, {keyNamed("rows"), "3"}, {keyNamed("lockEnabled"), false}});
     switch (random.below(7)) {
     case 0:
         return "";

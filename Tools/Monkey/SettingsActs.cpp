@@ -1,6 +1,7 @@
 // What other programs do to the settings file.
 #include "Acts.hpp"
 #include "Tools/Live/LuaText.hpp"
+#include "SettingList.hpp"
 #include "SettingValues.hpp"
 
 namespace sim {
@@ -28,7 +29,7 @@ std::string remove(Hand &) { return "phone:delete_settings()"; }
 std::string breakFile(Hand &hand) { return luaCall("settings_text", {brokenFile(hand.random)}); }
 std::string whole(Hand &hand) {
     Object settings = legalSettings(hand.random, hand.applications);
-    settings.insert_or_assign("enable", true);
+    settings.insert_or_assign(keyNamed("enabled"), true);
     return "phone:delete_settings() " + luaCall("set", {settings});
 }
 

@@ -17,7 +17,9 @@ Installation findInstallation() {
             .stageRoot = stage / "root",
             .platform = stage / "platform",
             .manifest = stage / "package.json",
-            .page = stage / "page"};
+            .page = stage / "page",
+            .scripts = stage / "Lua",
+            .settings = stage / "settings.json"};
 }
 
 std::string readFile(const fs::path &path) {

@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <stdexcept>
+#include <vector>
 
 namespace sim {
 
@@ -159,6 +160,19 @@ int doFile(lua_State *lua, Script &script) {
     return lua_gettop(lua);
 }
 
+// Once a module: what it returned the first time is kept in the table of the first upvalue.
+int require(lua_State *lua, Script &script) {
+    std::string name = text(lua, 1, "the module's name");
+    lua_settop(lua, 1);
+    if (lua_getfield(lua, lua_upvalueindex(1), name.c_str()) != LUA_TNIL) return 1;
+    loadScript(lua, moduleFile(script, name));
+    lua_call(lua, 0, 1);
+    if (lua_isnil(lua, -1)) throw std::runtime_error("the module '" + name + "' returns nothing");
+    lua_pushvalue(lua, -1);
+    lua_setfield(lua, lua_upvalueindex(1), name.c_str());
+    return 1;
+}
+
 // Puts a function in the place of field `name` of the table at the top, which becomes its last upvalue after
 // the `upvalues` values above the table.
 void wrap(lua_State *lua, int table, const char *name, lua_CFunction function, int upvalues) {
@@ -199,6 +213,21 @@ void loadScript(lua_State *lua, const std::filesystem::path &file) {
     }
 }
 
+std::filesystem::path moduleFile(const Script &script, const std::string &name) {
+    namespace fs = std::filesystem;
+    const fs::path file = name + ".lua",
+                   folder = fs::absolute(script.options().file).parent_path().lexically_normal();
+    std::vector<fs::path> places{folder};
+    for (fs::path at = folder; places.push_back(at / "Lua"), at != at.root_path(); at = at.parent_path())
+        ;
+    places.push_back(script.setup().installation.scripts);
+    for (const fs::path &place : places)
+        if (fs::is_regular_file(place / file)) return place / file;
+    throw std::runtime_error("there is no module '" + name + "': no " + file.string() +
+                             " beside the script, in a " + "folder Lua there or above it, or in " +
+                             places.back().string());
+}
+
 void openLibrary(lua_State *lua, const ScriptOptions &options) {
     openStandard(lua);
     setGlobal(lua, "print", bound<print>);
@@ -207,6 +236,9 @@ void openLibrary(lua_State *lua, const ScriptOptions &options) {
     setGlobal(lua, "next", bound<next>);
     setGlobal(lua, "dofile", bound<doFile>);
     setGlobal(lua, "collectgarbage", bound<collectGarbage>);
+    lua_newtable(lua);
+    lua_pushcclosure(lua, bound<require>, 1);
+    lua_setglobal(lua, "require");
 
     lua_pushglobaltable(lua);
     wrap(lua, lua_gettop(lua), "load", bound<load>, 0);

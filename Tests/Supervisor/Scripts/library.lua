@@ -1,7 +1,7 @@
 -- The language's library gives the same on every run: no system access, keys in order, seeded random numbers.
 -- options: --seed 7 -- first "second word"
 -- stdout: {[1] = 1, [2] = 2.5, [3] = "x", k = {}}	nil	1.0	function
-for _, name in ipairs { "os", "io", "require", "package", "debug", "loadfile", "warn" } do
+for _, name in ipairs { "os", "io", "package", "debug", "loadfile", "warn" } do
   expect_eq(_G[name], nil, name .. " is absent")
 end
 expect_eq(args, { "first", "second word" }, "the words after -- are in args")

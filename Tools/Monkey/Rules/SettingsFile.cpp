@@ -1,14 +1,13 @@
 // The settings file changes by what was done to it, by the settings pages, and by the note about the finger's
 // sensor that the launch leaves; by nothing else, and never in another key.
 #include "Rules.hpp"
+#include "Tools/Monkey/SettingList.hpp"
 
 #include <algorithm>
 
 namespace sim {
 
 namespace {
-
-constexpr const char *kSensor = "hasTouchID";
 
 // The keys whose values differ.
 std::set<std::string> changedKeys(const Value &before, const Value &after) {
@@ -23,17 +22,15 @@ std::set<std::string> changedKeys(const Value &before, const Value &after) {
     return keys;
 }
 
+// What the rows of the pane store, the one of a label that no text says included.
 bool isByPages(const std::string &key) {
-    static const std::set<std::string> keys = {
-        "enable", "badge",  "hide",  "hide_t",  "glow", "tint",  "colors", "newb",     "auto",
-        "b",      "light",  "back",  "fast",    "blur", "ca",    "rech",   "position", "close",
-        "paging", "amount", "where", "touchid", "ask",  "clear", "pass",   "password", "(null)"};
+    const Setting *setting = settingOfKey(key);
     // Whatever an application is called, its name has a dot.
-    return keys.contains(key) || key.find('.') != std::string::npos;
+    return setting ? setting->kind != Setting::Kind::record : key == "(null)" || key.find('.') != std::string::npos;
 }
 
 bool mayChange(const Moment &moment, const std::string &key) {
-    if (key == kSensor && moment.restarted()) return true;
+    if (key == keyNamed("hasSensor") && moment.restarted()) return true;
     if (moment.pane && isByPages(key)) return true;
     bool told = moment.call.find(":set") != std::string::npos && moment.call.find(key) != std::string::npos;
     return told || moment.call.find(":delete_settings") != std::string::npos ||
@@ -51,7 +48,7 @@ void checkSettingsFile(const Moment &moment, Memory &memory, Findings &findings)
         findings.push_back("the home screen has written the file " +
                            std::to_string(moment.now.settingsWrites) + " times");
     memory.settingsWrites = moment.now.settingsWrites;
-    const Value &sensor = moment.settings[kSensor];
+    const Value &sensor = moment.settings[keyNamed("hasSensor")];
     if (moment.restarted() && sensor != Value("0") && sensor != Value("1"))
         findings.push_back("the launch has left no note about the sensor");
 }
