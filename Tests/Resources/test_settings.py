@@ -15,6 +15,10 @@ PANE = "\n".join(text for path, text in SOURCES.items() if path.startswith("Pend
 HOME_SCREEN = "\n".join(text for path, text in SOURCES.items() if path.startswith("Tweak/"))
 
 
+def names(source, setting):
+    return re.search(rf'\bkeys::{setting["name"]}\b', source) is not None
+
+
 class Settings(unittest.TestCase):
     def test_the_page_for_people_is_what_the_header_says(self):
         run = subprocess.run([sys.executable, PROJECT / "scripts/setting-table", "markdown", "--check",
@@ -30,14 +34,13 @@ class Settings(unittest.TestCase):
         for setting in SETTINGS:
             with self.subTest(setting=setting["key"]):
                 reader = PANE if setting["kind"] == "record" else HOME_SCREEN
-                self.assertRegex(reader, rf'\bkeys::{setting["name"]}\b', "nobody reads keys::" + setting["name"])
+                self.assertTrue(names(reader, setting), "nobody reads keys::" + setting["name"])
 
     def test_each_page_has_its_rows(self):
         for setting in SETTINGS:
             if setting["page"] != "none":
                 with self.subTest(setting=setting["key"]):
-                    self.assertRegex(PANE, rf'\bkeys::{setting["name"]}\b',
-                                     f'no row of the pane names keys::{setting["name"]}, which stands on the page '
+                    self.assertTrue(names(PANE, setting), f'no row of the pane names keys::{setting["name"]}, which stands on the page '
                                      f'"{setting["page"]}"')
 
     def test_the_product_spells_no_key(self):
