@@ -2,11 +2,8 @@
 -- each class, timers, windows, views, gesture recognisers and blocks as after the second, and no observer was added.
 --
 -- Arguments: rounds; the activity, each of them without one.
--- The helpers load one another from their own folder.
-local load_here = dofile
-dofile = function(name) return load_here("../Scenarios/" .. name) end
-local L = dofile("lib_lock.lua")
-local to_lock_screen = load_here("lib_hands.lua").to_lock_screen
+local L = require("lock")
+local to_lock_screen = require("hands").to_lock_screen
 local rounds = math.tointeger(args[1] or 30)
 
 local function type_code(phone)

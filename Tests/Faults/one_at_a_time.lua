@@ -2,7 +2,7 @@
 -- that does not need the piece. Prints a row for each fault; fault_table.py names the faults and reads the rows.
 --
 -- Arguments: kind, device, version, language, which steps in Settings (all, looks or none), faults …
-local S = dofile("lib_standard.lua")
+local S = require("standard")
 local kind, device, ios, language, which = table.unpack(args, 1, 5)
 local settings_file = "/var/mobile/Library/Preferences/org.quillhub.PendixSettings.plist"
 

@@ -2,6 +2,7 @@
 -- phone looks and behaves as with the value that this kind counts as, and no other key changes.
 --
 -- Arguments: part and number of parts; all of it without.
+local O = require("overlay")
 local part, parts = math.tointeger(args[1] or 1), math.tointeger(args[2] or 1)
 
 -- As text of a property list, and as a value of this language (nil: it has none of that kind).
@@ -74,7 +75,7 @@ local function looks(phone)
   seen[1] = { i.visible, i.image or "", i.shadow_color or "", i.shadow_opacity or "" }
   for _, app in ipairs(apps) do
     local icon = phone:icon(app.id)
-    local mark, badge = phone:find{ parent = icon, tag = 1953 }, phone:find{ parent = icon, class = "SBIconBadgeView" }
+    local mark, badge = O.icon_mark(phone, app.id), phone:find{ parent = icon, class = "SBIconBadgeView" }
     seen[#seen + 1] = { mark and mark.tint or "", badge and badge.hidden or false }
   end
   phone:activator()

@@ -1,5 +1,5 @@
 -- Badges that are there when the home screen starts are seen, and seen again after it starts anew.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local phone = boot{ settings = { enable = true, glow = true, tint = "blue" },
   apps = { { id = H.mail, name = "Mail", badge = 3 }, { id = H.phone, name = "Phone" } } }
 expect_eq(phone:call("checkBadges"), true, "the badge is listed before the boot returns")

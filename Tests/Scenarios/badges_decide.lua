@@ -1,5 +1,5 @@
 -- Which badges count: those on the home screen and those inside folders, but not those of hidden applications.
-local H = dofile("lib_home.lua")
+local H = require("home")
 for _, ios in ipairs{ "7.1", "8.1" } do
   local what = ios .. ": "
   local folded = { { id = H.mail, name = "Mail" }, { id = H.phone, name = "Phone", folder = "Social" },

@@ -1,6 +1,6 @@
 -- A display that goes off and on changes nothing of an indicator that does not follow badges: switched off, hidden, or
 -- standing for the running applications.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 for what, settings in pairs{
   ["switched off"] = { enable = false }, hidden = { hide = true }, ["for running applications"] = { badge = true },

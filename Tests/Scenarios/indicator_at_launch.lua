@@ -1,5 +1,5 @@
 -- At launch the indicator follows `enable` and `badge` alone; `hide` and `hide_t` wait for a change or a badge.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local cases = {
   { {}, false, "Pendix" },
   { { enable = true }, true, "Pendix" },

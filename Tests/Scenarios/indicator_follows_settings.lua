@@ -1,5 +1,5 @@
 -- What the pane writes shows within a second, and no sooner than the poll; nothing else moves the indicator.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local phone = boot{ settings = { enable = true }, apps = H.apps(H.mail) }
 local function after(changes, visible, image, what)
   local before = { phone:indicator().visible, phone:indicator().image }

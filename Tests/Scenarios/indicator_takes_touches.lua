@@ -1,5 +1,5 @@
 -- The indicator's view answers a tap and nothing else, and every item of the status bar stays touchable.
-local H = dofile("lib_home.lua")
+local H = require("home")
 each_profile(function(device, ios)
   local phone = boot{ device = device, ios = ios, settings = { enable = true } }
   local what = device .. " " .. ios .. ": "

@@ -1,6 +1,6 @@
 -- The launch leaves an empty overlay above the status bar that lets every touch through, and registers with the
 -- gesture launcher.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local phone = boot{ settings = { enable = true } }
 local window = phone:find{ window = "overlay", class = "UIWindow" }
 expect_eq(window.level, 1000 + 532, "the overlay lies above the status bar")

@@ -1,5 +1,5 @@
 -- Every device and system version that existed together starts with the extension, quietly and once.
-local H = dofile("lib_home.lua")
+local H = require("home")
 each_profile(function(device, ios)
   local what = device .. " " .. ios
   local phone = boot{ device = device, ios = ios, settings = { enable = true } }

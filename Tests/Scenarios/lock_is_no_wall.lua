@@ -1,6 +1,6 @@
 -- What the lock is not: it does not count wrong codes, it rests on a file and on code that others can reach, and
 -- without a code of its own the panel over the lock screen shows and changes what it lists.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 -- Nobody counts.
 local phone = L.boot_locked{ fast = true }

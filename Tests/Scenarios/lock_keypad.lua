@@ -1,5 +1,5 @@
 -- The keypad under a person's fingers: digits, deleting, wrong codes, the shake, and the right code at last.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 for _, fast in ipairs{ false, true } do
   local phone = L.boot_locked{ fast = fast }

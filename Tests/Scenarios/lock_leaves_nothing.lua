@@ -1,6 +1,6 @@
 -- A lock that is opened, failed, unlocked and closed again and again leaves no object and no timer behind, and an
 -- opening behind a lock reads the settings no more often than any other may.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 for _, settings in ipairs{ { clear = true }, { touchid = true, ask = true, paging = true } } do
   local phone = L.boot_locked(settings)

@@ -1,5 +1,5 @@
 -- Which face a locked panel opens on, what unlocks it, and that nothing of the list shows before.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 -- Device, `touchid`, `ask`: the face; the one behind the ask view; what the sensor is asked for.
 for _, case in ipairs{

@@ -1,6 +1,6 @@
 -- A finger unlocks only while the panel waits for one, the glyph and the title tell what the sensor says, and the
 -- sensor gets its state back after every way of closing.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 local taken, given_back = "observe matching_on start", "observe matching_on start unobserve matching_off"
 
 local function glyph(phone) return L.part(phone, "finger", 1) end

@@ -1,6 +1,6 @@
 -- A turned device: the keypad shrinks as far as it must, whole and on the screen, also when it is turned while the
 -- keypad shows; its keys keep working.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 local function fits(phone, landscape, what)
   local screen = phone:find{ window = "overlay", class = "UIWindow", tag = 0 }

@@ -1,11 +1,11 @@
 -- Wherever the panel stands and whatever it shows, faces keep its anchor, and unlocking leaves the very panel
 -- that opens without a lock.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 local function frame(view) return { view.x, view.y, view.w, view.h } end
 local function look(phone)
   local views = { panel = frame(L.panel(phone)), content = frame(L.content(phone)), strip = frame(L.strip(phone)) }
-  local dots = phone:find{ parent = L.content(phone), tag = 56 }
+  local dots = phone:find{ parent = L.content(phone), tag = L.tags.dots }
   if dots then views.dots = frame(dots) end
   for i in ipairs(L.ids) do views[L.ids[i]] = frame(L.item(phone, i)) end
   return views

@@ -1,9 +1,10 @@
 -- The home screen's badges hidden and replaced by a small mark: where it stands, when it comes and goes, what colour
 -- it has, and which applications never get one.
-local H = dofile("lib_home.lua")
+local H = require("home")
 
-local function mark(phone, id) return phone:find{ parent = phone:icon(id), tag = 1953 } end
-local function marks(phone, id) return #phone:all{ parent = phone:icon(id), tag = 1953 } end
+local O = require("overlay")
+local mark = O.icon_mark
+local function marks(phone, id) return #phone:all{ parent = phone:icon(id), tag = O.tags.icon_mark } end
 local function badge(phone, id) return phone:find{ parent = phone:icon(id), class = "SBIconBadgeView" } end
 local all_on = { enable = true, b = true, newb = true }
 

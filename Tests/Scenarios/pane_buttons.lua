@@ -1,5 +1,5 @@
 -- What the pane does beside storing: restarting the home screen, sharing, Activator's page, one page an application.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 -- A restart, wanted or not.
 do

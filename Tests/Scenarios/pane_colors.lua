@@ -1,6 +1,6 @@
 -- The colour cards: they go round both ways, begin at the stored colour, show it on a preview, and store nothing until
 -- it is applied.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local icon = { "Configuration", "Status Bar Icon", "Glow Color" }
 local mark = { "Configuration", "Indeterminate Badges", "Mark Color" }

@@ -1,6 +1,6 @@
 -- A tablet that is turned while the colour cards show: they are laid out anew for the new side, once, and what is chosen
 -- after that is stored.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 local path = { "Configuration", "Status Bar Icon", "Glow Color" }
 
 for _, ios in ipairs{ "7.1", "8.1" } do

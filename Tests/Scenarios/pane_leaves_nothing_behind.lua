@@ -1,6 +1,6 @@
 -- Pages that were left are gone: going through all of them again and again, with sheets cancelled and colours swiped,
 -- leaves no more objects, timers or windows than before.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local function round(pane)
   P.go(pane, { "Configuration" })

@@ -1,6 +1,6 @@
 -- What stands on every page, in its order: labels, kinds, explaining texts, choices, icons; in two languages, and in
 -- English where the pane has no translation.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local function summary(pane)
   local list = {}

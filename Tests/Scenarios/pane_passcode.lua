@@ -1,5 +1,5 @@
 -- The passcode's life in the pane: set, changed, asked for, cancelled. Who does not know the code changes nothing.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local page = { "Configuration", "Passcode Lock" }
 

@@ -1,6 +1,6 @@
 -- Every page of the pane on a phone and on an iPad, upright and turned, in the languages of the package, as pictures;
 -- and that nothing on them is cut off or covered.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 -- Rows by their places, for labels are translated; negative ones count from the end.
 local pages = {

@@ -1,6 +1,6 @@
 -- The pane without its pictures, its texts, its neighbours, or a settings file that can be read: rows may be bare, but
 -- nothing breaks and what is touched is stored.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local support = "/Library/Application Support/Pendix/"
 

@@ -1,7 +1,7 @@
 -- The pane and the home screen of one device share nothing but the settings file: what is touched in the one is seen in
 -- the other within a second.
-local H = dofile("lib_home.lua")
-local P = dofile("lib_pane.lua")
+local H = require("home")
+local P = require("pane")
 
 for _, ios in ipairs{ "7.1", "8.1" } do
   local what = ios .. ": "

@@ -1,6 +1,6 @@
 -- A code that is set in the pane guards the panel of the home screen on the same device.
-local P = dofile("lib_pane.lua")
-local L = dofile("lib_lock.lua")
+local P = require("pane")
+local L = require("lock")
 
 local phone, pane = P.start({ enable = true }, {
   device = "iPhone 5", ios = "8.1", apps = { { id = L.ids[1], name = "Mail" }, { id = L.ids[2], name = "Messages" } },

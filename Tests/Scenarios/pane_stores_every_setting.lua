@@ -1,6 +1,6 @@
 -- Every switch, list and segment of every page, changed by touches: the file then holds exactly that key with that
 -- type and value, and everything else as it was.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local mail = "com.apple.mobilemail"
 -- The way to each page, and what asks for a restart.

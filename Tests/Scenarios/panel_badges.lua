@@ -1,6 +1,6 @@
 -- Counts on the icons: the home screen's own drawing in its own height, "999+" from a thousand on, and the colours of
 -- the other extension where it is installed and on.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local counts = { 1, 12, 999, 1000, 123456 }
 local function opened(color_badges, ios)
   local apps = P.numbered(#counts)

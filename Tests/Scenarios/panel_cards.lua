@@ -1,6 +1,6 @@
 -- Card mode: the newest snapshot in the screen's proportions with the icon at its lower edge; the panel grows by the
 -- card's height. Without a snapshot the card is empty.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 -- Icon 60 x 74 (tablet 76 x 93), the card as wide as the icon: 60 * 480 / 320 = 90, 60 * 568 / 320 = 106.5,
 -- 60 * 667 / 375 = 106.72, 76 * 1024 / 768 = 101 1/3.
 for _, case in ipairs{ { "iPhone 4S", "7.1", 60, 90, 74 }, { "iPhone 5s", "8.1", 60, 106.5, 74 },

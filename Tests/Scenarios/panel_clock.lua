@@ -1,5 +1,5 @@
 -- The Clock's icon is a clock: its hands start at the time of day and turn, except behind page dots.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local apps = { { id = P.clock, name = "Clock", badge = 1, running = true }, P.numbered(1)[1] }
 local second, minute, hour = 1000, 1001, 1002
 local function hand(phone, tag)

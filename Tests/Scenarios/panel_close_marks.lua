@@ -1,6 +1,6 @@
 -- With `close` on a long press brings up close marks, which take one application off; the next long press asks
 -- whether to take all. In running mode that quits them, in the way of the system's version.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local function marks(phone)
   local list = {}
   for i, item in ipairs(P.items(phone)) do list[i] = P.sub(phone, item, P.tag.mark) end

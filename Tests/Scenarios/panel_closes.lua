@@ -1,5 +1,5 @@
 -- The panel shrinks back into the indicator and leaves nothing behind, whatever closes it and whenever.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 
 -- A tap outside; on the way nothing counts twice.
 local phone = P.boot{ blur = true }

@@ -1,6 +1,6 @@
 -- Applications taken off in quick succession leave the others side by side, whoever goes first and however close
 -- together.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 for _, paging in ipairs{ false, true } do
   for _, pair in ipairs{ { 1, 2 }, { 2, 1 }, { 1, 3 }, { 3, 1 }, { 3, 2 } } do
     for _, pause in ipairs{ 0, 0.1, 0.25, 0.4 } do

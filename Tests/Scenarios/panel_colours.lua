@@ -1,5 +1,5 @@
 -- Dark and light: ink, paper and material of everything on the panel, and what lies behind it.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local black, white = "#000000ff", "#ffffffff"
 for _, light in ipairs{ false, true } do
   local ink, paper = light and black or white, light and white or black

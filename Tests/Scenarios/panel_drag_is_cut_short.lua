@@ -1,5 +1,5 @@
 -- A drag that the display's turning off cuts short takes nothing off, and leaves nothing stuck.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 for _, ios in ipairs{ "7.1", "8.1" } do
   local phone = L.boot({}, { device = "iPhone 5s", ios = ios })

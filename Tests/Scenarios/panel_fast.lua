@@ -1,5 +1,5 @@
 -- With `fast` everything takes a quarter of the time, but for the corners, which keep theirs.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local function longest(view, key)
   local most = 0
   for _, animation in ipairs(view.animations) do

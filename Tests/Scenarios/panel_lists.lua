@@ -1,5 +1,5 @@
 -- Who stands on the strip, in which order and how many side by side.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local versions = { "7.1", "8.1" }
 local function opened(settings, options)
   local phone = P.boot(settings, options)

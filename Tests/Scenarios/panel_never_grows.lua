@@ -1,6 +1,6 @@
 -- Hundreds of openings and closings, with scrolling, swipes and questions in between, leave no object, view or timer
 -- behind. The count may be given as the script's argument.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local rounds = math.tointeger(args[1] or 200)
 local function grows(what, settings, apps, between)
   local phone = P.boot(settings, { apps = apps })

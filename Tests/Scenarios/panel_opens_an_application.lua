@@ -1,6 +1,6 @@
 -- Open, look, open an application: the panel grows out of the indicator, lists what has a badge with the newest
 -- first, and a tap on one opens it and closes the panel.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 for _, ios in ipairs{ "7.1", "8.1" } do
   local phone = P.boot({}, { ios = ios })
   local indicator = phone:indicator()

@@ -1,6 +1,6 @@
 -- A paged strip: three a page, a dot for each page and the shown one in ink; a fling settles on a page; taking
 -- applications off keeps pages and dots in step.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local grey = "#808080ff"
 local function dots(phone)
   local colours = {}

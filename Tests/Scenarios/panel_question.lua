@@ -1,6 +1,6 @@
 -- A long press asks whether to clear everything: text, two buttons and the strip fill the grown panel without
 -- covering one another; both answers take the question away.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local function asked(phone, what, y)
   -- 110 + 110 = 65 of text, 45 of buttons and the strip.
   local panel = P.panel(phone)

@@ -1,6 +1,6 @@
 -- Reachability brings the panel down to the thumb and back up, unless the settings place it; the question grows to the
 -- side that stays.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local function pulled(phone, on)
   phone:reachability(on)
   phone:settle()

@@ -1,5 +1,5 @@
 -- A finger that scrolls the strip drags no application off it, however it goes on.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 for _, case in ipairs{ { "slanting", -120, 40 }, { "steeply at the end", -60, 90 } } do
   local phone = P.boot({}, { apps = P.numbered(9) })
   P.open(phone)

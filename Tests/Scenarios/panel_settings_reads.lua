@@ -1,6 +1,6 @@
 -- Opening with N applications reads the settings file at most 32 + N times, from the tap to the end of the animation,
 -- the poll and the follower included; and an open panel costs a steady number of reads.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local every = { paging = true, ca = true, light = true, blur = true, back = true, close = true, fast = false,
   rech = true, position = "middle", amount = 3, hide_t = true, tint = "blue" }
 for _, case in ipairs{ { {}, "8.1" }, { {}, "7.1" }, { every, "8.1" }, { every, "7.1" }, { { badge = true }, "8.1" },

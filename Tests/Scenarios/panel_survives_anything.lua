@@ -1,6 +1,6 @@
 -- Whatever a hurried person does, without waiting for anything to end: nothing crashes, nobody is lost or doubled, and
 -- once all has come to rest the panel stands in order and works. The number of rounds may be given as the argument.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local rounds = math.tointeger(args[1] or 6)
 local count = 7
 

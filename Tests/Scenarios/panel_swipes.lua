@@ -1,6 +1,6 @@
 -- A vertical drag past the strip's middle, up or down, clears that application's badge and closes the gap; a
 -- shorter one, one that returns and one along a scrolling strip do nothing.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local function nothing_happened(phone, mark, what)
   expect_eq(#P.since(phone, mark, "badge_set") + #P.since(phone, mark, "launch"), 0, what .. ": nothing else happened")
 end

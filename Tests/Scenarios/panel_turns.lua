@@ -1,6 +1,6 @@
 -- The panel turns with the device, stays under the indicator and on the screen, and works on its side as it does
 -- upright.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local apps = P.numbered(4)
 apps[4].badge = 0 -- the one in front
 local opposite = { 2, 1, 4, 3 }

@@ -1,5 +1,5 @@
 -- Without a class or a file of the system the extension goes on without that piece.
-local H = dofile("lib_home.lua")
+local H = require("home")
 for _, class in ipairs{ "_UIBackdropView", "_UIBackdropViewSettingsPasscodePaddle", "LSStatusBarItem", "LAActivator",
   "SBReachabilityManager", "PKFingerprintGlyphView", "SBIconViewMap", "SBIconController", "SBBannerController",
   "SBLockScreenViewController", "SBUIController", "UIStatusBarItemView", "SBApplication" } do

@@ -1,5 +1,5 @@
 -- Hours of pulsing, polling and changing badges leave no object behind and cost the same reads every hour.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local phone = boot{ settings = { enable = true, glow = true, hide_t = true, tint = "cyan" },
   apps = { { id = H.mail, name = "Mail", badge = 3 }, { id = H.phone, name = "Phone", folder = "Social" } } }
 local function an_hour()

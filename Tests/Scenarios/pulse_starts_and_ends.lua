@@ -1,5 +1,5 @@
 -- When the indicator pulses, in which colour, and what ends it.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local apps = H.apps(H.mail, H.phone)
 local function phone_with(settings) return boot{ settings = settings, apps = apps } end
 

@@ -1,6 +1,6 @@
 -- A status bar that lays itself out anew drops the glow, which comes back in the colour of the setting; an item
 -- without a view ends the pulse; a pulse stopped and started within a step runs on two timers.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local phone = boot{ settings = { enable = true, glow = true, tint = "green" }, apps = H.apps(H.mail) }
 phone:badge(H.mail, 1)
 expect_eq(H.glow(phone), "#00ff00ff", "the pulse glows in its colour")

@@ -1,6 +1,6 @@
 -- The poll reads the file four times a second while nothing changes, and at most twelve times when a watched key
 -- did; it writes nothing.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local function reads(phone, seconds)
   phone:reset_counters()
   phone:wait(seconds)

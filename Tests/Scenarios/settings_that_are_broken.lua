@@ -1,6 +1,6 @@
 -- A settings file that cannot be read, or holds the wrong kinds, reads as absent values: the launch goes on, and
 -- nothing is lost beyond what the launch itself writes.
-local H = dofile("lib_home.lua")
+local H = require("home")
 local texts = {
   empty = "", garbage = "\0\1\2\255 not a property list", ["a list"] = "( a, b )", ["a string"] = "hello",
   ["truncated XML"] = '<?xml version="1.0" encoding="UTF-8"?>\n<plist version="1.0"><dict><key>enable</key><tr',

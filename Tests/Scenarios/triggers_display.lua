@@ -1,6 +1,6 @@
 -- The display goes dark and comes back: the panel closes, the pulse rests, the lock is armed, and what changed in
 -- the dark shows; once each time, on every system.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 local pulsing = "<Pendix> Pulsing!"
 
 local function sleep(phone) phone:display(false); phone:settle() end

@@ -1,6 +1,6 @@
 -- The panel over the lock screen: it shows, asks for its code while the device is locked, and opens what was picked
 -- after the unlock, but not when it went dark in between.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 
 local function launches(phone)
   local ids = {}

@@ -1,5 +1,5 @@
 -- What opens and closes the panel apart from the indicator: an Activator event, the home button, banners.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 local error_line = "<Pendix> Error while showing UI!"
 
 local function marks(phone)

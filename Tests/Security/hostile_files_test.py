@@ -50,7 +50,7 @@ class Device:
     def run(self, settings, *missing):
         """{what the script tells: its text}; raises when an expectation failed."""
         with tempfile.TemporaryDirectory() as pictures:
-            result = subprocess.run([BUILD / "bin/pendix-sim", "run", ROOT / "Tests/Scenarios/lib_hostile_files.lua", "--out", pictures, "--",
+            result = subprocess.run([BUILD / "bin/pendix-sim", "run", ROOT / "Tests/Security/hostile_files.lua", "--out", pictures, "--",
                                      self.root, settings, *(f"/{path}" for path in missing)],
                                     capture_output=True, text=True)
         if result.returncode:

@@ -1,5 +1,5 @@
 -- Prints the panel's views in one mode on one device: `args` is the device, its system version and the mode.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local known = { { id = P.mail, name = "Mail", badge = 3 }, { id = P.clock, name = "Clock", badge = 1000 },
   { id = "com.apple.MobileSMS", name = "Messages", badge = 12 }, { id = "com.apple.mobilecal", name = "Calendar" } }
 local function apps(count)

@@ -1,5 +1,5 @@
 -- Helpers of the scenarios about the panel's lock and about what opens and closes the panel.
-local M = dofile("lib_home.lua")
+local M = require("overlay").extended(require("home"))
 
 M.ids = { "org.example.ada", "org.example.bob", "org.example.cyd" }
 M.names = { "Ada", "Bob", "Cyd" }
@@ -21,15 +21,11 @@ function M.boot_locked(settings, options)
   return M.boot(all, options)
 end
 
-function M.panel(phone) return phone:find{ window = "overlay", tag = 3 } end
-function M.content(phone) return phone:find{ parent = M.panel(phone), tag = 1 } end
-function M.strip(phone) return phone:find{ window = "overlay", class = "NewUIScrollView" } end
-function M.item(phone, i) return phone:find{ window = "overlay", name = M.ids[i] } end
-function M.is_open(phone) return M.panel(phone) ~= nil end
+local item = M.item
+function M.item(phone, i) return item(phone, M.ids[i]) end
 
 function M.tap_indicator(phone)
-  local i = phone:indicator()
-  phone:tap{ i.x + i.w / 2, i.y + i.h / 2 }
+  M.press_indicator(phone)
   phone:settle()
 end
 -- Beside the panel, wherever it stands.
@@ -50,8 +46,7 @@ function M.close(phone)
   expect(not M.is_open(phone), "a tap outside closes it")
 end
 
-M.tags = { ask = 44, finger = 45, keypad = 46 }
-function M.face_view(phone, face) return phone:find{ parent = M.content(phone), tag = M.tags[face] } end
+M.face_view = M.face
 function M.part(phone, face, tag) return phone:find{ parent = M.face_view(phone, face), tag = tag } end
 
 -- What a person sees in the panel: "ask", "finger", "keypad" or "list".
@@ -64,17 +59,13 @@ function M.shown(phone)
   return shown or M.strip(phone).presented_alpha > 0.99 and "list" or "nothing"
 end
 
-function M.key(phone, digit) return M.part(phone, "keypad", digit == 0 and 100 or digit * 10) end
-function M.type(phone, digits)
-  for digit in digits:gmatch("%d") do phone:tap(M.key(phone, tonumber(digit))) end
-end
 -- Types a code and waits for what comes of it.
 function M.enter(phone, digits)
   M.type(phone, digits)
   phone:settle()
 end
-function M.button(phone) return M.part(phone, "keypad", -2) end
-function M.title(phone, face) return M.part(phone, face, -1).text end
+function M.button(phone) return M.part(phone, "keypad", M.tags.button) end
+function M.title(phone, face) return M.part(phone, face, M.tags.title).text end
 
 -- The digits that the dots hold, and which of the dots are filled.
 function M.entered(phone)
@@ -118,7 +109,7 @@ function M.nothing_shows(phone, what)
     expect(phone:find{ window = "overlay", text = name, visible = true } == nil, what .. name .. "'s name does not show")
   end
   expect_eq(#phone:all{ inside = M.strip(phone), visible = true }, 0, what .. "nothing on the strip shows")
-  local dots = phone:find{ parent = M.content(phone), tag = 56 }
+  local dots = phone:find{ parent = M.content(phone), tag = M.tags.dots }
   expect(not dots or #phone:all{ inside = dots, visible = true } == 0, what .. "no page dot shows")
 end
 

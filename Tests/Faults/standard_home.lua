@@ -1,10 +1,10 @@
 -- The part of the standard day that happens on the home screen.
-local H = dofile("lib_hands.lua")
+local H = require("hands")
 local ids, tags = H.ids, H.tags
 local overlay, top, panel, strip, item, sub, face, count =
   H.overlay, H.top, H.panel, H.strip, H.item, H.sub, H.face, H.count
 local logged, place, items, names, open, beside, close, badges =
-  H.logged, H.place, H.items, H.names, H.open, H.beside, H.close, H.badges
+  H.logged, H.indicator_place, H.items, H.listed, H.open, H.beside, H.close, H.badges
 local to_lock_screen, moves, code =
   H.to_lock_screen, H.moves, H.code
 
@@ -20,16 +20,16 @@ return {
     return { moves(phone), phone:indicator().shadow_color or "none" }
   end },
   { "marks on icons", function(phone)
-    local mark = sub(phone, phone:icon(ids[1]), tags.mark)
+    local mark = H.icon_mark(phone, ids[1])
     return { mark ~= nil, mark and mark.image ~= nil and mark.w > 0 }
   end },
   { "marks fade with their application", function(phone)
     phone:run(ids[1])
     phone:settle()
-    local open_alpha = sub(phone, phone:icon(ids[1]), tags.mark).alpha
+    local open_alpha = H.icon_mark(phone, ids[1]).alpha
     phone:home()
     phone:settle()
-    return { open_alpha, sub(phone, phone:icon(ids[1]), tags.mark).alpha }
+    return { open_alpha, H.icon_mark(phone, ids[1]).alpha }
   end },
   { "home screen's badges hidden", function(phone)
     return phone:find{ parent = phone:icon(ids[1]), class = "SBIconBadgeView" }.hidden
@@ -239,12 +239,12 @@ return {
   end },
   { "glyph of the finger", function(phone)
     open(phone)
-    return phone:find{ inside = face(phone, tags.finger), class = "PKGlyphView" } ~= nil
+    return phone:find{ inside = face(phone, "finger"), class = "PKGlyphView" } ~= nil
   end },
   { "the code opens beside the finger", function(phone)
     open(phone)
-    if face(phone, tags.keypad).x ~= 0 then
-      phone:tap(sub(phone, face(phone, tags.finger), 3))
+    if face(phone, "keypad").x ~= 0 then
+      phone:tap(sub(phone, face(phone, "finger"), tags.to_keypad))
       phone:settle()
     end
     code(phone, "1234")
@@ -255,11 +255,11 @@ return {
     to_lock_screen(phone)
     phone:activator()
     phone:settle()
-    local asked = face(phone, tags.keypad) ~= nil
+    local asked = face(phone, "keypad") ~= nil
     phone:unlock()
     phone:settle()
     open(phone)
-    return { asked, face(phone, tags.keypad) == nil }
+    return { asked, face(phone, "keypad") == nil }
   end, after = function(phone)
     phone:display(true)
     phone:unlock()

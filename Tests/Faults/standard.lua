@@ -2,8 +2,8 @@
 -- one table, from the name of the thing to what came of it; compare it with the table of a device without a fault.
 local M = {}
 
-local H = dofile("lib_hands.lua")
-local home = dofile("lib_standard_home.lua")
+local H = require("hands")
+local home = require("standard_home")
 local settings = { enable = true, glow = true, tint = "green", pass = false, password = "1234", b = true, newb = true,
   back = false }
 
@@ -17,7 +17,7 @@ local function try(results, list, process, tidy)
   end
 end
 
-local pane_steps = dofile("lib_standard_pane.lua")
+local pane_steps = require("standard_pane")
 
 -- The steps in Settings that belong to a run: "all" of them, "looks" for what the pages show, "none".
 local function in_settings(which)

@@ -1,10 +1,6 @@
 -- Helpers of the panel's scenarios: what a person does to it, and its views as they stand.
-local H = dofile("lib_home.lua")
-local P = setmetatable({}, { __index = H })
-
--- The tags of the overlay's views.
-P.tag = { dismiss = -1, logo = 1, bubble = 2, panel = 3, content = 1, dots = 56, screen = 21, clock = 10, icon = 1,
-  card = -19, mark = -1, badge = 99, text = 100, cancel = 101, ok = 102 }
+local P = require("overlay").extended(require("home"))
+P.tag, P.ids = P.tags, P.listed
 
 function P.must(value, what)
   if value == nil then
@@ -41,34 +37,10 @@ function P.boot(settings, options)
   return boot(all)
 end
 
-function P.overlay(phone) return phone:find{ window = "overlay", class = "UIWindow" } end
-function P.top(phone, tag) return phone:find{ parent = P.overlay(phone), tag = tag } end
-function P.panel(phone) return P.top(phone, P.tag.panel) end
+local content = P.content
 function P.content(phone)
-  return phone:find{ parent = P.must(P.panel(phone), "the panel is shown"), tag = P.tag.content }
-end
-function P.strip(phone) return phone:find{ parent = P.content(phone), class = "NewUIScrollView" } end
-function P.part(phone, tag) return phone:find{ parent = P.content(phone), tag = tag } end
-function P.sub(phone, view, tag) return phone:find{ parent = view, tag = tag } end
-
--- The items from left to right.
-function P.items(phone)
-  local list = {}
-  for _, view in ipairs(P.strip(phone).children) do
-    if view.name and view.name ~= "" then list[#list + 1] = view end
-  end
-  table.sort(list, function(a, b) return a.x < b.x end)
-  return list
-end
-
-function P.ids(phone)
-  local list = {}
-  for i, item in ipairs(P.items(phone)) do list[i] = item.name end
-  return list
-end
-
-function P.item(phone, id)
-  for _, item in ipairs(P.items(phone)) do if item.name == id then return item end end
+  P.must(P.panel(phone), "the panel is shown")
+  return content(phone)
 end
 
 -- The text that the empty strip shows.
@@ -88,22 +60,12 @@ function P.near(view, wanted, what)
   end
 end
 
-function P.press_indicator(phone)
-  local i = phone:indicator()
-  phone:tap{ i.x + i.w / 2, i.y + i.h / 2 }
-end
 function P.open(phone)
   P.press_indicator(phone)
   phone:settle()
   P.must(P.panel(phone), "a tap on the indicator opens the panel")
 end
 
--- A point that neither the panel nor the bubble covers.
-function P.outside(phone)
-  local window, panel = P.overlay(phone), P.panel(phone)
-  local low = window.h - 20
-  return { 5, panel and panel.y + panel.h > low - 10 and window.h / 4 or low }
-end
 function P.close(phone)
   phone:tap(P.outside(phone))
   phone:settle()
@@ -121,18 +83,6 @@ function P.closed(phone)
   for _, view in ipairs(phone:all{ window = "statusbar", class = "UIStatusBarItemView" }) do
     if view.x ~= own then expect_eq(view.alpha, 1, "the status bar is itself again") end
   end
-end
-
--- Off the strip, past its middle by a little.
-function P.swipe_down(phone, item)
-  phone:drag(item, 0, P.strip(phone).h / 2 - item.y + 30, 0.3)
-end
-function P.swipe_up(phone, item)
-  phone:drag(item, 0, P.strip(phone).h / 2 - item.y - item.h - 30, 0.3)
-end
-function P.long_press(phone, item)
-  phone:hold(item, 2)
-  phone:settle()
 end
 
 -- Events of that kind since `mark`, which is a number of events.

@@ -1,6 +1,6 @@
 -- A home screen on a device folder in which somebody has spoilt files; Tests/Security runs it.
 -- ARGS: the folder, what is set ("cards", "ask" or "file": what lies there), and installed files that are not.
-local L = dofile("lib_lock.lua")
+local L = require("lock")
 local settings = { cards = { ca = true, badge = true }, ask = { ask = true, pass = true, password = "1234", where = "every" } }
 local root, set = args[1], args[2]
 local options = { root = root, missing_files = { table.unpack(args, 3) } }
