@@ -127,6 +127,33 @@ local activities = {
       phone:wait(1)
     end
   end },
+  ["scrolled, swiped and asked"] = { { paging = true }, function(phone, n)
+    L.open(phone)
+    phone:fling({ 160, 90 }, -150, 0, 0.15)
+    phone:settle()
+    L.swipe_down(phone, L.items(phone)[3])
+    phone:settle()
+    L.long_press(phone, L.items(phone)[2])
+    phone:tap(L.part_of_panel(phone, n % 2 == 0 and L.tags.ok or L.tags.cancel))
+    phone:settle()
+    for i, id in ipairs(L.ids) do
+      phone:badge(id, 0)
+      phone:badge(id, i)
+    end
+    L.close(phone)
+  end, { device = "iPhone 5s" } },
+  ["close marks"] = { { close = true, badge = true }, function(phone)
+    L.open(phone)
+    L.long_press(phone, L.items(phone)[1])
+    phone:tap(L.sub(phone, L.items(phone)[2], L.tags.mark))
+    phone:settle()
+    for _, id in ipairs(L.ids) do
+      phone:run(id)
+      phone:home()
+      phone:settle()
+    end
+    if L.is_open(phone) then L.close(phone) end
+  end },
   ["Settings opened and closed"] = { {}, visit_settings, slow = true },
 }
 

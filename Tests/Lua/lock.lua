@@ -46,7 +46,7 @@ function M.close(phone)
   expect(not M.is_open(phone), "a tap outside closes it")
 end
 
-M.face_view = M.face
+M.face_view, M.part_of_panel = M.face, M.part
 function M.part(phone, face, tag) return phone:find{ parent = M.face_view(phone, face), tag = tag } end
 
 -- What a person sees in the panel: "ask", "finger", "keypad" or "list".

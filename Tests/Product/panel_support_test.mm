@@ -1,13 +1,14 @@
-// The small pieces on which the panel stands: the swipe's delegate, the strip's own knowledge of moving, the
-// colours of an image, the shimmer and the snapshot that a card shows.
+// The small pieces on which the panel stands: the colours of an image, the shimmer and the snapshot that a
+// card shows.
 #include "Tweak/Core/Support/UIImage+AverageColor.h"
 #include "Tweak/Core/Support/UIView+Shimmer.h"
-#include "Tweak/Panel/NewUIScrollView.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Start/HookTable.h"
 
+#include "Render/Renderer.hpp"
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"
+#include "UIKit/Application/ApplicationState.h"
 
 #include <UIKit/UIKit.h>
 
@@ -33,37 +34,6 @@ std::string hex(UIColor *color) {
     snprintf(text, sizeof text, "%02lx%02lx%02lx%02lx", lround(red * 255), lround(green * 255),
              lround(blue * 255), lround(alpha * 255));
     return text;
-}
-
-TEST_F(PanelSupport, SwipesGoAlongWithScrolling) {
-    swipeController *delegate = [[swipeController new] autorelease];
-    UIPanGestureRecognizer *pan = [[UIPanGestureRecognizer new] autorelease],
-                           *other = [[UIPanGestureRecognizer new] autorelease];
-    EXPECT_TRUE([delegate isKindOfClass:[UISwipeGestureRecognizer class]]);
-    EXPECT_TRUE([delegate gestureRecognizerShouldBegin:pan]);
-    EXPECT_TRUE([delegate gestureRecognizer:pan shouldRecognizeSimultaneouslyWithGestureRecognizer:other]);
-    EXPECT_TRUE([delegate gestureRecognizer:pan shouldReceiveTouch:nil]);
-    id answers = delegate; // the last two are a scroll view's questions
-    UIScrollView *scroller = answers;
-    EXPECT_TRUE([scroller touchesShouldBegin:nil withEvent:nil inContentView:nil]);
-    EXPECT_FALSE([scroller touchesShouldCancelInContentView:nil]);
-}
-
-TEST_F(PanelSupport, StripKnowsWhetherItMoves) {
-    NewUIScrollView *strip = [[[NewUIScrollView alloc] initWithFrame:CGRectMake(0, 0, 100, 50)] autorelease];
-    EXPECT_EQ(strip.delegate, (id)strip);
-    EXPECT_FALSE([strip scrolling]);
-    [strip scrollViewDidScroll:strip];
-    EXPECT_TRUE([strip scrolling]);
-    [strip scrollViewDidEndDragging:strip willDecelerate:YES];
-    EXPECT_FALSE([strip scrolling]) << "whether it goes on or not";
-    [strip scrollViewDidScroll:strip];
-    [strip scrollViewDidEndDecelerating:strip];
-    EXPECT_FALSE([strip scrolling]);
-    strip.contentSize = CGSizeMake(300, 50);
-    strip.contentOffset = CGPointMake(30, 0);
-    [strip contentDidChange];
-    EXPECT_FALSE([strip scrolling]) << "nothing holds it";
 }
 
 TEST_F(PanelSupport, TurnsDegreesIntoRadians) {
@@ -102,21 +72,50 @@ TEST_F(PanelSupport, ColoursOfAnImage) {
     }
 }
 
-TEST_F(PanelSupport, ShimmersUntilStopped) {
-    UIView *view = [[[UIView alloc] initWithFrame:CGRectMake(10, 20, 80, 40)] autorelease];
+// The darkest column of the view's middle row, in tenths of its width, and how bright it is there in
+// hundredths; what somebody sees who looks at it.
+std::pair<long, long> dimmest(CGRect frame) {
+    static render::Renderer renderer;
+    const render::Bitmap &picture = renderer.draw(sim::currentScene());
+    const auto row = static_cast<int>(CGRectGetMidY(frame) * picture.scale);
+    const auto left = static_cast<int>(frame.origin.x * picture.scale),
+               width = static_cast<int>(frame.size.width * picture.scale);
+    std::pair<long, long> found{-1, 100};
+    for (int column = left; column < left + width; ++column) {
+        const uint32_t pixel = picture.pixels.at(static_cast<size_t>(row * picture.width + column));
+        const long brightness = lround((pixel & 0xff) / 2.55);
+        if (brightness < found.second) found = {lround(10.0 * (column - left) / width), brightness};
+    }
+    return found;
+}
+
+// A dim band crosses the view from left to right within a second, and again every five.
+TEST_F(PanelSupport, ADimBandSweepsAcrossUntilStopped) {
+    const CGRect frame = CGRectMake(10, 20, 100, 40);
+    UIWindow *window = [[UIWindow alloc] initWithFrame:CGRectMake(0, 0, 320, 568)];
+    window.windowLevel = 5000;
+    window.backgroundColor = [UIColor blackColor];
+    window.hidden = NO;
+    UIView *view = [[[UIView alloc] initWithFrame:frame] autorelease];
+    view.backgroundColor = [UIColor whiteColor];
+    [window addSubview:view];
     [view startShimmering];
-    CAGradientLayer *band = (CAGradientLayer *)view.layer.mask;
-    ASSERT_TRUE([band isKindOfClass:[CAGradientLayer class]]);
-    EXPECT_TRUE(CGRectEqualToRect(band.frame, CGRectMake(-80, 0, 240, 40)));
-    EXPECT_TRUE(CGPointEqualToPoint(band.startPoint, CGPointMake(0, 0.5)));
-    EXPECT_TRUE(CGPointEqualToPoint(band.endPoint, CGPointMake(2.5, 0.525)));
-    EXPECT_EQ([band.colors count], 3u);
-    CABasicAnimation *sweep = (CABasicAnimation *)[band animationForKey:@"shimmer"];
-    EXPECT_EQ(sweep.duration, 5);
-    EXPECT_TRUE(std::isinf(sweep.repeatCount));
-    EXPECT_EQ(harness::text(sweep.keyPath), "locations");
+    struct {
+        double wait;
+        long place; // tenths of the width; -1: nothing is dim
+    } const moments[] = {{0.3125, 1}, {0.3125, 5}, {0.3125, 9}, {1.5, -1}, {2.5, -1}, {0.6875, 5}};
+    for (const auto &moment : moments) {
+        harness::wait(moment.wait);
+        const auto [place, brightness] = dimmest(frame);
+        if (moment.place < 0) {
+            EXPECT_GT(brightness, 97);
+        } else {
+            EXPECT_NEAR(place, moment.place, 1);
+            EXPECT_NEAR(brightness, 10, 3);
+        }
+    }
     [view stopShimmering];
-    EXPECT_EQ(view.layer.mask, nil);
+    EXPECT_GT(dimmest(frame).second, 97);
 }
 
 TEST_F(PanelSupport, CardsShowTheFirstPortraitThatCanBeShown) {

@@ -3,11 +3,12 @@
 local P = require("panel")
 local every = { paging = true, ca = true, light = true, blur = true, back = true, close = true, fast = false,
   rech = true, position = "middle", amount = 3, hide_t = true, tint = "blue" }
-for _, case in ipairs{ { {}, "8.1" }, { {}, "7.1" }, { every, "8.1" }, { every, "7.1" }, { { badge = true }, "8.1" },
+local locked = { pass = true, password = "1234", where = "every", touchid = true, ask = true, paging = true }
+for _, case in ipairs{ { {}, "8.1" }, { locked, "8.1" }, { {}, "7.1" }, { every, "8.1" }, { every, "7.1" }, { { badge = true }, "8.1" },
   { { badge = true, paging = true, ca = true }, "7.1" } } do
   for _, count in ipairs{ 0, 1, 10, 100 } do
     local what = case[2] .. ", " .. count .. " applications, " .. (case[1].badge and "running" or "badged") ..
-      (case[1].ca and ", everything on" or "")
+      (case[1].ca and ", everything on" or case[1].pass and ", locked" or "")
     local phone = P.boot(case[1], { ios = case[2], apps = P.numbered(count, { running = true }) })
     phone:wait(0.7) -- so that the poll's tick falls into the opening
     phone:reset_counters()
