@@ -1,4 +1,4 @@
-"""Runs the standard day with one fault at a time and holds what is lost against the tables of docs/reliability.md.
+"""Runs the standard day with one fault at a time and holds what is lost against the tables of Tests/Faults/losses.md.
 
 fault_table.py SIMULATOR SOURCE STAGE KIND [--part I/N] [--jobs N] [--quick] [--write]
 
@@ -139,17 +139,17 @@ def main():
             print(f"{name}: {shown(*rows[name])}")
         print("\n".join(problems) if problems else f"{len(rows)} pairs survived")
         return 1 if problems else 0
-    document = options.source / "docs" / "reliability.md"
+    document = options.source / "Tests" / "Faults" / "losses.md"
     text = document.read_text()
     lines = table(options.kind, rows)
     if options.write and parts == 1 and not options.quick:
         document.write_text(replaced(text, options.kind, lines))
     else:
         known = documented(text, options.kind)
-        problems += [f"not in docs/reliability.md: {line}" for line in lines if line not in known]
+        problems += [f"not in Tests/Faults/losses.md: {line}" for line in lines if line not in known]
         if len(known) - 2 != len(every):
-            problems.append(f"docs/reliability.md knows {len(known) - 2} faults of this kind, there are {len(every)}")
-    print("\n".join(problems) if problems else f"{len(rows)} faults survived, as docs/reliability.md says")
+            problems.append(f"Tests/Faults/losses.md knows {len(known) - 2} faults of this kind, there are {len(every)}")
+    print("\n".join(problems) if problems else f"{len(rows)} faults survived, as Tests/Faults/losses.md says")
     return 1 if problems else 0
 
 
