@@ -1,4 +1,4 @@
-#include "Frame/NodeComparison.hpp"
+#include "Render/Frame/NodeComparison.hpp"
 
 namespace render {
 

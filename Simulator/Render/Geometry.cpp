@@ -9,12 +9,12 @@ namespace {
 using Verb = PathElement::Verb;
 
 // How far the control points of a quarter circle lie from its ends, in radii.
-constexpr double quarterCircle = 0.5522847498307936;
+constexpr double kQuarterCircle = 0.5522847498307936;
 
 // A rounded rectangle whose corners are quarters of ellipses.
 Path roundedBox(const Rect &rect, double rx, double ry) {
     double left = rect.x, top = rect.y, right = rect.x + rect.width, bottom = rect.y + rect.height;
-    double kx = rx * (1 - quarterCircle), ky = ry * (1 - quarterCircle);
+    double kx = rx * (1 - kQuarterCircle), ky = ry * (1 - kQuarterCircle);
     return {{
         {Verb::move, {{left + rx, top}}},
         {Verb::line, {{right - rx, top}}},

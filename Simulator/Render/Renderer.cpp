@@ -1,7 +1,7 @@
 #include "Renderer.hpp"
 
-#include "Frame/Compositor.hpp"
-#include "Text/Fonts.hpp"
+#include "Render/Frame/Compositor.hpp"
+#include "Render/Text/Fonts.hpp"
 
 namespace render {
 

@@ -8,9 +8,9 @@ namespace render {
 namespace {
 
 // Far outside of any screen, and still exact in the fixed-point numbers of the rasteriser.
-constexpr double farAway = 1 << 20;
+constexpr double kFarAway = 1 << 20;
 
-int pixel(double value) { return static_cast<int>(std::clamp(value, -farAway, farAway)); }
+int pixel(double value) { return static_cast<int>(std::clamp(value, -kFarAway, kFarAway)); }
 
 PixelRect between(double left, double top, double right, double bottom) {
     if (!(right > left) || !(bottom > top)) return {};
@@ -62,8 +62,9 @@ Affine inverse(const Affine &t) {
 }
 
 bool keepsUpright(const Affine &t) {
-    constexpr double none = 1e-9;
-    return (std::abs(t.b) < none && std::abs(t.c) < none) || (std::abs(t.a) < none && std::abs(t.d) < none);
+    constexpr double kNone = 1e-9;
+    return (std::abs(t.b) < kNone && std::abs(t.c) < kNone) ||
+           (std::abs(t.a) < kNone && std::abs(t.d) < kNone);
 }
 
 Rect inset(const Rect &rect, double by) {

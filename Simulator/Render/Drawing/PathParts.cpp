@@ -17,11 +17,11 @@ Point between(Point from, Point to, double part) {
 }
 
 void addCurve(Line &line, const Point control[3]) {
-    constexpr int fewest = 8, most = 128;
+    constexpr int kFewest = 8, kMost = 128;
     Point from = line.back();
     double reach =
         distance(from, control[0]) + distance(control[0], control[1]) + distance(control[1], control[2]);
-    int pieces = static_cast<int>(std::clamp<double>(reach, fewest, most));
+    int pieces = static_cast<int>(std::clamp<double>(reach, kFewest, kMost));
     for (int i = 1; i <= pieces; i++) {
         double t = static_cast<double>(i) / pieces;
         Point a = between(from, control[0], t), b = between(control[0], control[1], t),

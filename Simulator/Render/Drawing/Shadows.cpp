@@ -10,10 +10,10 @@ namespace render {
 
 namespace {
 
-constexpr double finestSigma = 4; // cells; below it the blur would show the cells
-constexpr int coarsest = 8;
-constexpr int largestSide = 16384;    // pixels
-constexpr double greatestSigma = 400; // pixels; softer ones look like nothing at all
+constexpr double kFinestSigma = 4; // cells; below it the blur would show the cells
+constexpr int kCoarsest = 8;
+constexpr int kLargestSide = 16384;    // pixels
+constexpr double kGreatestSigma = 400; // pixels; softer ones look like nothing at all
 
 // The mask's bytes, blurred in place.
 void blurMask(cairo_surface_t *surface, const BlurSteps &steps) {
@@ -44,25 +44,25 @@ void addToKey(CacheKey &key, const Path &path) {
 }
 
 size_t bytesOf(const ShadowMask &mask) {
-    constexpr size_t bookkeeping = 512;
-    if (!mask.alpha) return bookkeeping;
-    return bookkeeping + static_cast<size_t>(cairo_image_surface_get_stride(mask.alpha.get())) *
-                             cairo_image_surface_get_height(mask.alpha.get());
+    constexpr size_t kBookkeeping = 512;
+    if (!mask.alpha) return kBookkeeping;
+    return kBookkeeping + static_cast<size_t>(cairo_image_surface_get_stride(mask.alpha.get())) *
+                              cairo_image_surface_get_height(mask.alpha.get());
 }
 
 } // namespace
 
 ShadowFrame shadowFrame(const Rect &outline, double sigma) {
-    double soft = std::min(sigma, greatestSigma);
+    double soft = std::min(sigma, kGreatestSigma);
     ShadowFrame frame;
-    frame.factor = std::clamp(static_cast<int>(soft / finestSigma), 1, coarsest);
+    frame.factor = std::clamp(static_cast<int>(soft / kFinestSigma), 1, kCoarsest);
     frame.steps = blurSteps(soft / frame.factor);
     frame.area = inflate(roundOut(outline), (frame.steps.reach() + 1) * frame.factor);
     return frame;
 }
 
 ShadowMask makeShadow(const ShadowFrame &frame, const Affine &linear, const FillOutline &fill) {
-    if (frame.area.empty() || std::max(frame.area.width, frame.area.height) > largestSide)
+    if (frame.area.empty() || std::max(frame.area.width, frame.area.height) > kLargestSide)
         return {frame, nullptr};
     auto cells = [&frame](int pixels) { return (pixels + frame.factor - 1) / frame.factor; };
     Surface surface(

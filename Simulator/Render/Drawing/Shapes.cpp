@@ -9,7 +9,7 @@ namespace render {
 
 namespace {
 
-constexpr double miterLimit = 10; // the platform's default
+constexpr double kMiterLimit = 10; // the platform's default
 
 bool strokes(const Shape &shape) {
     return shape.stroke && shape.strokeWidth > 0 && shape.strokeEnd > shape.strokeStart;
@@ -23,7 +23,7 @@ void stroke(cairo_t *context, const Shape &shape) {
                   : partOf(shape.path, std::max(0.0, shape.strokeStart), std::min(1.0, shape.strokeEnd)));
     setSource(context, *shape.stroke);
     cairo_set_line_width(context, shape.strokeWidth);
-    cairo_set_miter_limit(context, miterLimit);
+    cairo_set_miter_limit(context, kMiterLimit);
     cairo_set_line_cap(context, shape.roundCaps ? CAIRO_LINE_CAP_ROUND : CAIRO_LINE_CAP_BUTT);
     cairo_stroke(context);
 }
@@ -42,7 +42,7 @@ void drawShape(cairo_t *context, const Shape &shape) {
 
 Rect extent(const Shape &shape) {
     Rect box = boundsOf(shape.path);
-    return strokes(shape) ? inset(box, -shape.strokeWidth / 2 * miterLimit) : box;
+    return strokes(shape) ? inset(box, -shape.strokeWidth / 2 * kMiterLimit) : box;
 }
 
 } // namespace render

@@ -9,8 +9,8 @@ namespace render {
 namespace {
 
 int pixels(double points, double scale) {
-    constexpr double most = 16384;
-    return static_cast<int>(std::lround(std::clamp(points * scale, 0.0, most)));
+    constexpr double kMost = 16384;
+    return static_cast<int>(std::lround(std::clamp(points * scale, 0.0, kMost)));
 }
 
 // Calls `visit` with every area that changed below an item, `oldLimit` and `newLimit` its indexes.

@@ -11,7 +11,7 @@ namespace render {
 namespace {
 
 // An outline casts no shadow farther from its node's origin; no screen is that large.
-constexpr PixelRect shadowRange = {-4096, -4096, 8192, 8192};
+constexpr PixelRect kShadowRange = {-4096, -4096, 8192, 8192};
 
 // One pixel more on each side for smoothed edges.
 PixelRect pixelsOf(const Rect &rect, const Affine &toDevice) {
@@ -108,7 +108,7 @@ Items layOutItems(std::span<const Node> roots, const Affine &toDevice, const Pix
 
 ShadowFrame outlineFrame(const Node &node, const Affine &linear) {
     Items items;
-    Layout(items, shadowRange).addAlone(node, linear);
+    Layout(items, kShadowRange).addAlone(node, linear);
     if (items.front().whole.empty()) return {};
     return shadowFrame(toRect(items.front().whole), sigmaOf(node.shadow->radius, linear));
 }

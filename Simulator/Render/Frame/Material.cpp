@@ -6,7 +6,7 @@ namespace render {
 
 namespace {
 
-constexpr float one = 255 * 256; // a full channel
+constexpr float kOne = 255 * 256; // a full channel
 enum Channel { blue, green, red, alpha };
 
 using Colors = float[4];
@@ -21,22 +21,22 @@ void paintOver(Colors &color, const Rgba &paint) {
     auto keep = static_cast<float>(1 - paint.alpha);
     const double parts[] = {paint.blue, paint.green, paint.red, 1};
     for (Channel c : {blue, green, red, alpha})
-        color[c] = color[c] * keep + static_cast<float>(parts[c] * paint.alpha) * one;
+        color[c] = color[c] * keep + static_cast<float>(parts[c] * paint.alpha) * kOne;
 }
 
 } // namespace
 
 int reductionFor(double blurRadius, double scale) {
-    constexpr double finestSigma = 2; // cells; below it the cells would show
+    constexpr double kFinestSigma = 2; // cells; below it the cells would show
     double sigma = blurRadius * scale;
     if (!(sigma > 0)) return 1;
     for (int factor : {scale > 2 ? 6 : 4, 3, 2})
-        if (sigma / factor >= finestSigma) return factor;
+        if (sigma / factor >= kFinestSigma) return factor;
     return 1;
 }
 
 void reduce(const Bitmap &source, int factor, Bitmap &target, int x, int y) {
-    constexpr uint32_t even = 0x00ff00ff;
+    constexpr uint32_t kEven = 0x00ff00ff;
     for (int top = 0; top < source.height; top += factor) {
         int rows = std::min(factor, source.height - top);
         uint32_t *to = target.pixels.data() + static_cast<size_t>(y + top / factor) * target.width + x;
@@ -47,8 +47,8 @@ void reduce(const Bitmap &source, int factor, Bitmap &target, int x, int y) {
                 const uint32_t *from =
                     source.pixels.data() + static_cast<size_t>(top + row) * source.width + left;
                 for (int column = 0; column < columns; column++) {
-                    low += from[column] & even;
-                    high += from[column] >> 8 & even;
+                    low += from[column] & kEven;
+                    high += from[column] >> 8 & kEven;
                 }
             }
             auto count = static_cast<uint32_t>(rows * columns);

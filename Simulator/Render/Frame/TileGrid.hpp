@@ -8,28 +8,28 @@ namespace render {
 
 class TileGrid {
 public:
-    static constexpr int side = 96; // a multiple of every factor by which backdrops are reduced
+    static constexpr int kSide = 96; // a multiple of every factor by which backdrops are reduced
 
     TileGrid() = default;
     TileGrid(int width, int height)
-        : width_(width), height_(height), columns_((width + side - 1) / side),
-          rows_((height + side - 1) / side) {}
+        : width_(width), height_(height), columns_((width + kSide - 1) / kSide),
+          rows_((height + kSide - 1) / kSide) {}
 
     int count() const { return columns_ * rows_; }
     PixelRect screen() const { return {0, 0, width_, height_}; }
     PixelRect rect(int tile) const {
-        return intersect(screen(), {tile % columns_ * side, tile / columns_ * side, side, side});
+        return intersect(screen(), {tile % columns_ * kSide, tile / columns_ * kSide, kSide, kSide});
     }
     // The tile that a pixel of the screen lies in.
-    int at(int x, int y) const { return y / side * columns_ + x / side; }
+    int at(int x, int y) const { return y / kSide * columns_ + x / kSide; }
 
     // Calls `visit` with each tile that `area` touches.
     template <typename Visit>
     void forEach(const PixelRect &area, const Visit &visit) const {
         PixelRect part = intersect(screen(), area);
         if (part.empty()) return;
-        for (int row = part.y / side; row <= (part.y + part.height - 1) / side; row++)
-            for (int column = part.x / side; column <= (part.x + part.width - 1) / side; column++)
+        for (int row = part.y / kSide; row <= (part.y + part.height - 1) / kSide; row++)
+            for (int column = part.x / kSide; column <= (part.x + part.width - 1) / kSide; column++)
                 visit(row * columns_ + column);
     }
 
@@ -37,9 +37,9 @@ public:
     PixelRect widened(const PixelRect &area) const {
         PixelRect part = intersect(screen(), area);
         if (part.empty()) return part;
-        int x = part.x / side * side, y = part.y / side * side;
-        int right = (part.x + part.width + side - 1) / side * side;
-        int bottom = (part.y + part.height + side - 1) / side * side;
+        int x = part.x / kSide * kSide, y = part.y / kSide * kSide;
+        int right = (part.x + part.width + kSide - 1) / kSide * kSide;
+        int bottom = (part.y + part.height + kSide - 1) / kSide * kSide;
         return intersect(screen(), {x, y, right - x, bottom - y});
     }
 

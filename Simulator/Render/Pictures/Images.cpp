@@ -10,7 +10,7 @@ namespace render {
 
 namespace {
 
-constexpr int largestSide = 8192;
+constexpr int kLargestSide = 8192;
 
 size_t bytesOf(const Bitmap &bitmap) { return bitmap.pixels.size() * sizeof(uint32_t); }
 
@@ -23,9 +23,9 @@ Size magnification(const Affine &toDevice, const Rect &rect, const Bitmap &bitma
 // How often a bitmap may be halved before it would have to be enlarged again. Down to half its size, blending
 // neighbours already takes all pixels into account.
 int halvings(const Size &magnification) {
-    constexpr double almost = 0.05, most = 6;
+    constexpr double kAlmost = 0.05, kMost = 6;
     double larger = std::max(magnification.width, magnification.height);
-    return larger > 0 ? static_cast<int>(std::clamp(std::floor(almost - std::log2(larger)), 0.0, most)) : 0;
+    return larger > 0 ? static_cast<int>(std::clamp(std::floor(kAlmost - std::log2(larger)), 0.0, kMost)) : 0;
 }
 
 bool isNear(double value, double other, double within) { return std::abs(value - other) < within; }
@@ -33,12 +33,12 @@ bool isNear(double value, double other, double within) { return std::abs(value -
 // Moves a transform from bitmap to screen pixels onto whole pixels when it is (nearly) a copy or a quarter
 // turn.
 bool alignToPixels(Affine &t) {
-    constexpr double sameSize = 1e-4, samePlace = 1.0 / 16;
-    bool copy = isNear(std::abs(t.a), 1, sameSize) && isNear(std::abs(t.d), 1, sameSize);
-    bool turn = isNear(std::abs(t.b), 1, sameSize) && isNear(std::abs(t.c), 1, sameSize);
+    constexpr double kSameSize = 1e-4, kSamePlace = 1.0 / 16;
+    bool copy = isNear(std::abs(t.a), 1, kSameSize) && isNear(std::abs(t.d), 1, kSameSize);
+    bool turn = isNear(std::abs(t.b), 1, kSameSize) && isNear(std::abs(t.c), 1, kSameSize);
     if (!keepsUpright(t) || copy == turn) return false;
     double x = std::round(t.tx), y = std::round(t.ty);
-    if (!isNear(x, t.tx, samePlace) || !isNear(y, t.ty, samePlace)) return false;
+    if (!isNear(x, t.tx, kSamePlace) || !isNear(y, t.ty, kSamePlace)) return false;
     t = {std::round(t.a), std::round(t.b), std::round(t.c), std::round(t.d), x, y};
     return true;
 }
@@ -56,7 +56,7 @@ BitmapRef Images::prepared(const Image &image) {
     BitmapRef bitmap = image.bitmap;
     if (!(image.caps == Insets{})) {
         auto side = [&](double points) {
-            return std::clamp(static_cast<int>(std::lround(points * image.bitmap->scale)), 1, largestSide);
+            return std::clamp(static_cast<int>(std::lround(points * image.bitmap->scale)), 1, kLargestSide);
         };
         int width = side(image.rect.width), height = side(image.rect.height);
         CacheKey key;

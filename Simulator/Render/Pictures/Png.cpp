@@ -7,7 +7,7 @@ namespace render {
 
 namespace {
 
-constexpr int largestSide = 32767; // the most that cairo draws
+constexpr int kLargestSide = 32767; // the most that cairo draws
 
 cairo_status_t readBytes(void *closure, unsigned char *data, unsigned int length) {
     auto &rest = *static_cast<std::string_view *>(closure);
@@ -45,7 +45,7 @@ BitmapRef decodePng(std::string_view bytes, double scale) {
 
 std::string encodePng(const Bitmap &bitmap) {
     std::string bytes;
-    if (bitmap.width <= 0 || bitmap.height <= 0 || std::max(bitmap.width, bitmap.height) > largestSide)
+    if (bitmap.width <= 0 || bitmap.height <= 0 || std::max(bitmap.width, bitmap.height) > kLargestSide)
         return bytes;
     // Without an alpha channel the file is smaller and quicker to write.
     cairo_format_t format = isOpaque(bitmap) ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32;

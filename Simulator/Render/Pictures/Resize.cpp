@@ -30,10 +30,10 @@ std::vector<int> tiledSide(int count, double lowCap, double highCap, int size) {
 
 // Each channel of the sum of four pixels stays apart from the others in two words.
 uint32_t average(uint32_t a, uint32_t b, uint32_t c, uint32_t d) {
-    constexpr uint32_t even = 0x00ff00ff, rounding = 0x00020002;
-    uint32_t low = (a & even) + (b & even) + (c & even) + (d & even) + rounding;
-    uint32_t high = (a >> 8 & even) + (b >> 8 & even) + (c >> 8 & even) + (d >> 8 & even) + rounding;
-    return (low >> 2 & even) | (high >> 2 & even) << 8;
+    constexpr uint32_t kEven = 0x00ff00ff, kRounding = 0x00020002;
+    uint32_t low = (a & kEven) + (b & kEven) + (c & kEven) + (d & kEven) + kRounding;
+    uint32_t high = (a >> 8 & kEven) + (b >> 8 & kEven) + (c >> 8 & kEven) + (d >> 8 & kEven) + kRounding;
+    return (low >> 2 & kEven) | (high >> 2 & kEven) << 8;
 }
 
 } // namespace

@@ -8,14 +8,14 @@ namespace {
 
 // Parts of the point size, as the platform's own face has them. Only the heights follow it: the widths are
 // those of Inter, which runs wider.
-constexpr double ascent = 0.952, descent = 0.213, leading = 0.028;
+constexpr double kAscent = 0.952, kDescent = 0.213, kLeading = 0.028;
 
 double thousandths(double points) { return std::ceil(points * 1000 - 1e-6) / 1000; }
 
 } // namespace
 
 FontMetrics fontMetrics(Face, double size) {
-    return {ascent * size, descent * size, (ascent + descent + leading) * size};
+    return {kAscent * size, kDescent * size, (kAscent + kDescent + kLeading) * size};
 }
 
 Size measureText(const std::string &text, const TextStyle &style, double maxWidth) {

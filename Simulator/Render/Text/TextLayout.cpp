@@ -11,8 +11,8 @@ namespace render {
 
 namespace {
 
-constexpr const char *ellipsis = "\u2026";
-constexpr size_t cachedLayouts = 1024;
+constexpr const char *kEllipsis = "\u2026";
+constexpr size_t kCachedLayouts = 1024;
 
 bool truncates(LineBreak mode) { return mode >= LineBreak::truncateHead; }
 
@@ -60,8 +60,8 @@ LayoutRef newLayout(const std::string &text, const TextStyle &style) {
 }
 
 int pangoWidth(double points) {
-    constexpr double rounding = 1e-6;
-    return static_cast<int>(std::floor(std::min(points, 1e6) * PANGO_SCALE + rounding));
+    constexpr double kRounding = 1e-6;
+    return static_cast<int>(std::floor(std::min(points, 1e6) * PANGO_SCALE + kRounding));
 }
 
 void append(TextLayout &result, const LayoutRef &layout, int count) {
@@ -78,7 +78,7 @@ void append(TextLayout &result, const LayoutRef &layout, int count) {
 std::string onOneLine(std::string rest, LineBreak mode) {
     size_t end = rest.find('\n');
     if (end == std::string::npos) return rest;
-    if (mode == LineBreak::truncateTail) return rest.substr(0, end) + ellipsis;
+    if (mode == LineBreak::truncateTail) return rest.substr(0, end) + kEllipsis;
     std::replace(rest.begin(), rest.end(), '\n', ' ');
     return rest;
 }
@@ -145,7 +145,7 @@ double TextLayout::height() const { return static_cast<double>(lines.size()) * m
 
 std::shared_ptr<const TextLayout> layOut(const std::string &text, const TextStyle &style, double maxWidth) {
     useOwnFontsOnly(); // before the cache: what layouts are made of must outlive them
-    static Cache<std::shared_ptr<const TextLayout>> layouts(cachedLayouts);
+    static Cache<std::shared_ptr<const TextLayout>> layouts(kCachedLayouts);
     CacheKey key;
     key.addText(text).add(style.face).add(style.size).add(style.lineBreak).add(style.maxLines).add(maxWidth);
     return layouts.get(
@@ -154,10 +154,10 @@ std::shared_ptr<const TextLayout> layOut(const std::string &text, const TextStyl
 }
 
 int linesInBox(const TextStyle &style, double height) {
-    constexpr double rounding = 0.01; // a box made from a measured height holds all its lines
+    constexpr double kRounding = 0.01; // a box made from a measured height holds all its lines
     double lineHeight = fontMetrics(style.face, style.size).lineHeight;
     if (!(lineHeight > 0)) return style.maxLines;
-    int fitting = std::max(1, static_cast<int>(std::floor(std::min(height / lineHeight + rounding, 1e6))));
+    int fitting = std::max(1, static_cast<int>(std::floor(std::min(height / lineHeight + kRounding, 1e6))));
     return style.maxLines > 0 ? std::min(style.maxLines, fitting) : fitting;
 }
 

@@ -12,10 +12,10 @@ namespace render {
 
 namespace {
 
-constexpr double phases = 8; // places within a pixel that are told apart
+constexpr double kPhases = 8; // places within a pixel that are told apart
 
 // Letters may reach this far out of their line, in point sizes.
-constexpr double overhang = 0.35;
+constexpr double kOverhang = 0.35;
 
 std::shared_ptr<const TextLayout> layoutOf(const TextRun &run) {
     TextStyle style = run.style;
@@ -25,7 +25,7 @@ std::shared_ptr<const TextLayout> layoutOf(const TextRun &run) {
 
 // The part of the box (whose origin is 0, 0) that the lines take.
 Rect inkOf(const TextLayout &layout, const std::vector<Point> &starts, const TextRun &run, bool upright) {
-    double left = 1e9, right = -1e9, margin = overhang * run.style.size;
+    double left = 1e9, right = -1e9, margin = kOverhang * run.style.size;
     for (size_t i = 0; i < starts.size(); i++) {
         left = std::min(left, starts[i].x);
         right = std::max(right, starts[i].x + layout.lines[i].width);
@@ -57,17 +57,17 @@ TextMask drawMask(const TextRun &run, const Affine &toDevice, double scale) {
 }
 
 size_t bytesOf(const TextMask &mask) {
-    constexpr size_t bookkeeping = 256;
-    if (!mask.alpha) return bookkeeping;
-    return bookkeeping + static_cast<size_t>(cairo_image_surface_get_stride(mask.alpha.get())) *
-                             cairo_image_surface_get_height(mask.alpha.get());
+    constexpr size_t kBookkeeping = 256;
+    if (!mask.alpha) return kBookkeeping;
+    return kBookkeeping + static_cast<size_t>(cairo_image_surface_get_stride(mask.alpha.get())) *
+                              cairo_image_surface_get_height(mask.alpha.get());
 }
 
 } // namespace
 
 PixelRect extent(const TextRun &run, const Affine &toDevice) {
     if (run.text.empty() || run.box.empty()) return {};
-    double margin = keepsUpright(toDevice) ? 0 : overhang * run.style.size;
+    double margin = keepsUpright(toDevice) ? 0 : kOverhang * run.style.size;
     return inflate(roundOut(apply(toDevice, inset(run.box, -margin))), 1);
 }
 
@@ -76,8 +76,8 @@ TextMask TextMasks::mask(const TextRun &run, const Affine &toDevice, double scal
     Point origin = apply(toDevice, Point{run.box.x, run.box.y});
     double x = std::floor(origin.x), y = std::floor(origin.y);
     // Rounding may lead to the next whole pixel, which is as good a place as any other.
-    double phaseX = std::round((origin.x - x) * phases) / phases;
-    double phaseY = std::round((origin.y - y) * phases) / phases;
+    double phaseX = std::round((origin.x - x) * kPhases) / kPhases;
+    double phaseY = std::round((origin.y - y) * kPhases) / kPhases;
     Affine local = {toDevice.a, toDevice.b, toDevice.c, toDevice.d, phaseX, phaseY};
     const TextStyle &style = run.style;
     CacheKey key;
