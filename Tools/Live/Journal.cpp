@@ -2,6 +2,8 @@
 
 #include "LuaText.hpp"
 
+#include "Runtime/Values/Nanoseconds.hpp"
+
 #include <algorithm>
 #include <cstdio>
 #include <utility>
@@ -25,8 +27,8 @@ std::string wait(int64_t duration) { return "phone:wait(" + secondsText(duration
 
 std::string secondsText(int64_t nanoseconds) {
     char text[48];
-    snprintf(text, sizeof text, "%lld.%09lld", static_cast<long long>(nanoseconds / 1'000'000'000),
-             static_cast<long long>(nanoseconds % 1'000'000'000));
+    snprintf(text, sizeof text, "%lld.%09lld", static_cast<long long>(nanoseconds / kSecond),
+             static_cast<long long>(nanoseconds % kSecond));
     std::string result = text;
     result.erase(result.find_last_not_of('0') + 1);
     if (result.ends_with(".")) result.pop_back();

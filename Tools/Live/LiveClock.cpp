@@ -1,5 +1,7 @@
 #include "LiveClock.hpp"
 
+#include "Runtime/Values/Nanoseconds.hpp"
+
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +12,7 @@ namespace {
 constexpr int64_t kFramesPerSecond = 60;
 constexpr double kMostAtOnce = 3; // frames; more would look like a jump
 
-int64_t frameTime(int64_t frame) { return frame * 1'000'000'000 / kFramesPerSecond; }
+int64_t frameTime(int64_t frame) { return frame * kSecond / kFramesPerSecond; }
 
 } // namespace
 
@@ -29,7 +31,7 @@ int64_t LiveClock::pass(double seconds) {
 }
 
 int64_t frameAfter(int64_t now, int64_t frames) {
-    int64_t frame = now * kFramesPerSecond / 1'000'000'000;
+    int64_t frame = now * kFramesPerSecond / kSecond;
     while (frameTime(frame) <= now) ++frame;
     return frameTime(frame + frames - 1);
 }

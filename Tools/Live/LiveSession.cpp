@@ -1,9 +1,10 @@
 #include "LiveSession.hpp"
 
-#include "Supervisor/Machine/Interrupt.hpp"
 #include "Messages.hpp"
 #include "PageFiles.hpp"
 #include "Runtime/Values/Json.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
+#include "Supervisor/Machine/Interrupt.hpp"
 
 #include <algorithm>
 #include <fstream>
@@ -15,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kFrame = std::chrono::nanoseconds(1'000'000'000 / 60);
+constexpr auto kFrame = std::chrono::nanoseconds(kSecond / 60);
 constexpr auto kIdle = 250ms;          // how soon an interrupt is noticed, at the latest
 constexpr auto kThoroughEvery = 250ms; // between looks at views and counters
 constexpr auto kHurryFor = 12ms;       // of a tick, in a replay that hurries

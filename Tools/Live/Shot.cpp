@@ -1,8 +1,8 @@
 #include "Shot.hpp"
 
-#include "Supervisor/Machine/Nanoseconds.hpp"
 #include "LuaText.hpp"
 #include "Runtime/Values/Json.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 
 #include <fstream>
 
@@ -21,7 +21,7 @@ std::pair<std::string, std::string> split(const std::string &text, const char *f
 void takeShot(const DeviceSetup &setup, const ShotOptions &options) {
     LivePhone phone(setup, options.boot);
     for (const auto &statement : options.statements) phone.run(statement);
-    phone.device().advance(toNanoseconds(options.wait));
+    phone.device().advance(fromSeconds(options.wait));
     std::string png = render::encodePng(phone.device().picture());
     if (options.file.has_parent_path()) std::filesystem::create_directories(options.file.parent_path());
     if (!(std::ofstream(options.file, std::ios::binary) << png).flush())

@@ -1,13 +1,9 @@
 #include "Clock.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace sim {
-
-Nanos fromSeconds(double seconds) { return std::llround(seconds * kSecond); }
-double toSeconds(Nanos time) { return static_cast<double>(time) / kSecond; }
 
 Nanos nextFrame(Nanos time) {
     int64_t k = time * 60 / kSecond;

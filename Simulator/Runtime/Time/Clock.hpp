@@ -4,6 +4,8 @@
 // Frames stand at k/60 s; they are visited only while somebody has asked for them.
 #pragma once
 
+#include "Runtime/Values/Nanoseconds.hpp"
+
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -11,14 +13,6 @@
 #include <vector>
 
 namespace sim {
-
-// Nanoseconds since the device's first boot.
-using Nanos = int64_t;
-
-constexpr Nanos kSecond = 1'000'000'000;
-// Rounds to the nearest nanosecond.
-Nanos fromSeconds(double seconds);
-double toSeconds(Nanos time);
 
 // The k-th frame's time. Rounded down, so that whole twentieths of a second stand on frames exactly.
 constexpr Nanos frameTime(int64_t k) { return k * kSecond / 60; }

@@ -1,4 +1,4 @@
-// Scripts tell time in seconds, the clock in whole nanoseconds.
+// Virtual time is counted in whole nanoseconds; scripts and the platform tell it in seconds.
 #pragma once
 
 #include <cmath>
@@ -6,7 +6,13 @@
 
 namespace sim {
 
-inline int64_t toNanoseconds(double seconds) { return std::llround(seconds * 1e9); }
-inline double inSeconds(int64_t nanoseconds) { return static_cast<double>(nanoseconds) / 1e9; }
+// Nanoseconds since the device's first boot.
+using Nanos = int64_t;
+
+constexpr Nanos kSecond = 1'000'000'000;
+
+// Rounds to the nearest nanosecond.
+inline Nanos fromSeconds(double seconds) { return std::llround(seconds * kSecond); }
+inline double toSeconds(Nanos time) { return static_cast<double>(time) / kSecond; }
 
 } // namespace sim

@@ -1,6 +1,6 @@
 #include "Finger.hpp"
 
-#include "Nanoseconds.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 #include "SimulatedProcess.hpp"
 
 #include <algorithm>
@@ -49,13 +49,13 @@ void Finger::tap(const TouchTarget &target) { hold(target, kTapDuration); }
 
 void Finger::hold(const TouchTarget &target, double seconds) {
     down(target);
-    device_.advance(toNanoseconds(seconds));
+    device_.advance(fromSeconds(seconds));
     lift();
 }
 
 void Finger::path(double dx, double dy, double seconds) {
     double startX = x_, startY = y_;
-    int64_t start = device_.now(), duration = toNanoseconds(seconds);
+    int64_t start = device_.now(), duration = fromSeconds(seconds);
     auto samples = std::max<int64_t>(1, std::llround(seconds * kSamplesPerSecond));
     for (int64_t i = 1; i <= samples && isDown(); ++i) {
         double part = static_cast<double>(i) / static_cast<double>(samples);

@@ -1,6 +1,6 @@
 #include "SettingsDriver.hpp"
 
-#include "Nanoseconds.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 #include "SimulatedProcess.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 
@@ -37,7 +37,7 @@ std::vector<std::string> characters(const std::string &text) {
 
 void SettingsDriver::rest() {
     try {
-        settings_.settle(toNanoseconds(kPatience));
+        settings_.settle(fromSeconds(kPatience));
     } catch (const SettleError &) {}
 }
 

@@ -3,7 +3,7 @@
 #include "BootMessage.hpp"
 #include "CrashText.hpp"
 #include "Interrupt.hpp"
-#include "Nanoseconds.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 #include "SimulatedDevice.hpp"
 
 #include <algorithm>
@@ -44,7 +44,7 @@ const Package &SettingsProcess::package() const { return device_.package(); }
 std::string SettingsProcess::description() const { return "Settings on " + device_.description(); }
 
 void SettingsProcess::warn(const std::string &text) {
-    events_.add(inSeconds(now()), "warning", {{"text", text}});
+    events_.add(toSeconds(now()), "warning", {{"text", text}});
 }
 
 void SettingsProcess::recordCrash(const Ending &ending) {
@@ -53,10 +53,10 @@ void SettingsProcess::recordCrash(const Ending &ending) {
     now_ = std::max(now_, ending.time);
     closed_ = "it crashed";
     std::string stack = crashText(ending.crashReport);
-    std::cerr << "The Settings application crashed at " << inSeconds(now_) << " s: " << ending.reason()
+    std::cerr << "The Settings application crashed at " << toSeconds(now_) << " s: " << ending.reason()
               << '\n'
               << stack << ending.errorOutput << std::flush;
-    events_.add(inSeconds(now_), "crash", {{"signal", ending.reason()}, {"stack", stack}});
+    events_.add(toSeconds(now_), "crash", {{"signal", ending.reason()}, {"stack", stack}});
 }
 
 Value SettingsProcess::perform(const char *request, Object &arguments, bool *died) {

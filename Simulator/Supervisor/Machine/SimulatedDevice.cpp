@@ -3,7 +3,7 @@
 #include "BootMessage.hpp"
 #include "CrashText.hpp"
 #include "Interrupt.hpp"
-#include "Nanoseconds.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 #include "SettingsProcess.hpp"
 #include "Supervisor/Boot/StaticClasses.hpp"
 
@@ -92,15 +92,15 @@ void SimulatedDevice::note(Value event) {
 }
 
 void SimulatedDevice::warn(const std::string &text) {
-    events_.add(inSeconds(now_), "warning", {{"text", text}});
+    events_.add(toSeconds(now_), "warning", {{"text", text}});
 }
 
 void SimulatedDevice::recordCrash(const Ending &ending) {
     now_ = std::max(now_, ending.time);
     std::string stack = crashText(ending.crashReport);
-    std::cerr << "The home screen crashed at " << inSeconds(now_) << " s: " << ending.reason() << '\n'
+    std::cerr << "The home screen crashed at " << toSeconds(now_) << " s: " << ending.reason() << '\n'
               << stack << ending.errorOutput << std::flush;
-    events_.add(inSeconds(now_), "crash", {{"signal", ending.reason()}, {"stack", stack}});
+    events_.add(toSeconds(now_), "crash", {{"signal", ending.reason()}, {"stack", stack}});
 }
 
 void SimulatedDevice::end() {
@@ -116,7 +116,7 @@ std::string SimulatedDevice::shutDown() {
 }
 
 void SimulatedDevice::respring() {
-    events_.add(inSeconds(now_), "respring", {});
+    events_.add(toSeconds(now_), "respring", {});
     end();
     boot();
 }

@@ -1,6 +1,6 @@
 #include "SimulatedScreen.hpp"
 
-#include "Nanoseconds.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 #include "SimulatedProcess.hpp"
 
 #include <algorithm>
@@ -27,7 +27,7 @@ int64_t SimulatedScreen::settle(int64_t limit) {
         if (busy.array().empty()) return now() - start;
         auto due = next();
         if (!due || *due > start + limit) {
-            std::string text = "still busy after " + std::to_string(inSeconds(limit)) + " s: ";
+            std::string text = "still busy after " + std::to_string(toSeconds(limit)) + " s: ";
             for (const auto &item : busy.array())
                 text += (&item == &busy.array()[0] ? "" : "; ") + item.string();
             advance(start + limit - now());

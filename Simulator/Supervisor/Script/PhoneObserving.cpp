@@ -1,8 +1,8 @@
 #include "Conversion.hpp"
 #include "Phone.hpp"
 #include "Record.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 #include "Supervisor/Machine/FilmStrip.hpp"
-#include "Supervisor/Machine/Nanoseconds.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 
 #include <algorithm>
@@ -75,7 +75,7 @@ int filmstrip(lua_State *lua, Phone &phone, Script &script) {
     constexpr int64_t kMost = 100;
     if (count < 1 || count > kMost)
         throw std::runtime_error("a film strip has 1 to " + std::to_string(kMost) + " frames");
-    int64_t start = phone.device.now(), whole = toNanoseconds(seconds);
+    int64_t start = phone.device.now(), whole = fromSeconds(seconds);
     std::vector<render::Bitmap> frames;
     for (int64_t i = 0; i < count; ++i) {
         int64_t due = count > 1 ? start + whole * i / (count - 1) : start;

@@ -1,5 +1,5 @@
 #include "Phone.hpp"
-#include "Supervisor/Machine/Nanoseconds.hpp"
+#include "Runtime/Values/Nanoseconds.hpp"
 
 namespace sim {
 
@@ -9,18 +9,18 @@ namespace {
 constexpr double kDefaultLimit = 60;
 
 int wait(lua_State *lua, Phone &phone, Script &) {
-    phone.device.advance(toNanoseconds(duration(lua, 2)));
+    phone.device.advance(fromSeconds(duration(lua, 2)));
     return 0;
 }
 
 int settle(lua_State *lua, Phone &phone, Script &) {
     double limit = lua_isnoneornil(lua, 2) ? kDefaultLimit : duration(lua, 2);
-    lua_pushnumber(lua, inSeconds(phone.device.settle(toNanoseconds(limit))));
+    lua_pushnumber(lua, toSeconds(phone.device.settle(fromSeconds(limit))));
     return 1;
 }
 
 int now(lua_State *lua, Phone &phone, Script &) {
-    lua_pushnumber(lua, inSeconds(phone.device.now()));
+    lua_pushnumber(lua, toSeconds(phone.device.now()));
     return 1;
 }
 

@@ -3,6 +3,8 @@
 #include "Rules.hpp"
 #include "Settings.hpp"
 
+#include "Runtime/Values/Nanoseconds.hpp"
+
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +12,7 @@ namespace sim {
 
 namespace {
 
-int64_t momentOf(const Value &event) { return std::llround(event["t"].number() * 1e9); }
+int64_t momentOf(const Value &event) { return fromSeconds(event["t"].number()); }
 
 // Whether an opening now must be unlocked; nothing when the settings do not say.
 std::optional<bool> armedAtOpening(const Moment &moment, std::optional<bool> before) {
