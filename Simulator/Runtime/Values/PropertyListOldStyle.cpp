@@ -44,16 +44,14 @@ public:
 
 private:
     void skipRemarks() {
-        for (;;) {
-            cursor_.skipSpace();
-            if (cursor_.take("//")) {
-                cursor_.takeWhile([](char c) { return c != '\n' && c != '\r'; });
-            } else if (cursor_.take("/*")) {
-                cursor_.takeThrough("*/", "a comment");
-            } else {
-                return;
-            }
-        }
+        cursor_.skipSpaceAnd(
+            [this] { return takeLineComment() || cursor_.takeSpan("/*", "*/", "a comment"); });
+    }
+
+    bool takeLineComment() {
+        if (!cursor_.take("//")) return false;
+        cursor_.takeWhile([](char c) { return c != '\n' && c != '\r'; });
+        return true;
     }
 
     bool startsText() const {

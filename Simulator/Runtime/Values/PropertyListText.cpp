@@ -32,6 +32,12 @@ std::string_view TextCursor::takeThrough(std::string_view end, const char *what)
     return content;
 }
 
+bool TextCursor::takeSpan(std::string_view begin, std::string_view end, const char *what) {
+    if (!take(begin)) return false;
+    takeThrough(end, what);
+    return true;
+}
+
 void TextCursor::fail(const std::string &what) const {
     auto line = 1 + std::count(text_.begin(), text_.begin() + static_cast<ptrdiff_t>(at_), '\n');
     throw PropertyListError("line " + std::to_string(line) + ": " + what);

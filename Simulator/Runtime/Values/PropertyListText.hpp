@@ -16,11 +16,19 @@ public:
     char peek(size_t ahead = 0) const { return at_ + ahead < text_.size() ? text_[at_ + ahead] : '\0'; }
     char next() { return atEnd() ? '\0' : text_[at_++]; }
     void skipSpace();
+    // Goes past space and what `skip` goes past, as often as that finds something.
+    template <typename Skip>
+    void skipSpaceAnd(Skip skip) {
+        do skipSpace();
+        while (skip());
+    }
     // Goes past `literal` when it stands here.
     bool take(std::string_view literal);
     // Goes past the next `end` and returns what stood before it; `what` names the thing for the error when
     // there is none.
     std::string_view takeThrough(std::string_view end, const char *what);
+    // Goes past `begin` and the next `end` when `begin` stands here.
+    bool takeSpan(std::string_view begin, std::string_view end, const char *what);
     template <typename Predicate>
     std::string_view takeWhile(Predicate belongs) {
         size_t from = at_;

@@ -48,24 +48,18 @@ public:
 
 private:
     void skipRemarks() {
-        for (;;) {
-            cursor_.skipSpace();
-            if (cursor_.take("<!--")) {
-                cursor_.takeThrough("-->", "a comment");
-            } else if (cursor_.take("<?")) {
-                cursor_.takeThrough("?>", "an instruction");
-            } else if (cursor_.take("<!DOCTYPE")) {
-                skipDocumentType();
-            } else {
-                return;
-            }
-        }
+        cursor_.skipSpaceAnd([this] {
+            return cursor_.takeSpan("<!--", "-->", "a comment") ||
+                   cursor_.takeSpan("<?", "?>", "an instruction") || takeDocumentType();
+        });
     }
 
-    void skipDocumentType() {
+    bool takeDocumentType() {
+        if (!cursor_.take("<!DOCTYPE")) return false;
         cursor_.takeWhile([](char c) { return c != '>' && c != '['; });
         if (cursor_.take("[")) cursor_.takeThrough("]", "a document type");
         cursor_.takeThrough(">", "a document type");
+        return true;
     }
 
     Tag nextTag() {
