@@ -3,6 +3,8 @@
 #include "PreferenceEntries.h"
 #include "StockRows.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 namespace {
 
 struct RootListState {
@@ -10,8 +12,7 @@ struct RootListState {
 };
 
 RootListState &state(PSUIPrefsListController *list) {
-    if (!list->_rootListState) list->_rootListState = new RootListState;
-    return *static_cast<RootListState *>(list->_rootListState);
+    return sim::lazyState<RootListState>(list->_rootListState);
 }
 
 } // namespace
@@ -101,10 +102,7 @@ struct SplitState {
     UIView *line = nil;                        // retained by the view
 };
 
-SplitState &state(PSSplitViewController *split) {
-    if (!split->_splitState) split->_splitState = new SplitState;
-    return *static_cast<SplitState *>(split->_splitState);
-}
+SplitState &state(PSSplitViewController *split) { return sim::lazyState<SplitState>(split->_splitState); }
 
 } // namespace
 

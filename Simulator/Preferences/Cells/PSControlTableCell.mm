@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 #include <Preferences/PSTableCell.h>
@@ -10,8 +11,7 @@ struct ControlCellState {
 };
 
 ControlCellState &state(PSControlTableCell *cell) {
-    if (!cell->_controlTableCellState) cell->_controlTableCellState = new ControlCellState;
-    return *static_cast<ControlCellState *>(cell->_controlTableCellState);
+    return sim::lazyState<ControlCellState>(cell->_controlTableCellState);
 }
 
 } // namespace

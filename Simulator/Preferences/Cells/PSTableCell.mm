@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 #include <Preferences/PSTableCell.h>
@@ -18,10 +19,7 @@ struct TableCellState {
     id value = nil; // retained
 };
 
-TableCellState &state(PSTableCell *cell) {
-    if (!cell->_tableCellState) cell->_tableCellState = new TableCellState;
-    return *static_cast<TableCellState *>(cell->_tableCellState);
-}
+TableCellState &state(PSTableCell *cell) { return sim::lazyState<TableCellState>(cell->_tableCellState); }
 
 constexpr const char *kTypeNames[] = {
     "PSGroupCell",          "PSLinkCell",    "PSLinkListCell",     "PSListItemCell",

@@ -1,15 +1,15 @@
 #include "ListState.h"
 
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/LazyState.hpp"
 
 #include <UIKit/UITableView.h>
 
 namespace sim {
 
 ListState &state(PSListController *list) {
-    if (!list->_listControllerState)
-        list->_listControllerState = new ListState{.byIdentifier = [NSMutableDictionary new]};
-    return *static_cast<ListState *>(list->_listControllerState);
+    return lazyState<ListState>(list->_listControllerState,
+                                [] { return new ListState{.byIdentifier = [NSMutableDictionary new]}; });
 }
 
 } // namespace sim

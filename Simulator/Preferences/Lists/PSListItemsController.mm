@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/LazyState.hpp"
 
 #include <Preferences/PSListController.h>
 
@@ -9,8 +10,7 @@ struct ListItemsState {
 };
 
 ListItemsState &state(PSListItemsController *list) {
-    if (!list->_listItemsControllerState) list->_listItemsControllerState = new ListItemsState;
-    return *static_cast<ListItemsState *>(list->_listItemsControllerState);
+    return sim::lazyState<ListItemsState>(list->_listItemsControllerState);
 }
 
 // The whole titles, where a row shows the short ones.

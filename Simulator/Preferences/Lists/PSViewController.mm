@@ -1,4 +1,5 @@
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 #include <Preferences/PSListController.h>
@@ -11,9 +12,7 @@ struct PreferencesControllerState {
 };
 
 PreferencesControllerState &state(PSViewController *controller) {
-    if (!controller->_preferencesControllerState)
-        controller->_preferencesControllerState = new PreferencesControllerState;
-    return *static_cast<PreferencesControllerState *>(controller->_preferencesControllerState);
+    return sim::lazyState<PreferencesControllerState>(controller->_preferencesControllerState);
 }
 
 } // namespace

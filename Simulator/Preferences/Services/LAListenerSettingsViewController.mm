@@ -1,4 +1,5 @@
 // The page on which events are given to a listener: their groups, each with the events that there are.
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
@@ -26,8 +27,7 @@ struct ListenerSettingsState {
 };
 
 ListenerSettingsState &state(LAListenerSettingsViewController *page) {
-    if (!page->_listenerSettingsState) page->_listenerSettingsState = new ListenerSettingsState;
-    return *static_cast<ListenerSettingsState *>(page->_listenerSettingsState);
+    return sim::lazyState<ListenerSettingsState>(page->_listenerSettingsState);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // The sheet for a tweet: a card over what was there before, with the text and two buttons. Nothing is sent.
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
@@ -16,8 +17,7 @@ struct TweetState {
 };
 
 TweetState &state(TWTweetComposeViewController *sheet) {
-    if (!sheet->_tweetState) sheet->_tweetState = new TweetState;
-    return *static_cast<TweetState *>(sheet->_tweetState);
+    return sim::lazyState<TweetState>(sheet->_tweetState);
 }
 
 UILabel *addLabel(UIView *card, NSString *text, CGRect frame, CGFloat size) {

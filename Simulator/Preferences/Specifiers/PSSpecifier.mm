@@ -1,3 +1,4 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "SpecifierState.h"
 
@@ -18,9 +19,9 @@ struct SpecifierState {
 };
 
 SpecifierState &state(PSSpecifier *specifier) {
-    if (!specifier->_specifierState)
-        specifier->_specifierState = new SpecifierState{.properties = [NSMutableDictionary new]};
-    return *static_cast<SpecifierState *>(specifier->_specifierState);
+    return sim::lazyState<SpecifierState>(specifier->_specifierState, [] {
+        return new SpecifierState{.properties = [NSMutableDictionary new]};
+    });
 }
 
 template <typename Object>

@@ -1,5 +1,7 @@
 #include "BannerContext.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 namespace {
 
 struct ContextState {
@@ -8,8 +10,7 @@ struct ContextState {
 };
 
 ContextState &state(SBUIBannerContext *context) {
-    if (!context->_bannerContextState) context->_bannerContextState = new ContextState;
-    return *static_cast<ContextState *>(context->_bannerContextState);
+    return sim::lazyState<ContextState>(context->_bannerContextState);
 }
 
 } // namespace

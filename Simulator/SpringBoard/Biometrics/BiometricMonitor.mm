@@ -1,4 +1,5 @@
 // The fingerprint sensor: who observes it, whether it looks for a match, and what it tells.
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"
 #include "SpringBoard/HomeScreen.h"
@@ -16,8 +17,7 @@ struct MonitorState {
 };
 
 MonitorState &state(SBUIBiometricEventMonitor *monitor) {
-    if (!monitor->_monitorState) monitor->_monitorState = new MonitorState;
-    return *static_cast<MonitorState *>(monitor->_monitorState);
+    return sim::lazyState<MonitorState>(monitor->_monitorState);
 }
 
 void note(const char *what) { sim::recordEvent("biometric", sim::Object{{"what", what}}); }

@@ -1,6 +1,7 @@
 #include "FingerprintView.h"
 
 #include "GlyphPaths.hpp"
+#include "Runtime/Objc/LazyState.hpp"
 #include "ShapeLayers.h"
 #include "SpringBoard/Versions.hpp"
 #include "UIKit/QuartzCore/LayerState.h"
@@ -17,8 +18,7 @@ struct FingerprintState {
 };
 
 FingerprintState &state(PKFingerprintGlyphView *view) {
-    if (!view->_fingerprintState) view->_fingerprintState = new FingerprintState;
-    return *static_cast<FingerprintState *>(view->_fingerprintState);
+    return sim::lazyState<FingerprintState>(view->_fingerprintState);
 }
 
 const sim::ClassVersions kClasses[] = {{"PKFingerprintGlyphView", sim::kFirst8, sim::kNewest}};

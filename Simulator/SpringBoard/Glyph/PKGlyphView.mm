@@ -1,6 +1,7 @@
 // The glyph of a Touch ID sheet: a fingerprint that fills while a finger rests, and a tick for a match.
 #include "FingerprintView.h"
 #include "GlyphPaths.hpp"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "ShapeLayers.h"
 #include "SpringBoard/Versions.hpp"
@@ -26,10 +27,7 @@ struct GlyphState {
     CAShapeLayer *circle = nil, *mark = nil;
 };
 
-GlyphState &state(PKGlyphView *view) {
-    if (!view->_glyphState) view->_glyphState = new GlyphState;
-    return *static_cast<GlyphState *>(view->_glyphState);
-}
+GlyphState &state(PKGlyphView *view) { return sim::lazyState<GlyphState>(view->_glyphState); }
 
 void replace(UIColor *&slot, UIColor *color) { sim::retainInto(slot, color); }
 

@@ -1,5 +1,7 @@
 #include "Icons.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 using sim::state;
 
 namespace {
@@ -10,10 +12,7 @@ struct FolderState {
     std::vector<SBIcon *> icons; // retained
 };
 
-FolderState &contents(SBFolder *folder) {
-    if (!folder->_folderState) folder->_folderState = new FolderState;
-    return *static_cast<FolderState *>(folder->_folderState);
-}
+FolderState &contents(SBFolder *folder) { return sim::lazyState<FolderState>(folder->_folderState); }
 
 } // namespace
 

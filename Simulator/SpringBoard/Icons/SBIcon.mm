@@ -1,15 +1,13 @@
 #include "Icons.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 
 using sim::state;
 
 namespace sim {
 
-IconState &state(SBIcon *icon) {
-    if (!icon->_iconState) icon->_iconState = new IconState;
-    return *static_cast<IconState *>(icon->_iconState);
-}
+IconState &state(SBIcon *icon) { return lazyState<IconState>(icon->_iconState); }
 
 SBIcon *makeApplicationIcon(SBApplication *application) {
     SBIcon *icon = [[SBApplicationIcon new] autorelease];

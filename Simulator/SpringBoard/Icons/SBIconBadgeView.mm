@@ -1,10 +1,10 @@
 #include "Icons.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Materials/DrawnImage.h"
 
 #include <UIKit/UIKit.h>
-
-#include <cmath>
 
 namespace {
 
@@ -17,10 +17,7 @@ struct BadgeState {
     UIImageView *textView = nil;
 };
 
-BadgeState &state(SBIconBadgeView *badge) {
-    if (!badge->_badgeState) badge->_badgeState = new BadgeState;
-    return *static_cast<BadgeState *>(badge->_badgeState);
-}
+BadgeState &state(SBIconBadgeView *badge) { return sim::lazyState<BadgeState>(badge->_badgeState); }
 
 UIImageView *addImageView(UIView *view, UIImage *image) {
     UIImageView *imageView = [[UIImageView alloc] initWithImage:image];
@@ -77,7 +74,7 @@ UIImage *stretchable(UIImage *disc) {
     if (!image) return;
     CGSize text = [image size];
     CGFloat scale = [[UIScreen mainScreen] scale];
-    auto whole = [=](CGFloat points) { return std::round(points * scale) / scale; };
+    auto whole = [=](CGFloat points) { return sim::wholePixels(points, scale); };
     CGFloat width = std::max(kHeight, whole(text.width + 2 * kTextMargin));
     [self setBounds:CGRectMake(0, 0, width, kHeight)];
     [state(self).background setFrame:[self bounds]];

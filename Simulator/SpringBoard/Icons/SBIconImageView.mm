@@ -1,6 +1,7 @@
 #include "IconImages.h"
 #include "Icons.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/Views/ViewState.h"
@@ -15,8 +16,7 @@ struct ImageViewState {
 };
 
 ImageViewState &contents(SBIconImageView *view) {
-    if (!view->_iconImageViewState) view->_iconImageViewState = new ImageViewState;
-    return *static_cast<ImageViewState *>(view->_iconImageViewState);
+    return sim::lazyState<ImageViewState>(view->_iconImageViewState);
 }
 
 void draw(render::Node &node, UIImage *image, const render::Rect &rect,

@@ -1,6 +1,7 @@
 #include "IconImages.h"
 #include "Icons.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Home/SBIconController.h"
@@ -24,10 +25,7 @@ struct ViewParts {
     bool drawsBadge = true;
 };
 
-ViewParts &parts(SBIconView *view) {
-    if (!view->_iconViewState) view->_iconViewState = new ViewParts;
-    return *static_cast<ViewParts *>(view->_iconViewState);
-}
+ViewParts &parts(SBIconView *view) { return sim::lazyState<ViewParts>(view->_iconViewState); }
 
 UILabel *makeLabel() {
     CGFloat side = sim::iconSide();

@@ -1,5 +1,7 @@
 #include "Icons.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 #include <map>
 
 namespace {
@@ -8,10 +10,7 @@ struct MapState {
     std::map<SBIcon *, SBIconView *> views; // both retained; looked up, never walked through
 };
 
-MapState &state(SBIconViewMap *map) {
-    if (!map->_viewMapState) map->_viewMapState = new MapState;
-    return *static_cast<MapState *>(map->_viewMapState);
-}
+MapState &state(SBIconViewMap *map) { return sim::lazyState<MapState>(map->_viewMapState); }
 
 SBIconView *makeView(SBIcon *icon) {
     SBIconView *view = [([icon isFolderIcon] ? [SBFolderIconView class] : [SBIconView class]) alloc];

@@ -1,5 +1,6 @@
 #include "LockScreenView.h"
 #include "LockTexts.hpp"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 
 #include <cmath>
@@ -10,10 +11,7 @@ struct DateState {
     UILabel *time = nil, *date = nil; // retained by the view tree
 };
 
-DateState &state(SBFLockScreenDateView *view) {
-    if (!view->_dateState) view->_dateState = new DateState;
-    return *static_cast<DateState *>(view->_dateState);
-}
+DateState &state(SBFLockScreenDateView *view) { return sim::lazyState<DateState>(view->_dateState); }
 
 UILabel *makeLabel(CGRect frame, NSString *font, CGFloat size) {
     UILabel *label = [[[UILabel alloc] initWithFrame:frame] autorelease];

@@ -1,6 +1,7 @@
 #include "LockScreenView.h"
 
 #include "LockTexts.hpp"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Home/Glass.h"
 #include "SpringBoard/Home/HomeViews.h"
@@ -18,10 +19,7 @@ struct LockViewState {
     SBUIPasscodeLockView *passcode = nil;
 };
 
-LockViewState &state(SBLockScreenView *view) {
-    if (!view->_lockViewState) view->_lockViewState = new LockViewState;
-    return *static_cast<LockViewState *>(view->_lockViewState);
-}
+LockViewState &state(SBLockScreenView *view) { return sim::lazyState<LockViewState>(view->_lockViewState); }
 
 constexpr CGFloat kFrost = 0.35;
 

@@ -3,6 +3,7 @@
 #include "LockTexts.hpp"
 #include "PasscodeKey.h"
 #include "PasscodeLayout.hpp"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 
 #include <string>
@@ -19,8 +20,7 @@ struct PasscodeState {
 };
 
 PasscodeState &state(SBUIPasscodeLockView *view) {
-    if (!view->_passcodeState) view->_passcodeState = new PasscodeState;
-    return *static_cast<PasscodeState *>(view->_passcodeState);
+    return sim::lazyState<PasscodeState>(view->_passcodeState);
 }
 
 NSString *string(const char *text) { return [NSString stringWithUTF8String:text]; }

@@ -1,6 +1,7 @@
 // The gesture launcher: who is registered, and what the event assigned to a listener sets off.
 #include "Activator.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 #include "SpringBoard/Applications/ApplicationLife.h"
@@ -19,8 +20,7 @@ struct ActivatorState {
 };
 
 ActivatorState &state(LAActivator *activator) {
-    if (!activator->_activatorState) activator->_activatorState = new ActivatorState;
-    return *static_cast<ActivatorState *>(activator->_activatorState);
+    return sim::lazyState<ActivatorState>(activator->_activatorState);
 }
 
 struct EventState {
@@ -28,10 +28,7 @@ struct EventState {
     BOOL handled = NO;
 };
 
-EventState &state(LAEvent *event) {
-    if (!event->_activatorEventState) event->_activatorEventState = new EventState;
-    return *static_cast<EventState *>(event->_activatorEventState);
-}
+EventState &state(LAEvent *event) { return sim::lazyState<EventState>(event->_activatorEventState); }
 
 id find(LAActivator *activator, NSString *name) {
     auto &listeners = state(activator).listeners;

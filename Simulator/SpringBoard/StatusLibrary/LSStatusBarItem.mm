@@ -1,5 +1,6 @@
 #include "LibraryItems.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Events.hpp"
 
 namespace {
@@ -11,10 +12,7 @@ struct ItemState {
     bool manual = false;
 };
 
-ItemState &state(LSStatusBarItem *item) {
-    if (!item->_lsItemState) item->_lsItemState = new ItemState;
-    return *static_cast<ItemState *>(item->_lsItemState);
-}
+ItemState &state(LSStatusBarItem *item) { return sim::lazyState<ItemState>(item->_lsItemState); }
 
 void refuse(NSString *reason) { [NSException raise:NSInternalInconsistencyException format:@"%@", reason]; }
 

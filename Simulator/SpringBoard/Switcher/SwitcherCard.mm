@@ -1,5 +1,6 @@
 #include "SwitcherCard.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Applications/ApplicationScreen.h"
 #include "SpringBoard/Applications/Applications.h"
@@ -47,10 +48,7 @@ struct CardState {
     id<SBAppSwitcherCardDelegate> delegate = nil;
 };
 
-CardState &state(SBAppSwitcherCardView *view) {
-    if (!view->_cardState) view->_cardState = new CardState;
-    return *static_cast<CardState *>(view->_cardState);
-}
+CardState &state(SBAppSwitcherCardView *view) { return sim::lazyState<CardState>(view->_cardState); }
 
 UIView *makePage(SBApplication *application, CGRect screen) {
     if (!application) return [[[SBHomeScreenCardPage alloc] initWithFrame:screen] autorelease];

@@ -1,5 +1,6 @@
 #include "AlertPanel.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Views/ViewState.h"
 
@@ -23,10 +24,7 @@ struct PanelState {
     NSInteger cancel = -1;
 };
 
-PanelState &state(AlertPanel *panel) {
-    if (!panel->_panelState) panel->_panelState = new PanelState;
-    return *static_cast<PanelState *>(panel->_panelState);
-}
+PanelState &state(AlertPanel *panel) { return sim::lazyState<PanelState>(panel->_panelState); }
 
 UILabel *makeLabel(AlertPanel *panel, NSString *text, UIFont *font) {
     if ([text length] == 0) return nil;

@@ -1,6 +1,7 @@
 // The object that applications hold; what is seen is its panel, in a window of its own.
 #include "AlertPanel.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Views/ViewState.h"
@@ -25,10 +26,7 @@ struct AlertState {
     AlertPanel *panel = nil; // retained by the window; while it is shown
 };
 
-AlertState &state(UIAlertView *alert) {
-    if (!alert->_alertViewState) alert->_alertViewState = new AlertState;
-    return *static_cast<AlertState *>(alert->_alertViewState);
-}
+AlertState &state(UIAlertView *alert) { return sim::lazyState<AlertState>(alert->_alertViewState); }
 
 // Those that have been shown and not answered, the last on top; retained.
 std::vector<UIAlertView *> &waiting() {

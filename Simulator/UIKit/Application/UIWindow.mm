@@ -1,4 +1,5 @@
 #include "ApplicationState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Controllers/ControllerState.h"
 #include "UIKit/Views/ViewState.h"
@@ -27,10 +28,7 @@ struct WindowState {
     bool secure = false; // its context
 };
 
-WindowState &state(UIWindow *window) {
-    if (!window->_windowState) window->_windowState = new WindowState;
-    return *static_cast<WindowState *>(window->_windowState);
-}
+WindowState &state(UIWindow *window) { return sim::lazyState<WindowState>(window->_windowState); }
 
 // Not retained: a window takes itself off.
 std::vector<UIWindow *> &windows() {

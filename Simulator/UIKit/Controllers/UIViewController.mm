@@ -1,4 +1,5 @@
 #include "ControllerState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Navigation/NavigationState.h"
 #include "UIKit/Views/ViewState.h"
@@ -10,8 +11,7 @@
 namespace sim {
 
 ControllerState &state(UIViewController *controller) {
-    if (!controller->_controllerState) controller->_controllerState = new ControllerState;
-    return *static_cast<ControllerState *>(controller->_controllerState);
+    return lazyState<ControllerState>(controller->_controllerState);
 }
 
 } // namespace sim

@@ -1,10 +1,11 @@
+#include "Runtime/Objc/LazyState.hpp"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIControl.h>
 #include <UIKit/UIGestureRecognizerSubclass.h>
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 
 // A button lays its title out anew when the title's looks change.
@@ -35,10 +36,7 @@ struct ButtonState {
     std::map<UIControlState, UIColor *> colors;
 };
 
-ButtonState &buttonState(UIButton *button) {
-    if (!button->_buttonState) button->_buttonState = new ButtonState;
-    return *static_cast<ButtonState *>(button->_buttonState);
-}
+ButtonState &buttonState(UIButton *button) { return sim::lazyState<ButtonState>(button->_buttonState); }
 
 // What is set for the state, else for the normal one; nil when neither is.
 template <typename Object>
@@ -72,8 +70,6 @@ void refreshTitle(UIButton *button) {
     [mine.label setAlpha:dimmed ? kHighlightedAlpha : 1];
     [button setNeedsLayout];
 }
-
-CGFloat wholePixels(CGFloat points, CGFloat scale) { return std::round(points * scale) / scale; }
 
 } // namespace
 
@@ -159,8 +155,8 @@ CGFloat wholePixels(CGFloat points, CGFloat scale) { return std::round(points * 
     size.width = std::min(size.width, bounds.size.width);
     size.height = std::min(size.height, bounds.size.height);
     CGFloat scale = [label contentScaleFactor];
-    [label setFrame:{{wholePixels(CGRectGetMidX(bounds) - size.width / 2, scale),
-                      wholePixels(CGRectGetMidY(bounds) - size.height / 2, scale)},
+    [label setFrame:{{sim::wholePixels(CGRectGetMidX(bounds) - size.width / 2, scale),
+                      sim::wholePixels(CGRectGetMidY(bounds) - size.height / 2, scale)},
                      size}];
 }
 

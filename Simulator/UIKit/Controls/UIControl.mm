@@ -1,3 +1,4 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIControl.h>
@@ -24,8 +25,7 @@ struct ControlState {
 };
 
 ControlState &controlState(UIControl *control) {
-    if (!control->_controlState) control->_controlState = new ControlState;
-    return *static_cast<ControlState *>(control->_controlState);
+    return sim::lazyState<ControlState>(control->_controlState);
 }
 
 void setFlag(UIControl *control, bool ControlState::*flag, bool value) {

@@ -1,4 +1,5 @@
 #include "ImageState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -12,10 +13,7 @@ struct ImageViewState {
     UIImage *image = nil;
 };
 
-ImageViewState &state(UIImageView *view) {
-    if (!view->_imageViewState) view->_imageViewState = new ImageViewState;
-    return *static_cast<ImageViewState *>(view->_imageViewState);
-}
+ImageViewState &state(UIImageView *view) { return sim::lazyState<ImageViewState>(view->_imageViewState); }
 
 // Where content of that size goes within the bounds.
 CGRect place(CGSize size, CGRect bounds, UIViewContentMode mode) {

@@ -1,6 +1,7 @@
 #include "Keyboard.h"
 
 #include "KeyboardKey.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Views/FirstResponder.h"
@@ -66,10 +67,7 @@ struct KeyboardState {
     bool pad = false;
 };
 
-KeyboardState &state(UIKeyboard *keyboard) {
-    if (!keyboard->_keyboardState) keyboard->_keyboardState = new KeyboardState;
-    return *static_cast<KeyboardState *>(keyboard->_keyboardState);
-}
+KeyboardState &state(UIKeyboard *keyboard) { return sim::lazyState<KeyboardState>(keyboard->_keyboardState); }
 
 UITextEffectsWindow *window = nil; // for the life of the process
 UIKeyboard *shown = nil;           // retained by the window

@@ -1,6 +1,7 @@
 #include "KeyboardKey.h"
 #include "Keyboard.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Views/ViewState.h"
 
 namespace {
@@ -13,10 +14,7 @@ struct KeyState {
     UILabel *label = nil, *letters = nil; // retained by the key
 };
 
-KeyState &state(UIKeyboardKey *key) {
-    if (!key->_keyState) key->_keyState = new KeyState;
-    return *static_cast<KeyState *>(key->_keyState);
-}
+KeyState &state(UIKeyboardKey *key) { return sim::lazyState<KeyState>(key->_keyState); }
 
 UIColor *restingColor(const KeyState &key) {
     if (key.plain) return [UIColor colorWithRed:0.82 green:0.835 blue:0.86 alpha:1];

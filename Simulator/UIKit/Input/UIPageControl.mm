@@ -1,3 +1,4 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -16,8 +17,7 @@ struct PageControlState {
 };
 
 PageControlState &state(UIPageControl *control) {
-    if (!control->_pageControlState) control->_pageControlState = new PageControlState;
-    return *static_cast<PageControlState *>(control->_pageControlState);
+    return sim::lazyState<PageControlState>(control->_pageControlState);
 }
 
 render::Rgba paint(UIColor *color, double alpha) {

@@ -1,3 +1,5 @@
+#include "Runtime/Objc/LazyState.hpp"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIDevice.h>
@@ -28,8 +30,7 @@ struct SegmentedState {
 };
 
 SegmentedState &state(UISegmentedControl *control) {
-    if (!control->_segmentedControlState) control->_segmentedControlState = new SegmentedState;
-    return *static_cast<SegmentedState *>(control->_segmentedControlState);
+    return sim::lazyState<SegmentedState>(control->_segmentedControlState);
 }
 
 void refresh(UISegmentedControl *control) {
@@ -115,7 +116,7 @@ NSInteger segmentAt(UISegmentedControl *control, CGPoint point) {
     auto &segments = state(self).segments;
     CGSize size = [self bounds].size;
     CGFloat scale = [self contentScaleFactor], each = size.width / static_cast<CGFloat>(segments.size());
-    auto edge = [&](size_t i) { return std::round(each * static_cast<CGFloat>(i) * scale) / scale; };
+    auto edge = [&](size_t i) { return sim::wholePixels(each * static_cast<CGFloat>(i), scale); };
     for (size_t i = 0; i < segments.size(); ++i) {
         [segments[i] setFrame:CGRectMake(edge(i), 0, edge(i + 1) - edge(i), size.height)];
         [segments[i]->_label setFrame:[segments[i] bounds]];

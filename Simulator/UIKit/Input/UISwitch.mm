@@ -1,3 +1,4 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -22,10 +23,7 @@ struct SwitchState {
     CGFloat touchStart = 0;
 };
 
-SwitchState &state(UISwitch *view) {
-    if (!view->_switchState) view->_switchState = new SwitchState;
-    return *static_cast<SwitchState *>(view->_switchState);
-}
+SwitchState &state(UISwitch *view) { return sim::lazyState<SwitchState>(view->_switchState); }
 
 UIColor *systemGreen() {
     return [UIColor colorWithRed:76 / 255.0 green:217 / 255.0 blue:100 / 255.0 alpha:1];

@@ -1,5 +1,6 @@
 #include "Keyboard.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Text/FontState.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -19,12 +20,11 @@ struct FieldState {
 };
 
 FieldState &state(UITextField *field) {
-    if (!field->_textFieldState) {
+    return sim::lazyState<FieldState>(field->_textFieldState, [] {
         constexpr CGFloat kDefaultSize = 17;
-        field->_textFieldState = new FieldState{.font = [[UIFont systemFontOfSize:kDefaultSize] retain],
-                                                .color = [[UIColor blackColor] retain]};
-    }
-    return *static_cast<FieldState *>(field->_textFieldState);
+        return new FieldState{.font = [[UIFont systemFontOfSize:kDefaultSize] retain],
+                              .color = [[UIColor blackColor] retain]};
+    });
 }
 
 template <typename Object>

@@ -1,4 +1,5 @@
 #include "BackdropState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Views/ViewState.h"
 
 namespace {
@@ -8,10 +9,7 @@ struct BackdropState {
     bool autosizes = false;
 };
 
-BackdropState &state(_UIBackdropView *view) {
-    if (!view->_backdropState) view->_backdropState = new BackdropState;
-    return *static_cast<BackdropState *>(view->_backdropState);
-}
+BackdropState &state(_UIBackdropView *view) { return sim::lazyState<BackdropState>(view->_backdropState); }
 
 } // namespace
 

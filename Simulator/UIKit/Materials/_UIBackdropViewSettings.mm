@@ -1,5 +1,6 @@
 #include "BackdropState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 
@@ -34,8 +35,7 @@ struct SettingsState {
 };
 
 SettingsState &state(_UIBackdropViewSettings *settings) {
-    if (!settings->_backdropSettingsState) settings->_backdropSettingsState = new SettingsState;
-    return *static_cast<SettingsState *>(settings->_backdropSettingsState);
+    return sim::lazyState<SettingsState>(settings->_backdropSettingsState);
 }
 
 } // namespace

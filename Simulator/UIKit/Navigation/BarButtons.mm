@@ -1,12 +1,13 @@
 #include "NavigationState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIImageView.h>
 #include <UIKit/UILabel.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -23,8 +24,7 @@ struct ButtonState {
 };
 
 ButtonState &state(UINavigationButton *button) {
-    if (!button->_navigationButtonState) button->_navigationButtonState = new ButtonState;
-    return *static_cast<ButtonState *>(button->_navigationButtonState);
+    return sim::lazyState<ButtonState>(button->_navigationButtonState);
 }
 
 UILabel *makeLabel(NSString *text) {
@@ -38,7 +38,7 @@ UILabel *makeLabel(NSString *text) {
 void centre(UIView *view, CGFloat x, CGRect bounds) {
     CGSize size = [view bounds].size;
     CGFloat scale = [view contentScaleFactor];
-    [view setFrame:{{x, std::round((bounds.size.height - size.height) / 2 * scale) / scale}, size}];
+    [view setFrame:{{x, sim::wholePixels((bounds.size.height - size.height) / 2, scale)}, size}];
 }
 
 } // namespace
@@ -114,8 +114,7 @@ struct BackState {
 };
 
 BackState &state(UINavigationItemButtonView *view) {
-    if (!view->_backButtonState) view->_backButtonState = new BackState;
-    return *static_cast<BackState *>(view->_backButtonState);
+    return sim::lazyState<BackState>(view->_backButtonState);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "NavigationState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 namespace {
@@ -14,8 +15,7 @@ struct BarButtonItemState {
 };
 
 BarButtonItemState &state(UIBarButtonItem *item) {
-    if (!item->_barButtonItemState) item->_barButtonItemState = new BarButtonItemState;
-    return *static_cast<BarButtonItemState *>(item->_barButtonItemState);
+    return sim::lazyState<BarButtonItemState>(item->_barButtonItemState);
 }
 
 } // namespace

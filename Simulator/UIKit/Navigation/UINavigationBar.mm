@@ -1,14 +1,15 @@
 #include "NavigationState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIApplication.h>
 #include <UIKit/UIBackdropView.h>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -42,10 +43,7 @@ struct BarState {
     SEL action = nullptr;
 };
 
-BarState &state(UINavigationBar *bar) {
-    if (!bar->_navigationBarState) bar->_navigationBarState = new BarState;
-    return *static_cast<BarState *>(bar->_navigationBarState);
-}
+BarState &state(UINavigationBar *bar) { return sim::lazyState<BarState>(bar->_navigationBarState); }
 
 _UIBackdropViewSettings *lightMaterial() {
     _UIBackdropViewSettings *settings = [_UIBackdropViewSettings settingsForStyle:2060];
@@ -75,7 +73,7 @@ void placeTitle(UIView *title, CGFloat from, CGFloat to, CGRect row) {
     size.width = std::min(size.width, std::max<CGFloat>(to - from, 0));
     CGFloat x = std::clamp((row.size.width - size.width) / 2, from, std::max(from, to - size.width));
     CGFloat y = row.origin.y + (row.size.height - size.height) / 2;
-    [title setFrame:{{std::round(x * scale) / scale, std::round(y * scale) / scale}, size}];
+    [title setFrame:{{sim::wholePixels(x, scale), sim::wholePixels(y, scale)}, size}];
 }
 
 void layOut(const Content &content, CGRect row) {

@@ -1,5 +1,6 @@
 #include "NavigationState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Controllers/ControllerState.h"
 #include "UIKit/Views/ViewState.h"
@@ -25,8 +26,7 @@ struct NavigationState {
 };
 
 NavigationState &state(UINavigationController *controller) {
-    if (!controller->_navigationControllerState) controller->_navigationControllerState = new NavigationState;
-    return *static_cast<NavigationState *>(controller->_navigationControllerState);
+    return sim::lazyState<NavigationState>(controller->_navigationControllerState);
 }
 
 // Points at the top that the status bar covers.

@@ -1,4 +1,5 @@
 #include "NavigationState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 #include <initializer_list>
@@ -14,8 +15,7 @@ struct NavigationItemState {
 };
 
 NavigationItemState &state(UINavigationItem *item) {
-    if (!item->_navigationItemState) item->_navigationItemState = new NavigationItemState;
-    return *static_cast<NavigationItemState *>(item->_navigationItemState);
+    return sim::lazyState<NavigationItemState>(item->_navigationItemState);
 }
 
 // The bar that shows the item lays itself out anew.

@@ -1,3 +1,4 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Controllers/ControllerState.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -35,8 +36,7 @@ struct PagingState {
 };
 
 PagingState &state(UIPageViewController *controller) {
-    if (!controller->_pageViewControllerState) controller->_pageViewControllerState = new PagingState;
-    return *static_cast<PagingState *>(controller->_pageViewControllerState);
+    return sim::lazyState<PagingState>(controller->_pageViewControllerState);
 }
 
 void setPage(UIPageViewController *owner, UIViewController *&slot, UIViewController *page) {

@@ -1,5 +1,6 @@
 #include "LayerState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
@@ -30,8 +31,7 @@ struct AnimationState {
 };
 
 AnimationState &state(CAAnimation *animation) {
-    if (!animation->_animationState) animation->_animationState = new AnimationState;
-    return *static_cast<AnimationState *>(animation->_animationState);
+    return sim::lazyState<AnimationState>(animation->_animationState);
 }
 
 void retain(id &slot, id value) { sim::retainInto(slot, value); }

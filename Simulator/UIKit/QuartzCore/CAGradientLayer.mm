@@ -1,4 +1,5 @@
 #include "LayerState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 using sim::changeProperty;
@@ -11,8 +12,7 @@ struct GradientState {
 };
 
 GradientState &gradient(CAGradientLayer *layer) {
-    if (!layer->_gradientState) layer->_gradientState = new GradientState;
-    return *static_cast<GradientState *>(layer->_gradientState);
+    return sim::lazyState<GradientState>(layer->_gradientState);
 }
 
 void replaceCopied(NSArray *&slot, NSArray *value) { sim::copyInto(slot, value); }

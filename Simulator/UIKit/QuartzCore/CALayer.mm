@@ -1,5 +1,6 @@
 #include "LayerState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
 
@@ -17,12 +18,11 @@ namespace sim {
 
 LayerState &state(CALayer *layer) {
     static uint64_t last = 0;
-    if (!layer->_layerState) {
+    return lazyState<LayerState>(layer->_layerState, [] {
         auto *fresh = new LayerState;
         fresh->number = ++last;
-        layer->_layerState = fresh;
-    }
-    return *static_cast<LayerState *>(layer->_layerState);
+        return fresh;
+    });
 }
 
 bool isInWindow(CALayer *layer) {

@@ -1,4 +1,5 @@
 #include "LayerState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 #include <QuartzCore/CAShapeLayer.h>
@@ -18,11 +19,10 @@ struct ShapeState {
 };
 
 ShapeState &shape(CAShapeLayer *layer) {
-    if (!layer->_shapeState) {
-        layer->_shapeState = new ShapeState{.cap = @"butt"};
+    return sim::lazyState<ShapeState>(layer->_shapeState, [layer] {
         sim::state(layer).model.fill = render::Rgba{0, 0, 0, 1};
-    }
-    return *static_cast<ShapeState *>(layer->_shapeState);
+        return new ShapeState{.cap = @"butt"};
+    });
 }
 
 std::optional<render::Rgba> flat(CGColorRef color) {

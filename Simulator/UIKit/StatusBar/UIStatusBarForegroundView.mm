@@ -1,8 +1,9 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "Runtime/Process/Pixels.hpp"
 #include "StatusBarState.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include <UIKit/UIScreen.h>
 
@@ -20,8 +21,7 @@ struct ForegroundState {
 };
 
 ForegroundState &state(UIStatusBarForegroundView *view) {
-    if (!view->_foregroundState) view->_foregroundState = new ForegroundState;
-    return *static_cast<ForegroundState *>(view->_foregroundState);
+    return sim::lazyState<ForegroundState>(view->_foregroundState);
 }
 
 Entry makeEntry(UIStatusBarItem *item, UIStatusBarForegroundStyleAttributes *style) {
@@ -64,7 +64,7 @@ bool contains(const std::vector<UIStatusBarItem *> &items, UIStatusBarItem *item
     CGFloat scale = [[UIScreen mainScreen] scale];
     auto lefts = sim::layOutStatusBar(slots, size.width);
     for (size_t i = 0; i < entries.size(); ++i) {
-        CGFloat left = std::round(lefts[i] * scale) / scale;
+        CGFloat left = sim::wholePixels(lefts[i], scale);
         [entries[i].view setFrame:CGRectMake(left, 0, entries[i].width, size.height)];
     }
 }

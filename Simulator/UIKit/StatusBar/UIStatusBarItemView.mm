@@ -1,6 +1,8 @@
 #include "StatusBarState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/Materials/DrawnImage.h"
 #include "UIKit/Views/ViewState.h"
@@ -17,8 +19,7 @@ struct ItemViewState {
 };
 
 ItemViewState &state(UIStatusBarItemView *view) {
-    if (!view->_itemViewState) view->_itemViewState = new ItemViewState;
-    return *static_cast<ItemViewState *>(view->_itemViewState);
+    return sim::lazyState<ItemViewState>(view->_itemViewState);
 }
 
 // Texts are set anew only when they differ: every item is asked each minute.
@@ -74,7 +75,7 @@ UIImage *textImage(ItemViewState &mine, NSString *text) {
     if (!image) return;
     CGSize size = [image size];
     // Whole pixels, so that thin strokes stay crisp.
-    CGFloat scale = [image scale], top = std::round((node.bounds.height - size.height) / 2 * scale) / scale;
+    CGFloat top = sim::wholePixels((node.bounds.height - size.height) / 2, [image scale]);
     node.drawings.push_back(render::Image{.bitmap = sim::state(image).image->bitmap,
                                           .rect = {0, top, size.width, size.height},
                                           .caps = {},

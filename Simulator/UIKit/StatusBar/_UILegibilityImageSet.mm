@@ -1,3 +1,4 @@
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 
 #include <UIKit/UIStatusBar.h>
@@ -8,10 +9,7 @@ struct ImageSet {
     UIImage *image = nil, *shadow = nil; // retained
 };
 
-ImageSet &state(_UILegibilityImageSet *set) {
-    if (!set->_imageSetState) set->_imageSetState = new ImageSet;
-    return *static_cast<ImageSet *>(set->_imageSetState);
-}
+ImageSet &state(_UILegibilityImageSet *set) { return sim::lazyState<ImageSet>(set->_imageSetState); }
 
 void replace(UIImage *&slot, UIImage *image) { sim::retainInto(slot, image); }
 

@@ -1,5 +1,6 @@
 #include "TableState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -9,10 +10,7 @@
 
 namespace sim {
 
-TableState &state(UITableView *table) {
-    if (!table->_tableState) table->_tableState = new TableState;
-    return *static_cast<TableState *>(table->_tableState);
-}
+TableState &state(UITableView *table) { return lazyState<TableState>(table->_tableState); }
 
 } // namespace sim
 

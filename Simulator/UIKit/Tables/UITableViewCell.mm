@@ -1,11 +1,12 @@
 #include "TableState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
+#include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <algorithm>
-#include <cmath>
 
 // The colour behind a row, with the corners of its place.
 @interface UITableViewCellBackground : UIView {
@@ -58,10 +59,7 @@ struct CellState {
     bool selected = false, highlighted = false, inTable = false;
 };
 
-CellState &state(UITableViewCell *cell) {
-    if (!cell->_cellState) cell->_cellState = new CellState;
-    return *static_cast<CellState *>(cell->_cellState);
-}
+CellState &state(UITableViewCell *cell) { return sim::lazyState<CellState>(cell->_cellState); }
 
 UILabel *makeLabel(UIView *parent, CGFloat size, UIColor *color) {
     UILabel *label = [[[UILabel alloc] initWithFrame:CGRectZero] autorelease];
@@ -118,10 +116,8 @@ void updateAccessory(UITableViewCell *cell) {
     [cell setNeedsLayout];
 }
 
-CGFloat rounded(CGFloat points) { return std::round(points * sim::device().scale) / sim::device().scale; }
-
 CGRect centred(CGSize size, CGFloat x, CGFloat height) {
-    return {{rounded(x), rounded((height - size.height) / 2)}, size};
+    return {{sim::wholePixels(x), sim::wholePixels((height - size.height) / 2)}, size};
 }
 
 // The two texts beside one another: the title keeps its width, the detail gets the rest, at the right.
@@ -130,7 +126,7 @@ void placeTexts(const CellState &mine, CGFloat from, CGFloat to, CGFloat height)
     CGSize text = [mine.text sizeThatFits:CGSizeMake(room, height)];
     CGSize detail = [mine.detail sizeThatFits:CGSizeMake(room, height)];
     if (mine.style == UITableViewCellStyleSubtitle && detail.height > 0) {
-        CGFloat top = rounded((height - text.height - detail.height) / 2);
+        CGFloat top = sim::wholePixels((height - text.height - detail.height) / 2);
         [mine.text setFrame:CGRectMake(from, top, room, text.height)];
         [mine.detail setFrame:CGRectMake(from, top + text.height, room, detail.height)];
         return;

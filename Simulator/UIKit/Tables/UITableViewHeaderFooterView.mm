@@ -1,5 +1,6 @@
 #include "TableState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Views/ViewState.h"
 
@@ -20,8 +21,7 @@ struct EdgeState {
 };
 
 EdgeState &state(UITableViewHeaderFooterView *view) {
-    if (!view->_headerFooterState) view->_headerFooterState = new EdgeState;
-    return *static_cast<EdgeState *>(view->_headerFooterState);
+    return sim::lazyState<EdgeState>(view->_headerFooterState);
 }
 
 void setUp(UILabel *label, NSString *text, bool footer) {

@@ -1,4 +1,5 @@
 #include "FontState.h"
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 #include "UIKit/Views/ViewState.h"
@@ -22,12 +23,11 @@ struct LabelState {
 };
 
 LabelState &state(UILabel *label) {
-    if (!label->_labelState) {
+    return sim::lazyState<LabelState>(label->_labelState, [] {
         constexpr CGFloat kDefaultSize = 17;
-        label->_labelState = new LabelState{.font = [[UIFont systemFontOfSize:kDefaultSize] retain],
-                                            .color = [[UIColor blackColor] retain]};
-    }
-    return *static_cast<LabelState *>(label->_labelState);
+        return new LabelState{.font = [[UIFont systemFontOfSize:kDefaultSize] retain],
+                              .color = [[UIColor blackColor] retain]};
+    });
 }
 
 render::TextStyle style(const LabelState &label) {

@@ -2,6 +2,8 @@
 
 #include "GestureArbiter.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 #include <algorithm>
 #include <cmath>
 
@@ -34,8 +36,7 @@ const char *stateName(UIGestureRecognizerState state) {
 }
 
 RecognizerState &state(UIGestureRecognizer *recognizer) {
-    if (!recognizer->_recognizerState) recognizer->_recognizerState = new RecognizerState;
-    return *static_cast<RecognizerState *>(recognizer->_recognizerState);
+    return lazyState<RecognizerState>(recognizer->_recognizerState);
 }
 
 void attach(UIGestureRecognizer *recognizer, UIView *view) {

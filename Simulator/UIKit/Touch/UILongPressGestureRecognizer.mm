@@ -1,5 +1,7 @@
 #include "GestureArbiter.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 namespace {
 
 struct LongPressState {
@@ -9,8 +11,7 @@ struct LongPressState {
 };
 
 LongPressState &pressState(UILongPressGestureRecognizer *recognizer) {
-    if (!recognizer->_longPressState) recognizer->_longPressState = new LongPressState;
-    return *static_cast<LongPressState *>(recognizer->_longPressState);
+    return sim::lazyState<LongPressState>(recognizer->_longPressState);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "GestureArbiter.h"
 #include "PanState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 #include <cmath>
 
 namespace {
@@ -19,8 +21,7 @@ struct PanState {
 };
 
 PanState &panState(UIPanGestureRecognizer *recognizer) {
-    if (!recognizer->_panState) recognizer->_panState = new PanState;
-    return *static_cast<PanState *>(recognizer->_panState);
+    return sim::lazyState<PanState>(recognizer->_panState);
 }
 
 UIWindow *window(UIGestureRecognizer *recognizer) { return sim::state(recognizer).window; }

@@ -1,5 +1,7 @@
 #include "GestureArbiter.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 #include <cmath>
 
 namespace {
@@ -16,8 +18,7 @@ struct SwipeState {
 };
 
 SwipeState &swipeState(UISwipeGestureRecognizer *recognizer) {
-    if (!recognizer->_swipeState) recognizer->_swipeState = new SwipeState;
-    return *static_cast<SwipeState *>(recognizer->_swipeState);
+    return sim::lazyState<SwipeState>(recognizer->_swipeState);
 }
 
 struct Course {

@@ -1,5 +1,7 @@
 #include "GestureArbiter.h"
 
+#include "Runtime/Objc/LazyState.hpp"
+
 #include <algorithm>
 
 namespace {
@@ -19,8 +21,7 @@ struct TapState {
 };
 
 TapState &tapState(UITapGestureRecognizer *recognizer) {
-    if (!recognizer->_tapState) recognizer->_tapState = new TapState;
-    return *static_cast<TapState *>(recognizer->_tapState);
+    return sim::lazyState<TapState>(recognizer->_tapState);
 }
 
 } // namespace

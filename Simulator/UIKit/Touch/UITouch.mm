@@ -1,5 +1,6 @@
 #include "TouchState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <algorithm>
@@ -29,10 +30,7 @@ CGAffineTransform turnAndScale(UIWindow *window, UIView *view) {
 
 namespace sim {
 
-TouchState &state(UITouch *touch) {
-    if (!touch->_touchState) touch->_touchState = new TouchState;
-    return *static_cast<TouchState *>(touch->_touchState);
-}
+TouchState &state(UITouch *touch) { return lazyState<TouchState>(touch->_touchState); }
 
 UITouch *makeTouch(int pointer, CGPoint screenPoint) {
     UITouch *touch = [[UITouch new] autorelease];

@@ -1,5 +1,6 @@
 #include "ViewState.h"
 
+#include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/QuartzCore/AnimationBlock.h"
 #include "UIKit/Touch/RecognizerState.h"
@@ -10,10 +11,7 @@
 
 namespace sim {
 
-ViewState &state(UIView *view) {
-    if (!view->_viewState) view->_viewState = new ViewState;
-    return *static_cast<ViewState *>(view->_viewState);
-}
+ViewState &state(UIView *view) { return lazyState<ViewState>(view->_viewState); }
 
 } // namespace sim
 

@@ -1,5 +1,6 @@
 #include "ScrollMotion.h"
 
+#include "Runtime/Process/Pixels.hpp"
 #include "ScrollIndicators.h"
 #include "UIKit/QuartzCore/Timing.hpp"
 

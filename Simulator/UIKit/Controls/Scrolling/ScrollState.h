@@ -44,7 +44,4 @@ ScrollRange scrollRange(UIScrollView *scrollView, int axis);
 // Whether a finger can move the content along that axis.
 bool canScroll(UIScrollView *scrollView, int axis);
 
-// To the nearest pixel of the device.
-double wholePixels(double points);
-
 } // namespace sim

@@ -1,4 +1,4 @@
-#include "Runtime/Process/Device.hpp"
+#include "Runtime/Objc/LazyState.hpp"
 #include "ScrollIndicators.h"
 #include "ScrollMotion.h"
 #include "ScrollRecognizers.h"
@@ -7,14 +7,10 @@
 #include <UIKit/UIControl.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace sim {
 
-ScrollState &state(UIScrollView *scrollView) {
-    if (!scrollView->_scrollState) scrollView->_scrollState = new ScrollState;
-    return *static_cast<ScrollState *>(scrollView->_scrollState);
-}
+ScrollState &state(UIScrollView *scrollView) { return lazyState<ScrollState>(scrollView->_scrollState); }
 
 ScrollRange scrollRange(UIScrollView *scrollView, int axis) {
     const auto &mine = state(scrollView);
@@ -31,8 +27,6 @@ bool canScroll(UIScrollView *scrollView, int axis) {
     ScrollRange range = scrollRange(scrollView, axis);
     return range.most > range.least || (mine.bounces && mine.bouncesAlways[axis]);
 }
-
-double wholePixels(double points) { return std::round(points * device().scale) / device().scale; }
 
 } // namespace sim
 
