@@ -1,9 +1,8 @@
-# The packages that the simulator stands on.
+# The packages that the simulator and its tests stand on.
 
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(CAIRO REQUIRED IMPORTED_TARGET cairo)
 pkg_check_modules(PANGO REQUIRED IMPORTED_TARGET pangocairo pangoft2 fontconfig)
-pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(LUA REQUIRED IMPORTED_TARGET lua5.4-c++)
 find_package(nlohmann_json REQUIRED)
 find_package(CLI11 REQUIRED)
@@ -12,4 +11,6 @@ find_package(Threads REQUIRED)
 find_package(benchmark REQUIRED)
 find_package(GTest REQUIRED CONFIG)
 include(GoogleTest)
+# The tests compare the simulator's property lists with it.
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(RSVG REQUIRED IMPORTED_TARGET librsvg-2.0)

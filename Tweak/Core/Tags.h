@@ -31,9 +31,7 @@ constexpr NSInteger secondHand = 1000, minuteHand = 1001, hourHand = 1002; // in
 // In the lock faces.
 constexpr NSInteger faceTitle = -1;
 constexpr NSInteger faceButton = -2; // keypad: cancel or delete; ask face: unlock
-constexpr NSInteger firstPasscodeDot = 1, lastPasscodeDot = 4;
-constexpr NSInteger keyStep = 10; // digit keys: digit times ten, and 100 for 0
-constexpr NSInteger zeroKey = 100;
+constexpr NSInteger firstPasscodeDot = 1; // of four; the digit keys are tagged by keyOfDigit()
 constexpr NSInteger glyph = 1, fingerCancel = 2, fingerPasscode = 3;
 
 // On a home-screen icon: the small mark in place of its badge.
