@@ -39,7 +39,7 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     rows.group(@"desc_ask").toggle(keys::asksFirst);
     rows.group(@"change_pass");
     PSSpecifier *button = rows.button(@"change_pass", PSButtonCell, @selector(changePass));
-    [button setProperty:[NSNumber numberWithInt:2] forKey:@"alignment"]; // centred
+    [button setProperty:[NSNumber numberWithInt:PSAlignmentCenter] forKey:@"alignment"];
     return rows.list();
 }
 

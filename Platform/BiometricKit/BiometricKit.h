@@ -18,7 +18,21 @@
 - (BOOL)hasEnrolledIdentities;
 @end
 
-// Events: 0 finger up, 1 finger down, 2 held, 3 matched, 4 maybe matched, 9 and 10 not matched.
+// What tells the failures 5, 7 and 8 from one another, and 9 from 10, is not known.
+enum {
+    SBUIBiometricEventFingerUp = 0,
+    SBUIBiometricEventFingerDown = 1,
+    SBUIBiometricEventFingerHeld = 2,
+    SBUIBiometricEventMatched = 3,
+    SBUIBiometricEventMaybeMatched = 4,
+    SBUIBiometricEventFailure5 = 5,
+    SBUIBiometricEventDisabled = 6,
+    SBUIBiometricEventFailure7 = 7,
+    SBUIBiometricEventFailure8 = 8,
+    SBUIBiometricEventNotMatched9 = 9,
+    SBUIBiometricEventNotMatched10 = 10
+};
+
 @protocol SBUIBiometricEventObserver
 - (void)biometricEventMonitor:(SBUIBiometricEventMonitor *)monitor handleBiometricEvent:(NSUInteger)event;
 @end

@@ -1,3 +1,4 @@
+// Core Graphics in one: geometry and drawing.
 #pragma once
 
 #include <CoreGraphics/CGDrawing.h>

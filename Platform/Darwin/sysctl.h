@@ -1,3 +1,4 @@
+// The system's settings by name, such as the model of the device.
 #pragma once
 
 #include <stddef.h>

@@ -3,7 +3,10 @@
 
 #include <UIKit/UIView.h>
 
-// States: 0 idle, 1 scanning, 6 ticked. The completion runs when the drawing has come to rest.
+enum { PKGlyphViewStateIdle = 0, PKGlyphViewStateScanning = 1, PKGlyphViewStateTicked = 6 };
+enum { PKGlyphViewStyleDefault = 0 };
+
+// The completion runs when the drawing has come to rest.
 @interface PKGlyphView : UIView {
 @public
     void *_glyphState;

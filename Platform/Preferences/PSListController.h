@@ -1,3 +1,4 @@
+// The pages of the Settings application.
 #pragma once
 
 #include <Preferences/PSTableCell.h>

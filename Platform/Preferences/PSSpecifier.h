@@ -1,3 +1,4 @@
+// What a page of Settings is made of: rows and groups, described by their properties.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -21,6 +22,9 @@ enum {
     PSEditTextViewCell = 14,
     PSSpinnerCell = 15
 };
+
+// The property "alignment" of a button's row; at the left without it. (Inferred.)
+enum { PSAlignmentCenter = 2, PSAlignmentRight = 3 };
 
 // One row or group of a list. The target is not retained. The getter is `-(id)get:(PSSpecifier *)specifier`,
 // the setter `-(void)set:(id)value specifier:(PSSpecifier *)specifier`, the action `-(void)act:(PSSpecifier

@@ -1,3 +1,4 @@
+// The rows of a page of Settings as views, and what stands above and below their groups.
 #pragma once
 
 #include <Preferences/PSSpecifier.h>

@@ -1,3 +1,4 @@
+// The framework of Settings in one.
 #pragma once
 
 #include <Preferences/PSListController.h>

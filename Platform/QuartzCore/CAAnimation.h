@@ -1,3 +1,4 @@
+// Explicit animations of layers.
 #pragma once
 
 #include <QuartzCore/CALayer.h>

@@ -1,3 +1,4 @@
+// The layer that draws a gradient.
 #pragma once
 
 #include <QuartzCore/CALayer.h>

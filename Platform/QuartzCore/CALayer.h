@@ -1,3 +1,4 @@
+// The layer tree: what every view draws with.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>

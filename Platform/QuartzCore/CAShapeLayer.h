@@ -1,3 +1,4 @@
+// The layer that draws a path.
 #pragma once
 
 #include <QuartzCore/CALayer.h>

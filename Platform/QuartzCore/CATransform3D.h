@@ -1,3 +1,4 @@
+// Transforms of layers in space.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>

@@ -1,3 +1,4 @@
+// Core Animation in one.
 #pragma once
 
 #include <QuartzCore/CAAnimation.h>

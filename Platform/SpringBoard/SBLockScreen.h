@@ -4,6 +4,9 @@
 #import <Foundation/Foundation.h>
 #include <UIKit/UIViewController.h>
 
+// What asked for the lock screen to go; it makes no difference to what happens.
+enum { SBUnlockSourceUnknown = 0 };
+
 @interface SBAlert : UIViewController
 @end
 

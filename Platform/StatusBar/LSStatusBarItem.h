@@ -3,7 +3,8 @@
 
 #import <Foundation/Foundation.h>
 
-typedef int StatusBarAlignment; // 1 left, 2 right, 4 centre
+typedef int StatusBarAlignment;
+enum { StatusBarAlignmentLeft = 1, StatusBarAlignmentRight = 2, StatusBarAlignmentCenter = 4 };
 
 @interface LSStatusBarItem : NSObject {
 @public

@@ -1,3 +1,4 @@
+// Tweets, as any application may offer to send one.
 #pragma once
 
 #include <UIKit/UIViewController.h>

@@ -1,3 +1,4 @@
+// Alerts: a title, a message and buttons.
 #pragma once
 
 #include <UIKit/UIView.h>

@@ -1,3 +1,4 @@
+// The application object of a process.
 #pragma once
 
 #include <UIKit/UIResponder.h>

@@ -3,7 +3,12 @@
 
 #include <UIKit/UIView.h>
 
-// Styles used here: 2030 dark, 2060 light, 3900 the passcode screen's.
+enum {
+    _UIBackdropViewStyleDark = 2030,
+    _UIBackdropViewStyleAdaptiveLight = 2060,
+    _UIBackdropViewStylePasscodePaddle = 3900 // the passcode screen's
+};
+
 @interface _UIBackdropViewSettings : NSObject {
 @public
     void *_backdropSettingsState;

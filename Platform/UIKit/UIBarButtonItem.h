@@ -1,3 +1,4 @@
+// The buttons of a navigation bar.
 #pragma once
 
 #include <UIKit/UIImage.h>

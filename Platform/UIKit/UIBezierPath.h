@@ -1,3 +1,4 @@
+// Paths as objects.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>

@@ -1,3 +1,4 @@
+// Colours as objects.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>

@@ -1,3 +1,4 @@
+// Views that send actions to targets, and the button among them.
 #pragma once
 
 #include <UIKit/UILabel.h>

@@ -1,3 +1,4 @@
+// The device: its model, its system and how it is held.
 #pragma once
 
 #include <UIKit/UIGeometry.h>

@@ -1,3 +1,4 @@
+// Fonts, and the size of a text in one.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>

@@ -1,3 +1,4 @@
+// Insets and orientations.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>

@@ -1,3 +1,4 @@
+// Gestures: taps, long presses, pans and swipes.
 #pragma once
 
 #include <UIKit/UIView.h>

@@ -1,3 +1,4 @@
+// Images: loading, stretching, drawing and making them.
 #pragma once
 
 #include <UIKit/UIGeometry.h>

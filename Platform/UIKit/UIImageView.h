@@ -1,3 +1,4 @@
+// The view of an image.
 #pragma once
 
 #include <UIKit/UIImage.h>

@@ -1,3 +1,4 @@
+// UIKit in one.
 #pragma once
 
 #include <QuartzCore/QuartzCore.h>

@@ -1,3 +1,4 @@
+// The view of a text.
 #pragma once
 
 #include <UIKit/UIFont.h>

@@ -1,3 +1,4 @@
+// Pages that slide over one another, and the bar above them.
 #pragma once
 
 #include <UIKit/UIBarButtonItem.h>

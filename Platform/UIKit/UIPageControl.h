@@ -1,3 +1,4 @@
+// The dots that stand for pages.
 #pragma once
 
 #include <UIKit/UIControl.h>

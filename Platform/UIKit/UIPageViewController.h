@@ -1,3 +1,4 @@
+// Pages side by side, turned by a finger.
 #pragma once
 
 #include <UIKit/UIPageControl.h>

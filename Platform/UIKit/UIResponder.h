@@ -1,3 +1,4 @@
+// The chain along which touches and other events travel.
 #pragma once
 
 #include <UIKit/UIGeometry.h>

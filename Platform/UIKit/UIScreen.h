@@ -1,3 +1,4 @@
+// The device's screen.
 #pragma once
 
 #include <UIKit/UIGeometry.h>

@@ -1,3 +1,4 @@
+// Views whose content moves under a finger.
 #pragma once
 
 #include <UIKit/UIGestureRecognizer.h>

@@ -1,3 +1,4 @@
+// A row of choices, one of them selected.
 #pragma once
 
 #include <UIKit/UIControl.h>

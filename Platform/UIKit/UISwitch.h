@@ -1,3 +1,4 @@
+// The on and off switch.
 #pragma once
 
 #include <UIKit/UIControl.h>

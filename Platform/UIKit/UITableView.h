@@ -1,3 +1,4 @@
+// Lists of rows in sections.
 #pragma once
 
 #include <UIKit/UIScrollView.h>

@@ -1,3 +1,4 @@
+// The rows of a list as views.
 #pragma once
 
 #include <UIKit/UIImageView.h>

@@ -1,3 +1,4 @@
+// A line of text that a user edits.
 #pragma once
 
 #include <UIKit/UIControl.h>

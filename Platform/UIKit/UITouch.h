@@ -1,3 +1,4 @@
+// Fingers on the screen, and the events that tell of them.
 #pragma once
 
 #include <UIKit/UIGeometry.h>

@@ -1,3 +1,4 @@
+// Views: geometry, hierarchy, rendering and animation.
 #pragma once
 
 #include <QuartzCore/QuartzCore.h>

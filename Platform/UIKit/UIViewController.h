@@ -1,3 +1,4 @@
+// What stands behind a page: its view, its children and its rotation.
 #pragma once
 
 #include <UIKit/UIView.h>

@@ -1,3 +1,4 @@
+// Windows and their levels.
 #pragma once
 
 #include <UIKit/UIView.h>

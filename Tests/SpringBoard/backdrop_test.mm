@@ -43,7 +43,7 @@ TEST(Backdrop, StylesDiffer) {
 }
 
 TEST(Backdrop, FollowsChangedSettings) {
-    _UIBackdropViewSettings *settings = [_UIBackdropViewSettings settingsForStyle:2030];
+    _UIBackdropViewSettings *settings = [_UIBackdropViewSettings settingsForStyle:_UIBackdropViewStyleDark];
     UIView *view = [[[_UIBackdropView alloc] initWithSettings:settings] autorelease];
     [settings setBlurRadius:7];
     [settings setColorTint:[UIColor colorWithRed:1 green:0 blue:0 alpha:0.5]];

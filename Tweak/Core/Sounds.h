@@ -5,6 +5,6 @@
 
 namespace pendix::sounds {
 
-constexpr SystemSoundID keyClick = 1104, vibration = 4095;
+constexpr SystemSoundID keyClick = 1104, vibration = kSystemSoundID_Vibrate;
 
 } // namespace pendix::sounds

@@ -15,12 +15,11 @@ namespace pendix {
 namespace {
 
 constexpr NSInteger kTitleLines = 2;
-constexpr NSInteger kGlyphStyle = 0;
 constexpr CGFloat kSecondaryWhite = 0.3;
 
 // A system without such a glyph leaves its place empty; the face listens all the same.
 void addGlyph(UIView *face, CGRect frame, const Scheme &scheme) {
-    PKGlyphView *glyph = [[objc_getClass("PKGlyphView") alloc] initWithStyle:kGlyphStyle];
+    PKGlyphView *glyph = [[objc_getClass("PKGlyphView") alloc] initWithStyle:PKGlyphViewStyleDefault];
     if (!glyph) return;
     glyph.frame = frame;
     glyph.tag = tags::glyph;

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr NSInteger kIdle = 0, kScanning = 1, kTicked = 6; // of the glyph
-
 SBUIBiometricEventMonitor *monitor() {
     return [(BiometricKit *)[objc_getClass("BiometricKit") manager] delegate];
 }
@@ -28,18 +26,18 @@ UIView *fingerFace() { return pendix::lockFace(pendix::tags::fingerFace); }
 }
 
 - (void)resetFinger {
-    [[self fingerPrint] setState:kIdle animated:YES completionHandler:nil];
+    [[self fingerPrint] setState:PKGlyphViewStateIdle animated:YES completionHandler:nil];
 }
 
 - (void)scan {
-    [[self fingerPrint] setState:kScanning animated:YES completionHandler:nil];
+    [[self fingerPrint] setState:PKGlyphViewStateScanning animated:YES completionHandler:nil];
 }
 
 - (void)done {
     pendix::requireFinger = NO;
     void (^unlock)(void) = ^{ [pendix::Spring unlockPendix:pendix::tags::fingerFace]; };
     if (PKGlyphView *glyph = [self fingerPrint]) {
-        [glyph setState:kTicked animated:YES completionHandler:unlock];
+        [glyph setState:PKGlyphViewStateTicked animated:YES completionHandler:unlock];
     } else {
         unlock();
     }
@@ -53,23 +51,23 @@ UIView *fingerFace() { return pendix::lockFace(pendix::tags::fingerFace); }
 - (void)biometricEventMonitor:(SBUIBiometricEventMonitor *)monitor handleBiometricEvent:(NSUInteger)event {
     if (!pendix::isShow || !pendix::requireFinger) return;
     switch (event) {
-    case 0: // finger up
+    case SBUIBiometricEventFingerUp:
         [self resetFinger];
         break;
-    case 1: // finger down
+    case SBUIBiometricEventFingerDown:
         [self scan];
         break;
-    case 3: // matched
+    case SBUIBiometricEventMatched:
         [self done];
         break;
-    case 5:
-    case 6:
-    case 7:
-    case 8:
+    case SBUIBiometricEventFailure5:
+    case SBUIBiometricEventDisabled:
+    case SBUIBiometricEventFailure7:
+    case SBUIBiometricEventFailure8:
         [self fail:pendix::Translator(@"fail")];
         break;
-    case 9: // not matched
-    case 10:
+    case SBUIBiometricEventNotMatched9:
+    case SBUIBiometricEventNotMatched10:
         [self resetFinger];
         AudioServicesPlaySystemSound(pendix::sounds::vibration);
         break;

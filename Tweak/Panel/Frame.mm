@@ -9,12 +9,13 @@ namespace pendix {
 
 namespace {
 
-constexpr NSInteger kDarkStyle = 2030, kLightStyle = 2060;
 constexpr CGFloat kLightBubbleAlpha = 0.7;
 
 _UIBackdropViewSettings *material(const Scheme &scheme) {
-    return scheme.light ? [objc_getClass("_UIBackdropViewSettingsAdaptiveLight") settingsForStyle:kLightStyle]
-                        : [objc_getClass("_UIBackdropViewSettingsDark") settingsForStyle:kDarkStyle];
+    return scheme.light
+               ? [objc_getClass("_UIBackdropViewSettingsAdaptiveLight")
+                     settingsForStyle:_UIBackdropViewStyleAdaptiveLight]
+               : [objc_getClass("_UIBackdropViewSettingsDark") settingsForStyle:_UIBackdropViewStyleDark];
 }
 
 // A plain view where the system has no such material.

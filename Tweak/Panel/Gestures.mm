@@ -70,7 +70,7 @@ void added::tapPressEvent(SpringBoard *self, SEL, UITapGestureRecognizer *recogn
     }
     [[lock lockScreenViewController] setPasscodeLockVisible:YES
                                                    animated:YES
-                                           withUnlockSource:0
+                                           withUnlockSource:SBUnlockSourceUnknown
                                                  andOptions:nil];
     [openThisApp release];
     openThisApp = [identifier copy];

@@ -13,8 +13,6 @@ namespace pendix {
 
 namespace {
 
-constexpr int kTerminate = 15;
-
 SBAppSwitcherModel *switcherModel() { return [objc_getClass("SBAppSwitcherModel") sharedInstance]; }
 
 // A copy, for quitting changes the list.
@@ -40,7 +38,7 @@ void quitLayout(SBDisplayLayout *layout, NSString *identifier) {
 void quitByProcess(NSString *identifier) {
     SBApplication *application = applicationOf(identifier);
     [application deactivate];
-    if ([application pid] > 0) kill([application pid], kTerminate);
+    if ([application pid] > 0) kill([application pid], SIGTERM);
 }
 
 } // namespace

@@ -15,8 +15,6 @@ namespace pendix {
 namespace {
 
 constexpr UIWindowLevel kAboveStatusBar = 532;
-constexpr NSInteger kPasscodePaddleStyle = 3900;
-constexpr StatusBarAlignment kRight = 2;
 constexpr NSTimeInterval kPollInterval = 1.0; // seconds
 
 // The pane shows its Touch ID row only where there is a sensor. A file that cannot be read is written anew.
@@ -26,8 +24,8 @@ void recordTouchID(SpringBoard *springBoard) {
 }
 
 void addScreenBackdrop() {
-    _UIBackdropViewSettings *settings =
-        [objc_getClass("_UIBackdropViewSettingsPasscodePaddle") settingsForStyle:kPasscodePaddleStyle];
+    _UIBackdropViewSettings *settings = [objc_getClass("_UIBackdropViewSettingsPasscodePaddle")
+        settingsForStyle:_UIBackdropViewStylePasscodePaddle];
     _UIBackdropView *backdrop = [[objc_getClass("_UIBackdropView") alloc] initWithFrame:window.frame
                                                                 autosizesToFitSuperview:YES
                                                                                settings:settings];
@@ -63,8 +61,9 @@ void makeWindow() {
 
 // Visible by `enable` alone: the other watched settings count from their next change, or a badge's, on.
 void makeStatusBarItem() {
-    statusbaritem = [[NSClassFromString(@"LSStatusBarItem") alloc] initWithIdentifier:names::statusBarItem
-                                                                            alignment:kRight];
+    statusbaritem =
+        [[NSClassFromString(@"LSStatusBarItem") alloc] initWithIdentifier:names::statusBarItem
+                                                                alignment:StatusBarAlignmentRight];
     lastSwitcher = isOn(keys::runningMode);
     lastEnable = isOn(keys::enabled);
     lastHide = isOn(keys::hidesIndicator);

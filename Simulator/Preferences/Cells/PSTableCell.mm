@@ -37,12 +37,11 @@ bool isSelectable(PSCellType type) {
     return type == PSLinkCell || type == PSLinkListCell || type == PSListItemCell || type == PSButtonCell;
 }
 
-// The property "alignment": 2 is centred, 3 at the right. (Inferred.)
 NSTextAlignment alignment(PSSpecifier *specifier) {
     switch ([[specifier propertyForKey:@"alignment"] integerValue]) {
-    case 2:
+    case PSAlignmentCenter:
         return NSTextAlignmentCenter;
-    case 3:
+    case PSAlignmentRight:
         return NSTextAlignmentRight;
     default:
         return NSTextAlignmentLeft;

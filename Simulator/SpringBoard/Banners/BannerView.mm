@@ -53,10 +53,10 @@ void addWords(UIView *banner, SBUIBannerContext *context) {
 @implementation SBDefaultBannerView
 
 - (instancetype)initWithContext:(id)context {
-    constexpr NSInteger kDark = 2030;
     CGRect frame = CGRectMake(0, 0, sim::device().width, kHeight);
     if (!(self = [super initWithFrame:frame])) return nil;
-    [self addSubview:sim::makeGlass(frame, kDark, 0.5, [UIColor colorWithWhite:0.1 alpha:0.92])];
+    [self addSubview:sim::makeGlass(frame, _UIBackdropViewStyleDark, 0.5,
+                                    [UIColor colorWithWhite:0.1 alpha:0.92])];
     if ([context isKindOfClass:[SBUIBannerContext class]]) addWords(self, context);
     [self addSubview:makeGrabber(frame.size.width)];
     for (UIView *part in [self subviews]) [part setUserInteractionEnabled:NO];

@@ -17,10 +17,8 @@ namespace {
 // Seconds. (Inferred.)
 constexpr double kFill = 0.6, kEmpty = 0.3, kFinish = 0.2, kTick = 0.4, kFade = 0.2;
 
-enum : NSInteger { kIdle = 0, kScanning = 1, kTicked = 6 };
-
 struct GlyphState {
-    NSInteger style = 0, state = kIdle;
+    NSInteger style = 0, state = PKGlyphViewStateIdle;
     UIColor *primary = nil, *secondary = nil;  // retained
     PKFingerprintGlyphView *fingerprint = nil; // retained by the view tree, as what follows is
     UIView *tick = nil;
@@ -130,11 +128,11 @@ const bool kRegistered = (sim::registerClassVersions(kClasses), true);
     mine.state = next;
     bool moves = animated && [self window];
     auto seconds = [&](double duration) { return moves ? duration : 0; };
-    bool ticked = next == kTicked;
-    if (ticked || next == kScanning)
+    bool ticked = next == PKGlyphViewStateTicked;
+    if (ticked || next == PKGlyphViewStateScanning)
         [mine.fingerprint setProgress:1 withDuration:seconds(ticked ? kFinish : kFill)];
-    if (next == kIdle) [mine.fingerprint setProgress:0 withDuration:seconds(kEmpty)];
-    if (next == kIdle || next == kScanning) drawTick(self, 0, 0, nil);
+    if (next == PKGlyphViewStateIdle) [mine.fingerprint setProgress:0 withDuration:seconds(kEmpty)];
+    if (next == PKGlyphViewStateIdle || next == PKGlyphViewStateScanning) drawTick(self, 0, 0, nil);
     if (!moves) {
         if (ticked) drawTick(self, 1, 0, nil);
         if (completion) completion();
@@ -144,7 +142,7 @@ const bool kRegistered = (sim::registerClassVersions(kClasses), true);
         void (^finish)(BOOL) = ^(BOOL) {
             if (completion) completion();
         };
-        if (ticked && state(self).state == kTicked) {
+        if (ticked && state(self).state == PKGlyphViewStateTicked) {
             drawTick(self, 1, kTick, finish);
         } else {
             finish(YES);

@@ -76,12 +76,12 @@ void drawBadges(SBIcon *icon, BOOL draws) {
 namespace sim {
 
 void openFolder(SBIconView *folderView) {
-    constexpr NSInteger kDark = 2030;
     if (overlay) return;
     openIcon = [folderView icon];
     UIWindow *window = homeWindow();
     overlay = [[SBFolderContainerView alloc] initWithFrame:[window bounds]];
-    UIView *blur = makeGlass([window bounds], kDark, 0.35, [UIColor colorWithWhite:0 alpha:0.6]);
+    UIView *blur =
+        makeGlass([window bounds], _UIBackdropViewStyleDark, 0.35, [UIColor colorWithWhite:0 alpha:0.6]);
     UIView *panel = makePanel(openIcon, currentHomeLayout());
     [blur setUserInteractionEnabled:NO];
     [overlay addSubview:blur];

@@ -61,8 +61,8 @@ SBIconScrollView *makePages(const sim::HomeLayout &layout) {
 
 SBDockView *makeDock(const sim::HomeLayout &layout) {
     SBDockView *dock = [[[SBDockView alloc] initWithFrame:toPlatform(layout.dockFrame())] autorelease];
-    constexpr NSInteger kLight = 2060;
-    [dock addSubview:sim::makeGlass([dock bounds], kLight, 0.24, [UIColor colorWithWhite:1 alpha:0.25])];
+    [dock addSubview:sim::makeGlass([dock bounds], _UIBackdropViewStyleAdaptiveLight, 0.24,
+                                    [UIColor colorWithWhite:1 alpha:0.25])];
     const auto &icons = sim::homeIcons().dock;
     for (size_t i = 0; i < icons.size(); ++i) place(icons[i], dock, layout.dockIconFrame(i, icons.size()));
     return dock;

@@ -88,9 +88,8 @@ void startGlinting(UIView *view) {
     auto &mine = state(self);
     [self addSubview:[[[SBWallpaperView alloc] initWithFrame:left] autorelease]];
     if (passcode) {
-        constexpr NSInteger kDark = 2030;
-        [self addSubview:mine.frost =
-                             sim::makeGlass(left, kDark, kFrost, [UIColor colorWithWhite:0 alpha:0.6])];
+        [self addSubview:mine.frost = sim::makeGlass(left, _UIBackdropViewStyleDark, kFrost,
+                                                     [UIColor colorWithWhite:0 alpha:0.6])];
         [mine.frost setUserInteractionEnabled:NO];
         mine.passcode = [[[SBUIPasscodeLockView alloc] initWithFrame:left] autorelease];
     }

@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr StatusBarAlignment kCenter = 4;
-
 struct ItemState {
     sim::LibraryItem *shared = nullptr;
     bool manual = false;
@@ -70,7 +68,8 @@ void changed(LSStatusBarItem *item, const char *property, const sim::Value &valu
 }
 - (void)setImageName:(NSString *)name {
     auto &shared = *state(self).shared;
-    if (shared.alignment == kCenter) refuse(@"LSStatusBarItem: an item in the centre has no image");
+    if (shared.alignment == StatusBarAlignmentCenter)
+        refuse(@"LSStatusBarItem: an item in the centre has no image");
     if (name == shared.imageName || [name isEqualToString:shared.imageName]) return;
     [shared.imageName autorelease];
     shared.imageName = [name copy];

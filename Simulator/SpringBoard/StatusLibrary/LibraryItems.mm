@@ -38,10 +38,9 @@ Class makeClass(const char *name, Class superclass, SEL selector, IMP method) {
 UIStatusBarItem *makeBarItem(StatusBarAlignment alignment) {
     constexpr int kCustomType = 100;
     constexpr double kGap = 6;
-    constexpr StatusBarAlignment kLeft = 1, kRight = 2;
-    StatusBarSide side = alignment == kLeft    ? StatusBarSide::left
-                         : alignment == kRight ? StatusBarSide::right
-                                               : StatusBarSide::center;
+    StatusBarSide side = alignment == StatusBarAlignmentLeft    ? StatusBarSide::left
+                         : alignment == StatusBarAlignmentRight ? StatusBarSide::right
+                                                                : StatusBarSide::center;
     Class itemClass = makeClass("UIStatusBarCustomItem", [UIStatusBarItem class], @selector(indicatorName),
                                 reinterpret_cast<IMP>(indicatorName));
     Class viewClass = makeClass("UIStatusBarCustomItemView", [UIStatusBarItemView class],

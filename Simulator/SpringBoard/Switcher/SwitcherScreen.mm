@@ -84,10 +84,9 @@ void addCard(SBApplication *application) {
 }
 
 void fill() {
-    constexpr NSInteger kDark = 2030;
     CGRect frame = CGRectMake(0, 0, screen().width, screen().height);
     [window addSubview:[[[SBWallpaperView alloc] initWithFrame:frame] autorelease]];
-    [window addSubview:makeGlass(frame, kDark, 0.3, [UIColor colorWithWhite:0 alpha:0.7])];
+    [window addSubview:makeGlass(frame, _UIBackdropViewStyleDark, 0.3, [UIColor colorWithWhite:0 alpha:0.7])];
     row = [[[UIScrollView alloc] initWithFrame:frame] autorelease];
     [row setAlwaysBounceHorizontal:YES];
     [row setShowsHorizontalScrollIndicator:NO];

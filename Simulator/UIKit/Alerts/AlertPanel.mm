@@ -55,7 +55,8 @@ bool sideBySide(const PanelState &panel) {
 }
 
 _UIBackdropViewSettings *material() {
-    _UIBackdropViewSettings *settings = [_UIBackdropViewSettings settingsForStyle:2060];
+    _UIBackdropViewSettings *settings =
+        [_UIBackdropViewSettings settingsForStyle:_UIBackdropViewStyleAdaptiveLight];
     [settings setColorTint:[UIColor colorWithWhite:0.97 alpha:1]];
     [settings setColorTintAlpha:0.86];
     return settings;

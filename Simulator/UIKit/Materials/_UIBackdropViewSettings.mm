@@ -16,9 +16,10 @@ struct Look {
 
 // The numbers are inferred from how the materials look, not read from a device.
 constexpr Look kLooks[] = {
-    {2030, "_UIBackdropViewSettingsDark", 20, 1.8, 0.11, 0.25, 0.07, 0.64},
-    {2060, "_UIBackdropViewSettingsAdaptiveLight", 20, 1.8, 1, 0.15, 1, 0.38},
-    {3900, "_UIBackdropViewSettingsPasscodePaddle", 28, 1.6, 0.05, 0.35, 0, 0.36},
+    {_UIBackdropViewStyleDark, "_UIBackdropViewSettingsDark", 20, 1.8, 0.11, 0.25, 0.07, 0.64},
+    {_UIBackdropViewStyleAdaptiveLight, "_UIBackdropViewSettingsAdaptiveLight", 20, 1.8, 1, 0.15, 1, 0.38},
+    {_UIBackdropViewStylePasscodePaddle, "_UIBackdropViewSettingsPasscodePaddle", 28, 1.6, 0.05, 0.35, 0,
+     0.36},
 };
 constexpr Look kPlain = {0, "_UIBackdropViewSettings", 20, 1, 0, 0, 1, 0};
 

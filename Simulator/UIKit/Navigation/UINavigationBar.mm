@@ -46,7 +46,8 @@ struct BarState {
 BarState &state(UINavigationBar *bar) { return sim::lazyState<BarState>(bar->_navigationBarState); }
 
 _UIBackdropViewSettings *lightMaterial() {
-    _UIBackdropViewSettings *settings = [_UIBackdropViewSettings settingsForStyle:2060];
+    _UIBackdropViewSettings *settings =
+        [_UIBackdropViewSettings settingsForStyle:_UIBackdropViewStyleAdaptiveLight];
     [settings setColorTint:[UIColor colorWithWhite:0.97 alpha:1]];
     [settings setColorTintAlpha:0.82];
     return settings;

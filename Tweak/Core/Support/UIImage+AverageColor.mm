@@ -24,12 +24,10 @@
 }
 
 - (UIColor *)mergedColor {
-    constexpr CGInterpolationQuality kMedium = 4;
-    constexpr CGBlendMode kCopy = 17;
     UIGraphicsBeginImageContext(CGSizeMake(1, 1));
     CGContextRef context = UIGraphicsGetCurrentContext();
-    CGContextSetInterpolationQuality(context, kMedium);
-    [self drawInRect:CGRectMake(0, 0, 1, 1) blendMode:kCopy alpha:1];
+    CGContextSetInterpolationQuality(context, kCGInterpolationMedium);
+    [self drawInRect:CGRectMake(0, 0, 1, 1) blendMode:kCGBlendModeCopy alpha:1];
     auto *pixel = static_cast<const unsigned char *>(CGBitmapContextGetData(context));
     // Blue comes first in the context's memory.
     UIColor *color = pixel ? [UIColor colorWithRed:pixel[2] / 255.0
