@@ -1,5 +1,5 @@
-// The language tables, shared by the home-screen side and the pane, which support different languages. Each
-// call reads the tables anew.
+// The language tables, shared by the home-screen side and the pane, which support different languages.
+// Nothing is cached: each call reads the tables.
 #pragma once
 
 #import <Foundation/Foundation.h>

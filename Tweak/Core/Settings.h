@@ -1,6 +1,6 @@
-// Reading and writing the settings. Nothing is kept: every call parses the file anew, so that a value written
-// by the settings pane counts from the next read on. A missing or unreadable file, a missing key and a value
-// of the wrong kind all read as nil, 0 or NO.
+// Reading and writing the settings. Nothing is cached: every call parses the file anew, so that a value
+// written by the settings pane counts from the next read on. A missing or unreadable file, a missing key and
+// a value of the wrong kind all read as nil, 0 or NO.
 #pragma once
 
 #include <UIKit/UIColor.h>
@@ -18,8 +18,8 @@ NSString *textSetting(NSString *key);
 
 // Every entry of the file, to be changed and written back; empty without a file that can be read.
 NSMutableDictionary *settingsToChange();
-// In the place of the old file at one go: a reader sees either the old one or the new one. When that fails
-// the old file stays.
+// Replaces the file atomically: a reader sees either the old one or the new one. On failure the old one
+// stays.
 void writeSettings(NSDictionary *settings);
 // One entry of the file as it is now; nothing for a nil value.
 void writeSetting(NSString *key, id value);

@@ -1,5 +1,5 @@
-// Defining a call of a system library in the program itself: the dynamic linker then hands this one to every
-// library of the process, and NEXT leads on to the library's own.
+// Symbol interposition: a call of a system library is defined in the program itself, the dynamic linker binds
+// every library of the process to that one, and NEXT is the library's own.
 #pragma once
 
 #include "SandboxPath.hpp"

@@ -13,12 +13,12 @@ namespace sim {
 // device's own in it. Before the first call all paths stay as they are. Throws std::runtime_error.
 void setSandboxRoot(const std::string &root);
 
-// Where the machine has a path of the device: below the root. Other paths (relative, below the root already,
-// or of places that the machine's own libraries need, such as /usr/share, /etc or /tmp) come back as they
-// are.
+// The host's path for a path of the device: below the root. Other paths (relative, below the root already,
+// or of places that the machine's own libraries need, such as /usr/share, /etc or /tmp) are returned
+// unchanged.
 std::string resolvePath(std::string_view devicePath);
 
-// The other way: what the device calls a path below the root; other paths come back as they are.
+// The inverse: the device's path for one below the root; other paths are returned unchanged.
 std::string devicePathOf(std::string_view path);
 
 // From now on every call that would make or change a file or folder at or below the path fails with that

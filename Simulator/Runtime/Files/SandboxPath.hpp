@@ -1,4 +1,4 @@
-// A path on its way into the C library.
+// A path of the device, resolved for a call of the C library.
 #pragma once
 
 #include "Sandbox.hpp"
@@ -17,7 +17,7 @@ public:
     bool moved() const { return !storage_.empty(); }
     // Whether this call here is to fail; errno is set then.
     bool refuses(WriteCall call) const;
-    // The same for a move from here.
+    // The same for a rename from here.
     bool refusesMoveTo(const SandboxPath &target) const;
 
 private:

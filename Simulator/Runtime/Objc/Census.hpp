@@ -1,4 +1,4 @@
-// How many objects of which class are alive, so that leaks show without any tool.
+// Counts of live objects by class, for finding leaks.
 #pragma once
 
 #include <cstddef>

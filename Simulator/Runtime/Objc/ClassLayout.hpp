@@ -1,5 +1,5 @@
-// Instance variables lie where the compiler put them, going by the declarations that it saw: a library that
-// was compiled with another idea of a superclass writes over that class's variables. Found before it does
+// The fragile base class problem: instance variables lie where the compiler put them, and a library that was
+// compiled against another layout of a superclass writes over that class's variables. Detected before it does
 // harm.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What stands behind the opaque member of a platform class, made when it is first asked for.
+// Lazily created state behind the opaque member of a platform class.
 #pragma once
 
 namespace sim {

@@ -1,5 +1,5 @@
-// Methods that the system has, but not for extensions: to see how an extension goes on where a look-up finds
-// nothing. The system's own code is not touched.
+// Fault injection: methods that the system has, but not for extensions, to see how an extension copes with a
+// look-up that finds nothing. The system's own code is not touched.
 #pragma once
 
 #include <objc/runtime.h>

@@ -1,5 +1,5 @@
-// Small machine-code stubs in front of implementations of methods, so that whoever put one there hears of
-// each run. x86-64, System V calling convention: every argument register is kept.
+// Trampolines: machine-code stubs in front of implementations of methods, which report each call. x86-64,
+// System V calling convention: every argument register is kept.
 #pragma once
 
 #include <functional>

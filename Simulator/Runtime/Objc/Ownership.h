@@ -1,5 +1,5 @@
-// Setters' ownership without a compiler that synthesises it: the old value is released after the new one is
-// held, so that setting what is there already does no harm.
+// Retaining and copying setters: the new value is retained before the old one is released, so that setting
+// the same value again is safe.
 #pragma once
 
 #import <Foundation/Foundation.h>

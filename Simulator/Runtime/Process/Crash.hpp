@@ -1,5 +1,4 @@
-// The last words of a simulated process: written by the signal handler itself, for whoever looks after the
-// process.
+// The crash report of a simulated process, written by the signal handler for whoever started the process.
 #pragma once
 
 #include <string_view>

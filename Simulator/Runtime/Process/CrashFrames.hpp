@@ -1,4 +1,4 @@
-// The stack at the moment of a crash. All of it may be called in a signal handler.
+// The stack trace of a crash. All but prepareFrames() is async-signal-safe.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace sim {
 
-// Puts text into a descriptor, byte by byte buffered by the kernel alone.
+// Writes text to a descriptor, unbuffered.
 class CrashWriter {
 public:
     explicit CrashWriter(int descriptor) : descriptor_(descriptor) {}
@@ -18,11 +18,11 @@ private:
     int descriptor_;
 };
 
-// Does beforehand what must not be done in a handler.
+// Does in advance what is not async-signal-safe.
 void prepareFrames();
 
-// A line a frame of the code that was interrupted, "frame PATH+0xOFFSET", innermost first. The context is no
-// longer one to go on from.
+// A line a frame of the code that was interrupted, "frame PATH+0xOFFSET", innermost first. Unwinding consumes
+// the context: it cannot be resumed.
 void writeFrames(CrashWriter &out, ucontext_t &context);
 
 } // namespace sim

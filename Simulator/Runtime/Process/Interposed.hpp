@@ -1,5 +1,5 @@
-// Calls into the system that a simulated process must not carry out: they become events, and others decide
-// what follows. The functions themselves are defined in this program and so found by every library in it.
+// Interposed system calls that a simulated process must not carry out: they become events, and callbacks
+// decide what follows.
 #pragma once
 
 #include <functional>

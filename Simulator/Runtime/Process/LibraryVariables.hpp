@@ -1,5 +1,4 @@
-// Variables of loaded libraries by the names that the linker gives them, as a debugger finds them: hidden
-// ones too.
+// Variables of loaded libraries, looked up by symbol name in the symbol table: hidden ones too.
 #pragma once
 
 #include <string>

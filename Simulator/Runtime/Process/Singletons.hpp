@@ -2,8 +2,8 @@
 
 namespace sim {
 
-// Makes the objects that Foundation keeps for the life of a process and never gives back, where the leak
-// sanitizer does not count them. Early in main(); without sanitizers it only makes them early.
+// Creates Foundation's singletons, which live as long as the process, where the leak sanitizer does not count
+// them. Early in main(); without sanitizers it only makes them early.
 void makeFoundationSingletons();
 
 } // namespace sim

@@ -32,8 +32,8 @@ public:
     void start(Nanos now) { now_ = now; }
     Nanos now() const { return now_; }
 
-    // Runs `task` once at `due` (at once-but-not-now when `due` has passed). Tasks due at the same time run
-    // by phase, then in the order in which they were scheduled. Never 0.
+    // Runs `task` once at `due` (on the clock's next run when `due` has passed). Tasks due at the same time
+    // run by phase, then in the order in which they were scheduled. Never 0.
     TaskId schedule(Nanos due, Phase phase, Task task);
     // Calls `task` on every frame from the next one on.
     TaskId everyFrame(Task task);

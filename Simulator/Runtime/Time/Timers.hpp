@@ -1,4 +1,4 @@
-// The platform's own ways to ask for something later, on the virtual clock.
+// The platform's timers and delayed performs, on the virtual clock.
 #pragma once
 
 #include <cstddef>

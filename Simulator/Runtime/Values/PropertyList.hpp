@@ -22,8 +22,8 @@ std::string toXmlPropertyList(const Value &value);
 // The file's bytes; nothing when it cannot be opened or read, or is longer than 16 MiB.
 std::optional<std::string> readWholeFile(const std::string &path);
 
-// Replaces the file in one step through a temporary one in the same folder. A new file gets the usual
-// permissions, a replaced one keeps its own. When false comes back errno says why, and the old file is whole.
+// Replaces the file atomically, by renaming a temporary one in the same folder. A new file gets the usual
+// permissions, a replaced one keeps its own. On false errno says why, and the old file is untouched.
 bool writeFileAtomically(const std::string &path, std::string_view bytes);
 
 } // namespace sim

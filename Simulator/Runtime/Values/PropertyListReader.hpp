@@ -1,4 +1,4 @@
-// Reading a property list piece by piece, for those who build something else than values of it.
+// Event-driven parsing of property lists, for those who build something else than values of them.
 #pragma once
 
 #include <cstddef>
@@ -36,7 +36,7 @@ struct PropertyListError : std::runtime_error {
 };
 
 // Reads any form, within the limits above. False on what is no property list: `*error` (may be null) says
-// why, and what the builder got until then is to be thrown away.
+// why, and what the builder got until then is to be discarded.
 bool readPropertyList(std::string_view bytes, PropertyListBuilder &builder, std::string *error);
 
 // The single forms; each throws PropertyListError. The text forms take valid UTF-8.

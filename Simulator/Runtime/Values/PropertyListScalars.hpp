@@ -10,7 +10,7 @@ namespace sim {
 
 // "2015-03-01T10:20:30Z" and seconds since 2001-01-01 00:00:00 UTC. Nothing on any other text.
 std::optional<double> parseDate(std::string_view text);
-// Rounded down to the second; years outside 0 to 9999 become the nearest of those.
+// Rounded down to the second; the year is clamped to 0 … 9999.
 std::string formatDate(double secondsSince2001);
 
 // White space is skipped. Nothing when there is anything else, or the padding is wrong.

@@ -1,4 +1,4 @@
-// A place in the text of a property list, and the encodings that such texts come in.
+// A cursor in the text of a property list, and the encodings that such texts come in.
 #pragma once
 
 #include <cstddef>

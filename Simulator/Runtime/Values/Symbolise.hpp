@@ -1,4 +1,4 @@
-// Turns the report of a crashed process into something to read.
+// Symbolicates crash reports.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// Reads a table of options one by one, and refuses what is unknown or of the wrong kind.
+// Reads and validates a table of options: unknown names and values of the wrong type are refused.
 #pragma once
 
 #include "Runtime/Values/Value.hpp"

@@ -1,4 +1,4 @@
-// What a process has told so far; outlives its restarts.
+// The log of a process's events; outlives its restarts.
 #pragma once
 
 #include "Runtime/Values/Value.hpp"

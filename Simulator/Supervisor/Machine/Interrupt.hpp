@@ -1,11 +1,10 @@
-// An interrupted run ends in order, so that temporary folders go and processes end with it.
+// Graceful shutdown of an interrupted run: temporary folders are removed and processes end with it.
 #pragma once
 
 namespace sim {
 
-// From now on a signal that asks the program to end (interrupt, terminate, hang up) sets a mark and calls
-// `wake`, which must do no more than a signal handler may. `debugger`: one shares the terminal, and
-// interrupts are meant for it.
+// From now on a signal that asks the program to end (SIGINT, SIGTERM, SIGHUP) sets a flag and calls `wake`,
+// which must be async-signal-safe. `debugger`: one shares the terminal, and interrupts are meant for it.
 void watchInterrupts(void (*wake)(), bool debugger);
 
 bool interrupted();

@@ -1,4 +1,4 @@
-// A hand on the Settings application: finds rows and buttons by what is written on them and touches them,
+// Drives the Settings application: finds rows and buttons by what is written on them and touches them,
 // scrolling to what is off screen.
 #pragma once
 

@@ -16,9 +16,9 @@ public:
     // The dictionary in any of the property list's forms; nothing when the file is absent or holds none. In
     // the latter case `*problem` says why, otherwise it is empty.
     std::optional<Value> read(std::string *problem) const;
-    // Another text whenever the file was written, replaced or removed since; cheap.
+    // A stamp that differs once the file was written, replaced or removed; cheap.
     std::string state() const;
-    // Replaces the file in one step, as XML. Throws std::runtime_error; the old file stays then.
+    // Replaces the file atomically, as XML. Throws std::runtime_error and leaves the old file.
     void write(const Value &settings) const;
     // The bytes as they are.
     void writeText(const std::string &text) const;

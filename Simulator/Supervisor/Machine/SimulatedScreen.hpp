@@ -34,8 +34,8 @@ public:
     Value ask(const char *request, Object arguments = {});
     // The screen at this moment, upright: on its side it is as wide as it was high.
     render::Bitmap picture();
-    // The same for who looks again and again: `picture` is what this gave the last time, or an empty one, and
-    // gets what has changed. Returns the areas that did.
+    // The same incrementally: `picture` is what this gave the last time, or an empty one, and is updated
+    // where it has changed. Returns the areas that did.
     std::vector<PictureArea> refresh(render::Bitmap &picture);
     // How the interface was turned in what refresh() gave last: 1 portrait, 2 upside down, 3 landscape with
     // the home button on the right, 4 with it on the left.

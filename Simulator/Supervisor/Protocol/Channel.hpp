@@ -1,4 +1,4 @@
-// One end of the conversation between the supervisor and a simulated process: one line of JSON a message.
+// One end of the channel between the supervisor and a simulated process: newline-delimited JSON.
 //
 // The supervisor asks, {"request": name, "arguments": {…}}, and waits for the answer, which is {"result": …}
 // or
@@ -15,7 +15,7 @@ namespace sim {
 
 class Channel {
 public:
-    // Takes the descriptor of a stream socket and closes it at the end.
+    // Takes ownership of the descriptor of a stream socket.
     explicit Channel(int descriptor) : descriptor_(descriptor) {}
     ~Channel() { close(); }
     Channel(const Channel &) = delete;

@@ -1,4 +1,4 @@
-// Pictures on their way from a simulated process to the supervisor: raw pixels in a file that both have open.
+// Pictures from a simulated process to the supervisor: raw pixels in a file that both have open.
 #pragma once
 
 #include "Render/Bitmap.hpp"
@@ -20,11 +20,10 @@ struct PictureArea {
     bool operator==(const PictureArea &) const = default;
 };
 
-// The same file as memory, for pictures of which little changes from one to the next. Not to be used by both
-// sides at once.
+// The same file mapped into memory, for incremental updates. Not synchronised: the two sides take turns.
 class PictureMemory {
 public:
-    // Does not take the descriptor.
+    // Does not take ownership of the descriptor.
     explicit PictureMemory(int descriptor) : descriptor_(descriptor) {}
     ~PictureMemory();
     PictureMemory(const PictureMemory &) = delete;

@@ -11,7 +11,7 @@ class SharedTime {
 public:
     // A descriptor of new shared memory, standing at zero. Throws std::system_error.
     static int create();
-    // Does not take the descriptor. Throws std::system_error.
+    // Does not take ownership of the descriptor. Throws std::system_error.
     explicit SharedTime(int descriptor);
     ~SharedTime();
     SharedTime(const SharedTime &) = delete;

@@ -7,7 +7,7 @@
 
 namespace sim {
 
-// The least number of letters added, dropped, changed or swapped with their neighbour; case does not count.
+// The edit distance with swaps of neighbours (optimal string alignment), ignoring case.
 size_t editDistance(std::string_view a, std::string_view b);
 
 // The known word nearest to `word`; empty when none is near enough to be meant.
