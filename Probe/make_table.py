@@ -65,10 +65,15 @@ def listed():
     return [line.split() for line in LISTED.read_text("utf-8").splitlines() if line and line[0] != "#"]
 
 
+def headers():
+    """The platform's, and those of the simulator that declare what the platform has beyond them."""
+    return sorted((ROOT / "Platform").rglob("*.h")) + sorted((ROOT / "Simulator").rglob("*+Further.h"))
+
+
 def table():
     """{class: (methods, variables)}, sets, in the classes' order."""
     found = {}
-    for header in sorted((ROOT / "Platform").rglob("*.h")):
+    for header in headers():
         for name, methods, variables in read(header.read_text("utf-8")):
             known = found.setdefault(name, (set(), set()))
             known[0].update(methods)

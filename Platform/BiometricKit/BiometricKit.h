@@ -12,10 +12,8 @@
 - (void)addObserver:(id)observer;
 - (void)removeObserver:(id)observer;
 - (void)_startMatching;
-- (void)_stopMatching;
 - (void)_setMatchingEnabled:(BOOL)enabled;
 - (BOOL)isMatchingEnabled;
-- (BOOL)hasEnrolledIdentities;
 @end
 
 // What tells the failures 5, 7 and 8 from one another, and 9 from 10, is not known.
@@ -44,8 +42,5 @@ enum {
 + (instancetype)manager;
 // The event monitor.
 @property (nonatomic, assign) id delegate;
-// Starts matching; 0 for success.
-- (int)match:(id)identities;
-- (int)match:(id)identities withOptions:(id)options;
 - (void)cancel;
 @end

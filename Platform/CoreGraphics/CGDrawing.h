@@ -20,12 +20,8 @@ enum { kCGBlendModeNormal = 0, kCGBlendModeCopy = 17 };
 extern "C" {
 
 void CFRelease(CFTypeRef object);
-CFTypeRef CFRetain(CFTypeRef object);
 const unsigned char *CFDataGetBytePtr(CFDataRef data);
 CFIndex CFDataGetLength(CFDataRef data);
-
-CGPathRef CGPathCreateWithRect(CGRect rect, const CGAffineTransform *transform);
-void CGPathRelease(CGPathRef path);
 
 // Size in pixels.
 size_t CGImageGetWidth(CGImageRef image);

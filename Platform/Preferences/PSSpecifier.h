@@ -48,27 +48,17 @@ enum { PSAlignmentCenter = 2, PSAlignmentRight = 3 };
                                   detail:(Class)detail
                                     cell:(PSCellType)cell
                                     edit:(Class)edit;
-+ (instancetype)groupSpecifierWithName:(NSString *)name;
 + (instancetype)emptyGroupSpecifier;
 
 @property (nonatomic, assign) id target;
 @property (nonatomic, copy) NSString *name;
 // The property "id", else "label", else "key", else the name. Setting stores the property "id".
 @property (nonatomic, retain) NSString *identifier;
-@property (nonatomic) PSCellType cellType;
-@property (nonatomic) Class detailControllerClass;
 @property (nonatomic) SEL buttonAction;
 
-- (id)propertyForKey:(NSString *)key; // nil without one
 - (void)setProperty:(id)property forKey:(NSString *)key;
-- (void)removePropertyForKey:(NSString *)key;
-@property (nonatomic, retain) NSDictionary *properties;
 
 // Of a choice list or a segment cell, in order.
 @property (nonatomic, retain) NSArray *values;
-// Value to title.
-@property (nonatomic, retain) NSDictionary *titleDictionary;
-@property (nonatomic, retain) NSDictionary *shortTitleDictionary;
 - (void)setValues:(NSArray *)values titles:(NSArray *)titles;
-- (void)setValues:(NSArray *)values titles:(NSArray *)titles shortTitles:(NSArray *)shortTitles;
 @end

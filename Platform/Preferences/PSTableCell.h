@@ -17,24 +17,15 @@
 @public
     void *_tableCellState;
 }
-+ (PSCellType)cellTypeFromString:(NSString *)string;
-+ (Class)cellClassForSpecifier:(PSSpecifier *)specifier;
 - (instancetype)initWithStyle:(UITableViewCellStyle)style
               reuseIdentifier:(NSString *)identifier
                     specifier:(PSSpecifier *)specifier;
-- (void)refreshCellContentsWithSpecifier:(PSSpecifier *)specifier;
 @property (nonatomic, retain) PSSpecifier *specifier;
 @property (nonatomic) PSCellType type;
 @property (nonatomic, assign) id target;
 @property (nonatomic) SEL action;
-@property (nonatomic, assign) id cellTarget;
-@property (nonatomic) SEL cellAction;
-@property (nonatomic) BOOL cellEnabled;
 @property (nonatomic, retain) id value;
-- (UILabel *)titleLabel;
-- (UILabel *)valueLabel;
 - (NSString *)title;
-- (BOOL)canReload;
 @end
 
 // A row with a control in it, which the control's value-changed event ties to the specifier's setter.
@@ -43,9 +34,6 @@
     void *_controlTableCellState;
 }
 @property (nonatomic, retain) UIControl *control;
-- (UIControl *)newControl;
-- (id)controlValue;
-- (void)controlChanged:(UIControl *)control;
 @end
 
 @interface PSSwitchTableCell : PSControlTableCell

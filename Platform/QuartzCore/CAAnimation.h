@@ -7,13 +7,7 @@ typedef double CFTimeInterval;
 
 extern "C" {
 extern NSString *const kCAMediaTimingFunctionLinear;
-extern NSString *const kCAMediaTimingFunctionEaseIn;
-extern NSString *const kCAMediaTimingFunctionEaseOut;
-extern NSString *const kCAMediaTimingFunctionEaseInEaseOut;
 extern NSString *const kCAFillModeForwards;
-extern NSString *const kCAFillModeBackwards;
-extern NSString *const kCAFillModeBoth;
-extern NSString *const kCAFillModeRemoved;
 
 // The clock of all layers, in seconds.
 CFTimeInterval CACurrentMediaTime(void);
@@ -27,11 +21,6 @@ CFTimeInterval CACurrentMediaTime(void);
 + (instancetype)functionWithName:(NSString *)name;
 @end
 
-// What an animation tells its delegate, when that answers.
-@interface NSObject (CAAnimationDelegate)
-- (void)animationDidStop:(CAAnimation *)animation finished:(BOOL)finished;
-@end
-
 // Times are in seconds.
 @interface CAAnimation : NSObject <NSCopying> {
 @public
@@ -39,7 +28,6 @@ CFTimeInterval CACurrentMediaTime(void);
 }
 + (instancetype)animation;
 @property (nonatomic) CFTimeInterval duration;
-@property (nonatomic) CFTimeInterval beginTime;
 // HUGE_VALF repeats without end.
 @property (nonatomic) float repeatCount;
 @property (nonatomic) BOOL autoreverses;
@@ -51,7 +39,6 @@ CFTimeInterval CACurrentMediaTime(void);
 
 @interface CAPropertyAnimation : CAAnimation
 + (instancetype)animationWithKeyPath:(NSString *)path;
-@property (nonatomic, copy) NSString *keyPath;
 @end
 
 // Interpolates between the two values; an absent one stands for the layer's own value.

@@ -22,7 +22,6 @@
 // In units of the bounds; (0.5, 0.5) is the centre.
 @property (nonatomic) CGPoint anchorPoint;
 @property (nonatomic) CATransform3D transform;
-@property (nonatomic) CGAffineTransform affineTransform;
 
 // 0 to 1; values outside are clamped.
 @property (nonatomic) float opacity;
@@ -35,22 +34,14 @@
 
 @property (nonatomic) CGColorRef shadowColor;
 @property (nonatomic) float shadowOpacity;
-@property (nonatomic) CGSize shadowOffset;
 @property (nonatomic) CGFloat shadowRadius;
 // Copied; nil: the shadow follows what the layer shows.
 @property (nonatomic) CGPathRef shadowPath;
 
-// A CGImageRef or nil.
-@property (nonatomic, retain) id contents;
-@property (nonatomic) CGFloat contentsScale;
 @property (nonatomic, copy) NSString *name;
 
 @property (nonatomic, retain) CALayer *mask;
-@property (nonatomic, readonly) CALayer *superlayer;
-@property (nonatomic, copy) NSArray *sublayers;
-- (void)addSublayer:(CALayer *)layer;
 - (void)insertSublayer:(CALayer *)layer atIndex:(unsigned)index;
-- (void)removeFromSuperlayer;
 
 // The layer as it is drawn at this moment; a copy.
 - (id)presentationLayer;
@@ -58,12 +49,7 @@
 // Adds a copy of the animation under `key`, replacing the one that runs under it. A nil key is allowed.
 - (void)addAnimation:(CAAnimation *)animation forKey:(NSString *)key;
 - (CAAnimation *)animationForKey:(NSString *)key;
-- (NSArray *)animationKeys;
-- (void)removeAnimationForKey:(NSString *)key;
 - (void)removeAllAnimations;
 
-- (void)setNeedsLayout;
 - (void)layoutIfNeeded;
-- (void)setNeedsDisplay;
-
 @end

@@ -10,12 +10,4 @@
 }
 // In the layer's own coordinates. Copied.
 @property (nonatomic) CGPathRef path;
-@property (nonatomic) CGColorRef fillColor;   // black; nil for none
-@property (nonatomic) CGColorRef strokeColor; // none
-@property (nonatomic) CGFloat lineWidth;      // points
-// The part of the path that is stroked, from 0 to 1 of its length.
-@property (nonatomic) CGFloat strokeStart;
-@property (nonatomic) CGFloat strokeEnd;
-// "butt", "round"; butt.
-@property (nonatomic, copy) NSString *lineCap;
 @end

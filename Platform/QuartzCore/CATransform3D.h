@@ -10,13 +10,3 @@ struct CATransform3D {
     CGFloat m41, m42, m43, m44;
 };
 typedef struct CATransform3D CATransform3D;
-
-extern "C" {
-
-extern const CATransform3D CATransform3DIdentity;
-// `angle` in radians around the axis (x, y, z).
-CATransform3D CATransform3DMakeRotation(CGFloat angle, CGFloat x, CGFloat y, CGFloat z);
-CATransform3D CATransform3DMakeAffineTransform(CGAffineTransform transform);
-// The part in the plane; what leaves the plane is dropped.
-CGAffineTransform CATransform3DGetAffineTransform(CATransform3D transform);
-}

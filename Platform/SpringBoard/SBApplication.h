@@ -73,7 +73,6 @@
 + (instancetype)sharedInstance;
 // A display identifier (7.x) or a display layout (8.x).
 - (void)remove:(id)entry;
-- (void)addToFront:(id)entry;
 @end
 
 // Most recent first. Before 8.0.

@@ -45,12 +45,6 @@ enum { SBUnlockSourceUnknown = 0 };
     void *_lockManagerState;
 }
 + (instancetype)sharedInstance;
-+ (instancetype)sharedInstanceIfExists;
 @property (nonatomic, readonly) BOOL isUILocked;
 - (SBLockScreenViewController *)lockScreenViewController;
-- (void)lockUIFromSource:(int)source withOptions:(id)options;
-// Asks for the passcode first when the device has one.
-- (void)unlockUIFromSource:(int)source withOptions:(id)options;
-// YES, and the lock screen goes, for the right passcode.
-- (BOOL)attemptUnlockWithPasscode:(NSString *)passcode;
 @end

@@ -21,7 +21,6 @@
 
 @interface SBUserAgent : NSObject
 + (instancetype)sharedUserAgent;
-- (BOOL)deviceIsLocked;
 - (BOOL)deviceIsPasscodeLocked;
 @end
 

@@ -17,7 +17,4 @@ enum { StatusBarAlignmentLeft = 1, StatusBarAlignmentRight = 2, StatusBarAlignme
 // Raises for an item in the centre.
 @property (nonatomic, retain) NSString *imageName;
 @property (nonatomic, readonly) StatusBarAlignment alignment;
-// With it, what is set shows when `update` is sent; NO.
-@property (nonatomic, getter=isManualUpdate) BOOL manualUpdate;
-- (void)update;
 @end

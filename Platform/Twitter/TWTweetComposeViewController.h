@@ -8,7 +8,6 @@
 @public
     void *_tweetState;
 }
-+ (BOOL)canSendTweet;
 // NO once the sheet has been shown.
 - (BOOL)setInitialText:(NSString *)text;
 @end

@@ -30,11 +30,6 @@
 @property (nonatomic, assign) id delegate;
 @property (nonatomic, copy) NSString *title;
 @property (nonatomic, copy) NSString *message;
-@property (nonatomic, readonly) NSInteger numberOfButtons;
-@property (nonatomic) NSInteger cancelButtonIndex; // -1 without one
 @property (nonatomic, readonly, getter=isVisible) BOOL visible;
-- (NSInteger)addButtonWithTitle:(NSString *)title;
-- (NSString *)buttonTitleAtIndex:(NSInteger)index;
 - (void)show;
-- (void)dismissWithClickedButtonIndex:(NSInteger)index animated:(BOOL)animated;
 @end

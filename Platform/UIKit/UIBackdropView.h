@@ -17,7 +17,6 @@ enum {
 @property (nonatomic, readonly) NSInteger style;
 @property (nonatomic) CGFloat blurRadius;            // points
 @property (nonatomic) CGFloat saturationDeltaFactor; // 1 leaves colours as they are
-@property (nonatomic, retain) UIColor *colorTint;
 @property (nonatomic) CGFloat colorTintAlpha;
 @property (nonatomic) CGFloat grayscaleTintLevel;
 @property (nonatomic) CGFloat grayscaleTintAlpha;
@@ -35,7 +34,6 @@ enum {
 @public
     void *_backdropState;
 }
-- (instancetype)initWithSettings:(_UIBackdropViewSettings *)settings;
 - (instancetype)initWithFrame:(CGRect)frame
       autosizesToFitSuperview:(BOOL)autosizes
                      settings:(_UIBackdropViewSettings *)settings;

@@ -8,8 +8,6 @@
     void *_pathState;
 }
 + (UIBezierPath *)bezierPathWithRect:(CGRect)rect;
-+ (UIBezierPath *)bezierPathWithRoundedRect:(CGRect)rect cornerRadius:(CGFloat)radius;
-+ (UIBezierPath *)bezierPathWithOvalInRect:(CGRect)rect;
 // Owned by the path object.
 @property (nonatomic, readonly) CGPathRef CGPath;
 @end

@@ -15,7 +15,6 @@
 + (UIColor *)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
 // Tiles the image from the origin of what is painted.
 + (UIColor *)colorWithPatternImage:(UIImage *)image;
-+ (UIColor *)colorWithCGColor:(CGColorRef)color;
 
 + (UIColor *)blackColor;
 + (UIColor *)whiteColor;
@@ -31,8 +30,5 @@
 + (UIColor *)yellowColor;
 + (UIColor *)clearColor;
 
-- (UIColor *)colorWithAlphaComponent:(CGFloat)alpha;
-- (BOOL)getRed:(CGFloat *)red green:(CGFloat *)green blue:(CGFloat *)blue alpha:(CGFloat *)alpha;
 @property (nonatomic, readonly) CGColorRef CGColor;
-
 @end

@@ -36,20 +36,9 @@ enum {
 }
 @property (nonatomic, getter=isEnabled) BOOL enabled;
 @property (nonatomic, getter=isHighlighted) BOOL highlighted;
-@property (nonatomic, getter=isSelected) BOOL selected;
 @property (nonatomic, readonly) UIControlState state;
 - (void)addTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
 - (void)removeTarget:(id)target action:(SEL)action forControlEvents:(UIControlEvents)events;
-- (void)sendActionsForControlEvents:(UIControlEvents)events;
-// Sends to the first responder from the control up that answers, when `target` is nil.
-- (void)sendAction:(SEL)action to:(id)target forEvent:(UIEvent *)event;
-@property (nonatomic, readonly, getter=isTracking) BOOL tracking;
-@property (nonatomic, readonly, getter=isTouchInside) BOOL touchInside;
-// For subclasses: a touch from its begin to its end or cancellation. NO stops following it.
-- (BOOL)beginTrackingWithTouch:(UITouch *)touch withEvent:(UIEvent *)event;
-- (BOOL)continueTrackingWithTouch:(UITouch *)touch withEvent:(UIEvent *)event;
-- (void)endTrackingWithTouch:(UITouch *)touch withEvent:(UIEvent *)event;
-- (void)cancelTrackingWithEvent:(UIEvent *)event;
 @end
 
 typedef NSInteger UIButtonType;
@@ -59,11 +48,6 @@ enum { UIButtonTypeCustom = 0, UIButtonTypeSystem = 1 };
 @public
     void *_buttonState;
 }
-+ (instancetype)buttonWithType:(UIButtonType)type;
 - (void)setTitle:(NSString *)title forState:(UIControlState)state;
 - (void)setTitleColor:(UIColor *)color forState:(UIControlState)state;
-- (NSString *)titleForState:(UIControlState)state;
-- (UIColor *)titleColorForState:(UIControlState)state;
-@property (nonatomic, readonly, retain) UILabel *titleLabel;
-@property (nonatomic, readonly, retain) NSString *currentTitle;
 @end

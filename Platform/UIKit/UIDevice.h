@@ -21,5 +21,4 @@ enum { UIUserInterfaceIdiomPhone = 0, UIUserInterfaceIdiomPad = 1 };
 @property (nonatomic, readonly) UIDeviceOrientation orientation;
 @property (nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
 - (void)beginGeneratingDeviceOrientationNotifications;
-- (void)endGeneratingDeviceOrientationNotifications;
 @end

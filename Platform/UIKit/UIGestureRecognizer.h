@@ -30,11 +30,8 @@ enum {
 @property (nonatomic, getter=isEnabled) BOOL enabled;
 @property (nonatomic, readonly) UIView *view;
 @property (nonatomic) BOOL cancelsTouchesInView;
-@property (nonatomic) BOOL delaysTouchesBegan;
-@property (nonatomic) BOOL delaysTouchesEnded;
 - (void)requireGestureRecognizerToFail:(UIGestureRecognizer *)other;
 - (CGPoint)locationInView:(UIView *)view;
-- (NSUInteger)numberOfTouches;
 @end
 
 @protocol UIGestureRecognizerDelegate <NSObject>
@@ -50,7 +47,6 @@ enum {
     void *_tapState;
 }
 @property (nonatomic) NSUInteger numberOfTapsRequired;
-@property (nonatomic) NSUInteger numberOfTouchesRequired;
 @end
 
 @interface UILongPressGestureRecognizer : UIGestureRecognizer {
@@ -65,11 +61,6 @@ enum {
 @public
     void *_panState;
 }
-@property (nonatomic) NSUInteger minimumNumberOfTouches;
-@property (nonatomic) NSUInteger maximumNumberOfTouches;
-- (CGPoint)translationInView:(UIView *)view;
-- (void)setTranslation:(CGPoint)translation inView:(UIView *)view;
-- (CGPoint)velocityInView:(UIView *)view; // points a second
 @end
 
 typedef NSUInteger UISwipeGestureRecognizerDirection;
@@ -84,6 +75,5 @@ enum {
 @public
     void *_swipeState;
 }
-@property (nonatomic) NSUInteger numberOfTouchesRequired;
 @property (nonatomic) UISwipeGestureRecognizerDirection direction; // right
 @end

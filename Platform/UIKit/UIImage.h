@@ -23,14 +23,11 @@ typedef NSInteger UIImageOrientation;
 + (UIImage *)imageNamed:(NSString *)name;
 // The file itself; a "@2x" or "@3x" before the extension gives the scale. nil when it cannot be read.
 + (UIImage *)imageWithContentsOfFile:(NSString *)path;
-+ (UIImage *)imageWithCGImage:(CGImageRef)image;
 
 // In points.
 @property (nonatomic, readonly) CGSize size;
 @property (nonatomic, readonly) CGFloat scale;
 @property (nonatomic, readonly) CGImageRef CGImage;
-@property (nonatomic, readonly) UIImageRenderingMode renderingMode;
-@property (nonatomic, readonly) UIEdgeInsets capInsets;
 
 - (UIImage *)imageWithRenderingMode:(UIImageRenderingMode)mode;
 // Corners of that size keep theirs, the middle is tiled.
@@ -49,8 +46,6 @@ NSData *UIImagePNGRepresentation(UIImage *image);
 
 // One pixel a point. Contexts nest; each begin needs its end.
 void UIGraphicsBeginImageContext(CGSize size);
-void UIGraphicsBeginImageContextWithOptions(CGSize size, BOOL opaque, CGFloat scale);
 CGContextRef UIGraphicsGetCurrentContext(void);
-UIImage *UIGraphicsGetImageFromCurrentImageContext(void);
 void UIGraphicsEndImageContext(void);
 }

@@ -27,5 +27,4 @@ enum {
 @property (nonatomic) NSTextAlignment textAlignment;
 @property (nonatomic) NSLineBreakMode lineBreakMode; // truncates the tail
 @property (nonatomic) NSInteger numberOfLines;       // 1; 0 is as many as it takes
-@property (nonatomic) BOOL adjustsFontSizeToFitWidth;
 @end

@@ -14,12 +14,7 @@
 @property (nonatomic, copy) NSString *title;
 @property (nonatomic, retain) UIView *titleView;
 @property (nonatomic, copy) NSString *prompt;
-@property (nonatomic) BOOL hidesBackButton;
-@property (nonatomic, retain) UIBarButtonItem *backBarButtonItem;
-@property (nonatomic, retain) UIBarButtonItem *leftBarButtonItem;
 @property (nonatomic, retain) UIBarButtonItem *rightBarButtonItem;
-- (void)setLeftBarButtonItem:(UIBarButtonItem *)item animated:(BOOL)animated;
-- (void)setRightBarButtonItem:(UIBarButtonItem *)item animated:(BOOL)animated;
 @end
 
 // 44 points high, 32 in landscape on a phone; reaches up behind the status bar.
@@ -27,10 +22,6 @@
 @public
     void *_navigationBarState;
 }
-@property (nonatomic, readonly, retain) UINavigationItem *topItem;
-@property (nonatomic, readonly, retain) UINavigationItem *backItem;
-@property (nonatomic, getter=isTranslucent) BOOL translucent;
-@property (nonatomic, retain) UIColor *barTintColor;
 @end
 
 // Retains the controllers of its stack.
@@ -40,12 +31,8 @@
 }
 - (instancetype)initWithRootViewController:(UIViewController *)root;
 @property (nonatomic, copy) NSArray *viewControllers;
-@property (nonatomic, readonly, retain) UIViewController *topViewController;
-@property (nonatomic, readonly, retain) UIViewController *visibleViewController;
 @property (nonatomic, readonly) UINavigationBar *navigationBar;
-- (void)pushViewController:(UIViewController *)controller animated:(BOOL)animated;
 // The controller that went; nil when only the root is left.
 - (UIViewController *)popViewControllerAnimated:(BOOL)animated;
-- (NSArray *)popToRootViewControllerAnimated:(BOOL)animated;
 - (void)setViewControllers:(NSArray *)controllers animated:(BOOL)animated;
 @end

@@ -8,8 +8,4 @@
     void *_pageControlState;
 }
 @property (nonatomic) NSInteger numberOfPages;
-@property (nonatomic) NSInteger currentPage;
-@property (nonatomic) BOOL hidesForSinglePage;
-@property (nonatomic, retain) UIColor *pageIndicatorTintColor;
-@property (nonatomic, retain) UIColor *currentPageIndicatorTintColor;
 @end

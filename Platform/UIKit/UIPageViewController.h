@@ -55,7 +55,6 @@ enum {
 @property (nonatomic, assign) id<UIPageViewControllerDelegate> delegate;
 @property (nonatomic, assign) id<UIPageViewControllerDataSource> dataSource;
 @property (nonatomic, readonly) NSArray *viewControllers;
-@property (nonatomic, readonly) UIPageViewControllerTransitionStyle transitionStyle;
 - (void)setViewControllers:(NSArray *)viewControllers
                  direction:(UIPageViewControllerNavigationDirection)direction
                   animated:(BOOL)animated

@@ -23,21 +23,17 @@
 }
 @property (nonatomic) CGPoint contentOffset;
 @property (nonatomic) CGSize contentSize;
-@property (nonatomic) UIEdgeInsets contentInset;
 @property (nonatomic, assign) id<UIScrollViewDelegate> delegate;
 @property (nonatomic) BOOL bounces;
 @property (nonatomic) BOOL alwaysBounceVertical;
-@property (nonatomic) BOOL alwaysBounceHorizontal;
 @property (nonatomic, getter=isPagingEnabled) BOOL pagingEnabled;
 @property (nonatomic, getter=isScrollEnabled) BOOL scrollEnabled;
 @property (nonatomic) BOOL showsHorizontalScrollIndicator;
 @property (nonatomic) BOOL showsVerticalScrollIndicator;
 @property (nonatomic) BOOL delaysContentTouches;
 @property (nonatomic) BOOL canCancelContentTouches;
-@property (nonatomic, readonly, getter=isTracking) BOOL tracking;
 @property (nonatomic, readonly, getter=isDragging) BOOL dragging;
 @property (nonatomic, readonly, getter=isDecelerating) BOOL decelerating;
-@property (nonatomic, readonly) UIPanGestureRecognizer *panGestureRecognizer;
 - (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated;
 - (BOOL)touchesShouldBegin:(NSSet *)touches withEvent:(UIEvent *)event inContentView:(UIView *)view;
 - (BOOL)touchesShouldCancelInContentView:(UIView *)view;

@@ -10,9 +10,4 @@ enum { UISegmentedControlNoSegment = -1 };
 @public
     void *_segmentedControlState;
 }
-// Strings (images are not offered).
-- (instancetype)initWithItems:(NSArray *)items;
-@property (nonatomic, readonly) NSUInteger numberOfSegments;
-@property (nonatomic) NSInteger selectedSegmentIndex;
-- (NSString *)titleForSegmentAtIndex:(NSUInteger)index;
 @end

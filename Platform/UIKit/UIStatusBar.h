@@ -10,9 +10,7 @@
 @public
     void *_imageSetState;
 }
-+ (instancetype)imageFromImage:(UIImage *)image withShadowImage:(UIImage *)shadow;
 @property (nonatomic, retain) UIImage *image;
-@property (nonatomic, retain) UIImage *shadowImage;
 @end
 
 @interface UIStatusBarItem : NSObject {

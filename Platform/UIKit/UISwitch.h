@@ -12,6 +12,4 @@
 @property (nonatomic, getter=isOn) BOOL on;
 // The track while on; nil is the system's green. May be a pattern.
 @property (nonatomic, retain) UIColor *onTintColor;
-@property (nonatomic, retain) UIColor *thumbTintColor;
-- (void)setOn:(BOOL)on animated:(BOOL)animated;
 @end

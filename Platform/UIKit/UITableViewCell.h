@@ -33,17 +33,5 @@ enum {
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)identifier;
 @property (nonatomic, readonly, copy) NSString *reuseIdentifier;
 @property (nonatomic, readonly, retain) UIView *contentView;
-@property (nonatomic, readonly, retain) UIImageView *imageView;
-@property (nonatomic, readonly, retain) UILabel *textLabel;
-@property (nonatomic, readonly, retain) UILabel *detailTextLabel; // nil with the default style
-@property (nonatomic) UITableViewCellSelectionStyle selectionStyle;
-@property (nonatomic) UITableViewCellAccessoryType accessoryType;
-// Stands for the accessory of the type.
-@property (nonatomic, retain) UIView *accessoryView;
-@property (nonatomic, retain) UIView *backgroundView;
-@property (nonatomic, getter=isSelected) BOOL selected;
 @property (nonatomic, getter=isHighlighted) BOOL highlighted;
-- (void)setSelected:(BOOL)selected animated:(BOOL)animated;
-- (void)setHighlighted:(BOOL)highlighted animated:(BOOL)animated;
-- (void)prepareForReuse;
 @end

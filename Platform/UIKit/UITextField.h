@@ -45,6 +45,5 @@ enum {
 @property (nonatomic) NSTextAlignment textAlignment;
 @property (nonatomic, assign) id<UITextFieldDelegate> delegate;
 @property (nonatomic) UIKeyboardType keyboardType;
-@property (nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
 @property (nonatomic, readonly, getter=isEditing) BOOL editing;
 @end

@@ -18,22 +18,15 @@ enum {
 @public
     void *_touchState;
 }
-@property (nonatomic, readonly) UITouchPhase phase;
-@property (nonatomic, readonly) NSUInteger tapCount;
-// Seconds since the device's start.
-@property (nonatomic, readonly) NSTimeInterval timestamp;
 @property (nonatomic, readonly, retain) UIView *view;
 @property (nonatomic, readonly, retain) UIWindow *window;
 @property (nonatomic, readonly, copy) NSArray *gestureRecognizers;
 // In the coordinates of `view`; of the window when it is nil.
 - (CGPoint)locationInView:(UIView *)view;
-- (CGPoint)previousLocationInView:(UIView *)view;
 @end
 
 @interface UIEvent : NSObject {
 @public
     void *_eventState;
 }
-@property (nonatomic, readonly) NSTimeInterval timestamp;
-- (NSSet *)allTouches;
 @end

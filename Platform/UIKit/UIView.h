@@ -52,7 +52,6 @@ enum {
 @public
     void *_viewState;
 }
-+ (Class)layerClass;
 - (instancetype)initWithFrame:(CGRect)frame;
 @property (nonatomic, readonly, retain) CALayer *layer;
 @property (nonatomic) NSInteger tag;
@@ -64,17 +63,9 @@ enum {
 @property (nonatomic) CGRect bounds;
 @property (nonatomic) CGPoint center;
 @property (nonatomic) CGAffineTransform transform;
-@property (nonatomic) CGFloat contentScaleFactor;
-@property (nonatomic, getter=isMultipleTouchEnabled) BOOL multipleTouchEnabled;
-@property (nonatomic, getter=isExclusiveTouch) BOOL exclusiveTouch;
 @property (nonatomic) UIViewAutoresizing autoresizingMask;
-@property (nonatomic) BOOL autoresizesSubviews;
-- (CGPoint)convertPoint:(CGPoint)point toView:(UIView *)view;
-- (CGPoint)convertPoint:(CGPoint)point fromView:(UIView *)view;
 - (CGRect)convertRect:(CGRect)rect toView:(UIView *)view;
-- (CGRect)convertRect:(CGRect)rect fromView:(UIView *)view;
 - (UIView *)hitTest:(CGPoint)point withEvent:(UIEvent *)event;
-- (BOOL)pointInside:(CGPoint)point withEvent:(UIEvent *)event;
 - (CGSize)sizeThatFits:(CGSize)size;
 - (void)sizeToFit;
 @end
@@ -84,20 +75,11 @@ enum {
 @property (nonatomic, readonly) UIWindow *window;
 @property (nonatomic, readonly, copy) NSArray *subviews;
 - (void)addSubview:(UIView *)view;
-- (void)insertSubview:(UIView *)view atIndex:(NSInteger)index;
-- (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling;
-- (void)insertSubview:(UIView *)view aboveSubview:(UIView *)sibling;
 - (void)bringSubviewToFront:(UIView *)view;
-- (void)sendSubviewToBack:(UIView *)view;
 - (void)removeFromSuperview;
-- (BOOL)isDescendantOfView:(UIView *)view;
 // The view itself or the first descendant with the tag, depth first; nil when there is none.
 - (UIView *)viewWithTag:(NSInteger)tag;
-- (void)willMoveToSuperview:(UIView *)superview;
-- (void)didMoveToSuperview;
-- (void)willMoveToWindow:(UIWindow *)window;
 - (void)didMoveToWindow;
-- (void)setNeedsLayout;
 - (void)layoutIfNeeded;
 - (void)layoutSubviews;
 @end
@@ -111,8 +93,6 @@ enum {
 // nil inherits the superview's.
 @property (nonatomic, retain) UIColor *tintColor;
 @property (nonatomic) UIViewContentMode contentMode;
-- (void)setNeedsDisplay;
-- (void)tintColorDidChange;
 @end
 
 @interface UIView (UIViewGestureRecognizers)
@@ -132,5 +112,4 @@ enum {
                     options:(UIViewAnimationOptions)options
                  animations:(void (^)(void))animations
                  completion:(void (^)(BOOL finished))completion;
-+ (void)performWithoutAnimation:(void (^)(void))actions;
 @end

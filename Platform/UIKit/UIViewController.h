@@ -30,33 +30,12 @@ enum {
 @property (nonatomic, retain) UIView *view;
 // Goes into the navigation item too.
 @property (nonatomic, copy) NSString *title;
-- (void)loadView;
-- (void)viewDidLoad;
 - (void)viewWillAppear:(BOOL)animated;
-- (void)viewDidAppear:(BOOL)animated;
-- (void)viewWillDisappear:(BOOL)animated;
-- (void)viewDidDisappear:(BOOL)animated;
-- (void)viewWillLayoutSubviews;
-- (void)viewDidLayoutSubviews;
-- (BOOL)isViewLoaded;
-@end
-
-@interface UIViewController (UIContainerViewController)
-@property (nonatomic, readonly) UIViewController *parentViewController;
-@property (nonatomic, readonly) NSArray *childViewControllers;
-// Retained by the parent. The caller adds the child's view itself.
-- (void)addChildViewController:(UIViewController *)child;
-- (void)removeFromParentViewController;
-- (void)willMoveToParentViewController:(UIViewController *)parent;
-- (void)didMoveToParentViewController:(UIViewController *)parent;
 @end
 
 // Over the whole window, sliding up from below. A presentation is kept by the presenting controller; asking
 // the presented one to dismiss itself reaches the presenting one. Completions run when the slide is over.
 @interface UIViewController (UIModalPresentation)
-@property (nonatomic, readonly) UIViewController *presentedViewController;
-@property (nonatomic, readonly) UIViewController *presentingViewController;
-@property (nonatomic) UIModalPresentationStyle modalPresentationStyle;
 - (void)presentViewController:(UIViewController *)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion;
@@ -65,16 +44,12 @@ enum {
 
 // `duration` is in seconds.
 @interface UIViewController (UIViewControllerRotation)
-@property (nonatomic, readonly) UIInterfaceOrientation interfaceOrientation;
 - (BOOL)shouldAutorotate; // YES
 // A mask; all but upside down on a phone, all on an iPad.
 - (NSUInteger)supportedInterfaceOrientations;
-- (void)willRotateToInterfaceOrientation:(UIInterfaceOrientation)orientation
-                                duration:(NSTimeInterval)duration;
 // Within the animation block of the rotation, with the new size already set.
 - (void)willAnimateRotationToInterfaceOrientation:(UIInterfaceOrientation)orientation
                                          duration:(NSTimeInterval)duration;
-- (void)didRotateFromInterfaceOrientation:(UIInterfaceOrientation)orientation;
 @end
 
 @interface UIViewController (UINavigationControllerItem)

@@ -20,6 +20,4 @@ extern const UIWindowLevel UIWindowLevelAlert;     // 2000
 @property (nonatomic) UIWindowLevel windowLevel;
 @property (nonatomic, retain) UIViewController *rootViewController;
 @property (nonatomic, readonly, getter=isKeyWindow) BOOL keyWindow;
-- (void)makeKeyAndVisible;
-- (void)makeKeyWindow;
 @end

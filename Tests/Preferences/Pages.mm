@@ -1,6 +1,8 @@
 #include "Pages.h"
 
+#include "Preferences/Lists/PSListController+Further.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 @implementation NotingPage
 

@@ -2,6 +2,7 @@
 #include "Pages.h"
 #include "UIKit/Alerts/AlertPanel.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 using namespace harness;
 

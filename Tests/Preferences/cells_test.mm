@@ -1,6 +1,10 @@
 // Proves what a finger does to rows: switches, links, choices, segments and buttons.
 #include "Pages.h"
 
+#include "Preferences/Cells/PSTableCell+Further.h"
+#include "Preferences/Lists/PSListController+Further.h"
+#include "UIKit/UIKit+Further.h"
+
 using namespace harness;
 
 namespace {

@@ -1,6 +1,9 @@
 // Proves how a list falls into groups, finds its specifiers, and shows single ones anew.
 #include "Pages.h"
 
+#include "Preferences/Lists/PSListController+Further.h"
+#include "UIKit/Tables/UITableView+Further.h"
+
 using namespace harness;
 
 namespace {

@@ -2,6 +2,7 @@
 // turns.
 #include "Pages.h"
 #include "UIKit/Controllers/Rotation.h"
+#include "UIKit/UIKit+Further.h"
 
 using namespace harness;
 

@@ -1,6 +1,8 @@
 // Proves what a specifier is identified by, what it does when it is pressed or set, and which titles it has.
 #include "Pages.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "UIKit/Tables/UITableView+Further.h"
 
 using namespace harness;
 

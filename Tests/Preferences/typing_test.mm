@@ -1,6 +1,7 @@
 // Proves when the keyboard is there, what its keys type, and what a text field says of it.
 #include "Pages.h"
 #include "UIKit/Input/Keyboard.h"
+#include "UIKit/UIKit+Further.h"
 
 using namespace harness;
 

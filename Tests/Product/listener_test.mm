@@ -1,4 +1,5 @@
 // What Activator shows of the extension in its list of listeners, and where it may be assigned.
+#include "SpringBoard/Services/LAActivator+Further.h"
 #include "Tweak/Triggers/QLActivatorListener.h"
 
 #include "SpringBoard/Sandbox.h"

@@ -8,6 +8,7 @@
 #include "PendixSettings/Icon/ColorNames.h"
 #include "PendixSettings/Root/LockedUIViewController.h"
 #include "Tweak/Core/Settings.h"
+#include "UIKit/Alerts/UIAlertView+Further.h"
 
 #include "Product/SwitchRow.h"
 #include "SpringBoard/Harness.h"

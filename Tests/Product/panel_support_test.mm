@@ -4,6 +4,7 @@
 #include "Tweak/Core/Support/UIView+Shimmer.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Start/HookTable.h"
+#include "UIKit/UIKit+Further.h"
 
 #include "Render/Renderer.hpp"
 #include "SpringBoard/Harness.h"

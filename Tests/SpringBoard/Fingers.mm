@@ -1,6 +1,7 @@
 #include "Fingers.h"
 
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Touch/TouchInput.h"
 
 #include <objc/runtime.h>

@@ -2,6 +2,7 @@
 // shape of each system version.
 #include "Harness.h"
 
+#include "SpringBoard/Switcher/SBAppSwitcherModel+Further.h"
 #include "SpringBoard/Switcher/SwitcherModel.h"
 #include "UIKit/Application/ApplicationState.h"
 

@@ -2,6 +2,7 @@
 // told.
 #include "Harness.h"
 
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIKit.h>

@@ -3,6 +3,7 @@
 #include "Harness.h"
 
 #include "SpringBoard/Home/SBIconController.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 
 namespace {
 

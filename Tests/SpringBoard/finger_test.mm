@@ -2,7 +2,9 @@
 // that the glyph shows it: ridges that fill, a tick, and completions that run once when the drawing rests.
 #include "Fingers.h"
 
+#include "SpringBoard/Biometrics/BiometricKit+Further.h"
 #include "UIKit/QuartzCore/LayerState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <BiometricKit/BiometricKit.h>
 #include <PassKit/PKGlyphView.h>

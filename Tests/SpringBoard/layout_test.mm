@@ -3,6 +3,7 @@
 #include "Harness.h"
 
 #include "SpringBoard/Home/HomeLayout.hpp"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UIKit.h>
 

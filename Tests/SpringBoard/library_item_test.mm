@@ -3,6 +3,8 @@
 #include "Harness.h"
 #include "Sandbox.h"
 
+#include "SpringBoard/StatusLibrary/LSStatusBarItem+Further.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/StatusBar/StatusBarState.h"
 

@@ -5,6 +5,9 @@
 #include "SpringBoard/Lock/LockState.h"
 #include "SpringBoard/Lock/LockTexts.hpp"
 #include "SpringBoard/Lock/PasscodeKey.h"
+#include "SpringBoard/Lock/SBLockScreenManager+Further.h"
+#include "SpringBoard/Services/LAActivator+Further.h"
+#include "SpringBoard/Services/SBUserAgent+Further.h"
 #include "UIKit/Application/ApplicationState.h"
 
 #include <Activator/libactivator.h>

@@ -2,6 +2,9 @@
 // register with them hear of what they registered for.
 #include "Harness.h"
 
+#include "SpringBoard/Services/LAActivator+Further.h"
+#include "SpringBoard/Services/SBUserAgent+Further.h"
+
 #include <Activator/libactivator.h>
 #include <BiometricKit/BiometricKit.h>
 #include <SpringBoard/SBLockScreen.h>

@@ -7,6 +7,7 @@
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/StatusBar/StatusBarData.hpp"
 #include "UIKit/StatusBar/StatusBarState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIStatusBar.h>

@@ -2,6 +2,10 @@
 // wrong version branch must fail here as it would on a phone.
 #include "Harness.h"
 
+#include "SpringBoard/Services/SBUserAgent+Further.h"
+#include "SpringBoard/Switcher/SBAppSwitcherModel+Further.h"
+#include "UIKit/Materials/_UIBackdropView+Further.h"
+
 #include <ColorBadges/ColorBadges.h>
 
 #include <objc/runtime.h>

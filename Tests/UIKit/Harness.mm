@@ -1,6 +1,7 @@
 #include "Harness.h"
 
 #include "UIKit/Touch/RecognizerState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <utility>
 

@@ -3,6 +3,8 @@
 
 #include "Harness.h"
 
+#include "UIKit/UIKit+Further.h"
+
 #include <cmath>
 
 // Notes "will drag", "end drag stops" or "end drag goes on", "will decelerate", "did decelerate", "did

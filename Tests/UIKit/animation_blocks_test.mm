@@ -1,6 +1,8 @@
 // Proves what animation blocks animate and how: the model at once, the presentation on its way, in time.
 #include "Looks.h"
 
+#include "UIKit/UIKit+Further.h"
+
 using namespace harness;
 
 namespace {

@@ -3,6 +3,7 @@
 
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Images/ImageState.h"
+#include "UIKit/Images/UIImage+Further.h"
 
 #include <UIKit/UIImage.h>
 

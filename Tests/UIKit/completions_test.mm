@@ -1,6 +1,8 @@
 // Proves when the completion of an animation block is called, and what it is told.
 #include "Looks.h"
 
+#include "UIKit/QuartzCore/CALayer+Further.h"
+
 using namespace harness;
 
 namespace {

@@ -1,6 +1,8 @@
 // Proves what a control, a button and a view controller do under a finger and when they are asked.
 #include "Harness.h"
 
+#include "UIKit/UIKit+Further.h"
+
 using namespace harness;
 
 // Notes each event of a control by its name.

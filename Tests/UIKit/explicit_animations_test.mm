@@ -1,6 +1,8 @@
 // Proves what an animation that is added to a layer shows, how long, and what its delegate hears.
 #include "Looks.h"
 
+#include "UIKit/UIKit+Further.h"
+
 using namespace harness;
 
 // Notes the key path, when, since it was made, the animation stopped, and how.

@@ -2,6 +2,8 @@
 // to another's.
 #include "Looks.h"
 
+#include "UIKit/UIKit+Further.h"
+
 #include <cmath>
 
 using namespace harness;

@@ -3,6 +3,7 @@
 #include "Harness.h"
 
 #include "Runtime/Process/Events.hpp"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UIGestureRecognizerSubclass.h>
 

@@ -1,6 +1,8 @@
 // Proves in which order views lie in one another, what they hear of it, and how they are found again.
 #include "Looks.h"
 
+#include "UIKit/Views/UIView+Further.h"
+
 #include <algorithm>
 
 using namespace harness;

@@ -1,6 +1,8 @@
 // Proves which view lies topmost, to the eye and to a finger.
 #include "Looks.h"
 
+#include "UIKit/UIKit+Further.h"
+
 #include <UIKit/UIControl.h>
 
 using namespace harness;

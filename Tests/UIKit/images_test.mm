@@ -4,6 +4,7 @@
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Sandbox.h"
 #include "UIKit/Images/ImageState.h"
+#include "UIKit/Images/UIImage+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIImageView.h>

@@ -2,6 +2,7 @@
 #include "Looks.h"
 
 #include "Runtime/Process/Device.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UILabel.h>

@@ -1,6 +1,8 @@
 // Proves that a layer keeps whatever it is given under a key, and that its presentation shows the moment.
 #include "Looks.h"
 
+#include "UIKit/UIKit+Further.h"
+
 using namespace harness;
 
 @interface Token : NSObject

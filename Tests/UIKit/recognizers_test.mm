@@ -1,6 +1,8 @@
 // Proves when each kind of gesture recogniser takes a movement for its gesture, and what it tells of it.
 #include "Harness.h"
 
+#include "UIKit/UIKit+Further.h"
+
 #include <cmath>
 
 using namespace harness;

@@ -1,6 +1,8 @@
 // Proves which window and view a finger reaches, and what the view hears of it beside gesture recognisers.
 #include "Harness.h"
 
+#include "UIKit/UIKit+Further.h"
+
 using namespace harness;
 
 namespace {

@@ -3,6 +3,7 @@
 #include "Harness.h"
 
 #include "Runtime/Objc/Census.hpp"
+#include "UIKit/Controls/UIControl+Further.h"
 
 using namespace harness;
 

@@ -2,6 +2,7 @@
 #include "Looks.h"
 
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UIApplication.h>
 #include <UIKit/UIViewController.h>

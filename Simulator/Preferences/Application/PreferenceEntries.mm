@@ -1,6 +1,8 @@
 #include "PreferenceEntries.h"
 
 #include "EntryLoading.h"
+#include "Preferences/Cells/PSTableCell+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Runtime/Process/Events.hpp"
 
 #include <Preferences/Preferences.h>

@@ -3,7 +3,10 @@
 #include "PreferenceEntries.h"
 #include "StockRows.h"
 
+#include "Preferences/Lists/PSListController+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/UIKit+Further.h"
 
 namespace {
 

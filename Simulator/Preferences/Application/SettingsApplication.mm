@@ -1,10 +1,12 @@
 #include "SettingsApplication.h"
 
+#include "Preferences/Lists/PSListController+Further.h"
 #include "RootList.h"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Controllers/ControllerState.h"
 #include "UIKit/StatusBar/StatusBarState.h"
+#include "UIKit/UIKit+Further.h"
 
 namespace sim {
 

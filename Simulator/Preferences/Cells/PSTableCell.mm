@@ -1,6 +1,9 @@
+#include "PSTableCell+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <Preferences/PSTableCell.h>
 

@@ -1,7 +1,11 @@
 // Finding the specifiers of a list, and showing single ones anew.
 #include "ListState.h"
 
+#include "PSListController+Further.h"
+#include "Preferences/Cells/PSTableCell+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
+#include "UIKit/Tables/UITableView+Further.h"
 
 #include <UIKit/UITableView.h>
 

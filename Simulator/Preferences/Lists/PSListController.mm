@@ -1,7 +1,11 @@
 #include "ListState.h"
 
+#include "PSListController+Further.h"
+#include "Preferences/Cells/PSTableCell+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UITableView.h>
 

@@ -1,5 +1,8 @@
+#include "PSListController+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/UIKit+Further.h"
 
 #include <Preferences/PSListController.h>
 

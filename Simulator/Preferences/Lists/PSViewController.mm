@@ -1,6 +1,8 @@
+#include "PSListController+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIKit/Navigation/UINavigationController+Further.h"
 
 #include <Preferences/PSListController.h>
 

@@ -2,6 +2,7 @@
 
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Images/ApplicationIcons.h"
+#include "UIKit/Images/UIImage+Further.h"
 
 #include <AppList/AppList.h>
 

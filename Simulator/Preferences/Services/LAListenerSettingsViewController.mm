@@ -2,6 +2,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
+#include "UIKit/UIKit+Further.h"
 
 #include <Activator/LAListenerSettingsViewController.h>
 #include <Preferences/Preferences.h>

@@ -2,6 +2,8 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
+#include "TWTweetComposeViewController+Further.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <Twitter/TWTweetComposeViewController.h>
 #include <UIKit/UIKit.h>

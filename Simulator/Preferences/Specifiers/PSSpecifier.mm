@@ -1,3 +1,4 @@
+#include "PSSpecifier+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "SpecifierState.h"

@@ -6,6 +6,7 @@
 #include "Process/Shared/Screen.h"
 #include "UIKit/Alerts/AlertPanel.h"
 #include "UIKit/Images/ImageState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <objc/runtime.h>
 

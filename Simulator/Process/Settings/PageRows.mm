@@ -1,8 +1,11 @@
 #include "PageRows.h"
 
 #include "Preferences/Application/SettingsApplication.h"
+#include "Preferences/Lists/PSListController+Further.h"
+#include "Preferences/Specifiers/PSSpecifier+Further.h"
 #include "Preferences/Specifiers/SpecifierState.h"
 #include "UIKit/Images/ImageState.h"
+#include "UIKit/Tables/UITableView+Further.h"
 
 namespace sim {
 

@@ -3,12 +3,14 @@
 #include "SettingsRequests.h"
 
 #include "Preferences/Application/SettingsApplication.h"
+#include "Preferences/Lists/PSListController+Further.h"
 #include "Process/Shared/Screen.h"
 #include "Process/Shared/ViewSearch.h"
 #include "UIKit/Alerts/AlertPanel.h"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Controllers/Rotation.h"
 #include "UIKit/Navigation/NavigationState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIDevice.h>

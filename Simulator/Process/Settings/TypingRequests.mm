@@ -2,6 +2,7 @@
 #include "SettingsRequests.h"
 
 #include "Process/Shared/Screen.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Input/Keyboard.h"
 #include "UIKit/Views/FirstResponder.h"
 

@@ -1,6 +1,7 @@
 #include "Screen.h"
 
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 namespace sim {

@@ -2,6 +2,7 @@
 #include "Runtime/Process/Events.hpp"
 #include "Screen.h"
 #include "UIKit/Touch/TouchInput.h"
+#include "UIKit/UIKit+Further.h"
 #include "ViewSearch.h"
 
 #include <string>

@@ -2,6 +2,7 @@
 
 #include "Runtime/Process/Device.hpp"
 #include "Screen.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Views/ViewState.h"
 #include "ViewSearch.h"
 

@@ -1,5 +1,7 @@
 #include "ViewAnimations.h"
 
+#include "UIKit/QuartzCore/CAAnimation+Further.h"
+
 #include <cmath>
 
 namespace sim {

@@ -3,6 +3,7 @@
 #include "Runtime/Process/Device.hpp"
 #include "Screen.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <objc/runtime.h>

@@ -1,6 +1,7 @@
 #include "ViewSnapshot.h"
 
 #include "Screen.h"
+#include "UIKit/Controls/UIControl+Further.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/Views/ViewState.h"

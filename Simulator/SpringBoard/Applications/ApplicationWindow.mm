@@ -10,6 +10,7 @@
 #include "SpringBoard/Lock/LockState.h"
 #include "SpringBoard/System/BarStyle.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UIKit.h>
 

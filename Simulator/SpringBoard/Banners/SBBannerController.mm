@@ -10,6 +10,7 @@
 #include "SpringBoard/HomeScreen.h"
 #include "SpringBoard/Lock/LockState.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 
 #include <SpringBoard/SpringBoard.h>
 

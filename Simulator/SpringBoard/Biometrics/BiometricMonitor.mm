@@ -1,4 +1,5 @@
 // The fingerprint sensor: who observes it, whether it looks for a match, and what it tells.
+#include "BiometricKit+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"

@@ -4,6 +4,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "ShapeLayers.h"
 #include "SpringBoard/Versions.hpp"
+#include "UIKit/QuartzCore/CAShapeLayer+Further.h"
 #include "UIKit/QuartzCore/LayerState.h"
 
 #include <UIKit/UIKit.h>

@@ -5,6 +5,7 @@
 #include "Runtime/Objc/Ownership.h"
 #include "ShapeLayers.h"
 #include "SpringBoard/Versions.hpp"
+#include "UIKit/QuartzCore/CAShapeLayer+Further.h"
 
 #include <PassKit/PKGlyphView.h>
 #include <UIKit/UIKit.h>

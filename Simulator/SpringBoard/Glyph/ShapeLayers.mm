@@ -1,6 +1,7 @@
 #include "ShapeLayers.h"
 
 #include "UIKit/CoreGraphics/CGObjects.h"
+#include "UIKit/UIKit+Further.h"
 
 namespace sim {
 

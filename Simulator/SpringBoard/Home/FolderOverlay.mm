@@ -4,6 +4,7 @@
 #include "HomeLayout.hpp"
 #include "HomeViews.h"
 #include "SpringBoard/Icons/Icons.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <algorithm>
 #include <utility>

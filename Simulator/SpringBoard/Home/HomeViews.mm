@@ -5,6 +5,7 @@
 #include "SBIconController.h"
 #include "SpringBoard/Icons/Icons.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,6 +3,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Materials/DrawnImage.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UIKit.h>
 

@@ -5,6 +5,7 @@
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Home/SBIconController.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <UIKit/UIKit.h>
 

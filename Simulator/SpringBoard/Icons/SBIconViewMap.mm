@@ -1,6 +1,7 @@
 #include "Icons.h"
 
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 
 #include <map>
 

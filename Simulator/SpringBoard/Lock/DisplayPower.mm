@@ -1,6 +1,7 @@
 // The display going on and off, and what the lock screen is told of it.
 #include "LockState.h"
 
+#include "SBLockScreenManager+Further.h"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Touch/TouchInput.h"
 

@@ -5,6 +5,7 @@
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Home/Glass.h"
 #include "SpringBoard/Home/HomeViews.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <algorithm>
 #include <cmath>

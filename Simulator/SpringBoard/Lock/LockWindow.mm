@@ -7,6 +7,7 @@
 #include "SpringBoard/Home/HomeViews.h"
 #include "SpringBoard/Versions.hpp"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/Application/UIWindow+Further.h"
 #include "UIKit/StatusBar/StatusBarData.hpp"
 
 #include <SpringBoard/SBLockScreen.h>

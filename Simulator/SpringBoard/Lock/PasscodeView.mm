@@ -5,6 +5,7 @@
 #include "PasscodeLayout.hpp"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
+#include "UIKit/UIKit+Further.h"
 
 #include <string>
 

@@ -1,6 +1,7 @@
 #include "LockState.h"
 #include "LockWindow.h"
 
+#include "SBLockScreenManager+Further.h"
 #include "SpringBoard/Switcher/SwitcherScreen.h"
 #include "SpringBoard/System/BarStyle.h"
 

@@ -3,7 +3,9 @@
 #include "LockState.h"
 
 #include "Runtime/Process/Events.hpp"
+#include "SBLockScreenManager+Further.h"
 #include "SpringBoard/Versions.hpp"
+#include "UIKit/Controllers/UIViewController+Further.h"
 
 #include <SpringBoard/SBLockScreen.h>
 

@@ -1,6 +1,7 @@
 // The gesture launcher: who is registered, and what the event assigned to a listener sets off.
 #include "Activator.h"
 
+#include "LAActivator+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"

@@ -1,3 +1,4 @@
+#include "SBUserAgent+Further.h"
 #include "SpringBoard/Applications/ApplicationLife.h"
 #include "SpringBoard/Applications/Applications.h"
 #include "SpringBoard/Lock/LockState.h"

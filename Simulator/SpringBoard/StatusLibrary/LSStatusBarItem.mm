@@ -1,5 +1,6 @@
 #include "LibraryItems.h"
 
+#include "LSStatusBarItem+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Events.hpp"
 

@@ -1,6 +1,7 @@
 #include "SwitcherModel.h"
 
 #include "Runtime/Process/Device.hpp"
+#include "SBAppSwitcherModel+Further.h"
 #include "SpringBoard/Applications/Applications.h"
 #include "SpringBoard/Versions.hpp"
 

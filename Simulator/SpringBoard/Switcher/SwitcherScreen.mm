@@ -9,6 +9,7 @@
 #include "SwitcherCard.h"
 #include "SwitcherModel.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,6 +2,7 @@
 
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIBackdropView.h>

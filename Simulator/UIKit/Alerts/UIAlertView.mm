@@ -3,7 +3,9 @@
 
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIAlertView+Further.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIAlertView.h>

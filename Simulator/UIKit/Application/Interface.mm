@@ -2,6 +2,7 @@
 #include "ApplicationState.h"
 
 #include "Runtime/Process/Device.hpp"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 
 #include <cmath>
 

@@ -2,6 +2,7 @@
 
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/CoreGraphics/CGObjects.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "ApplicationState.h"
 
 #include "Runtime/Process/Device.hpp"
+#include "UIDevice+Further.h"
 
 #include <UIKit/UIDevice.h>
 

@@ -2,7 +2,9 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Controllers/ControllerState.h"
+#include "UIKit/Views/UIResponder+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UIWindow+Further.h"
 
 #include <UIKit/UIViewController.h>
 #include <UIKit/UIWindow.h>

@@ -1,5 +1,7 @@
 #include "ControllerState.h"
 
+#include "UIViewController+Further.h"
+
 namespace sim {
 
 namespace {

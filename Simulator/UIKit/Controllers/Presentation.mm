@@ -2,7 +2,9 @@
 #include "ControllerState.h"
 
 #include "Runtime/Process/Events.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UIViewController+Further.h"
 
 #include <UIKit/UIWindow.h>
 

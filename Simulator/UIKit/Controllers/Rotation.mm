@@ -4,6 +4,7 @@
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Views/ViewState.h"
+#include "UIViewController+Further.h"
 
 #include <UIKit/UIDevice.h>
 #include <UIKit/UIScreen.h>

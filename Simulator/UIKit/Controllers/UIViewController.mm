@@ -2,7 +2,9 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Navigation/NavigationState.h"
+#include "UIKit/Views/UIResponder+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UIViewController+Further.h"
 
 #include <UIKit/UIScreen.h>
 

@@ -1,5 +1,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
+#include "UIControl+Further.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIControl.h>

@@ -1,4 +1,6 @@
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIControl+Further.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIControl.h>

@@ -1,3 +1,5 @@
+#include "CGGeometry+Further.h"
+
 #include <CoreGraphics/CGGeometry.h>
 
 #include <algorithm>

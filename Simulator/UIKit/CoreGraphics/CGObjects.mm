@@ -1,4 +1,6 @@
 #include "UIKit/CoreGraphics/CGObjects.h"
+#include "CGDrawing+Further.h"
+#include "CGGeometry+Further.h"
 
 #include <UIKit/UIColor.h>
 

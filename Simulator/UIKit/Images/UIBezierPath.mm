@@ -1,3 +1,4 @@
+#include "UIBezierPath+Further.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 
 #include <UIKit/UIBezierPath.h>

@@ -1,3 +1,4 @@
+#include "UIColor+Further.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
 
 #include <UIKit/UIColor.h>

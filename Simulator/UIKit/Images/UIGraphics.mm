@@ -2,6 +2,7 @@
 
 #include "Render/Renderer.hpp"
 #include "Runtime/Process/Device.hpp"
+#include "UIImage+Further.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,6 +3,7 @@
 #include "DecodedFiles.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"
+#include "UIImage+Further.h"
 
 #include <map>
 

@@ -1,6 +1,7 @@
 #include "ImageState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIImageView.h>

@@ -4,6 +4,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/FirstResponder.h"
 #include "UIKit/Views/ViewState.h"
 

@@ -2,6 +2,7 @@
 #include "Keyboard.h"
 
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 namespace {

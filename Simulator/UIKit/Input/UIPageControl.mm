@@ -1,6 +1,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/Views/ViewState.h"
+#include "UIPageControl+Further.h"
 
 #include <UIKit/UIPageControl.h>
 

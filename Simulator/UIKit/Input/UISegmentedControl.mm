@@ -1,6 +1,8 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UISegmentedControl+Further.h"
 
 #include <UIKit/UIDevice.h>
 #include <UIKit/UISegmentedControl.h>

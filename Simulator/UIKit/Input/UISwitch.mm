@@ -1,6 +1,8 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UISwitch+Further.h"
 
 #include <UIKit/UISwitch.h>
 #include <UIKit/UITouch.h>

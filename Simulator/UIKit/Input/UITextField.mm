@@ -2,7 +2,9 @@
 
 #include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Text/FontState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITextField+Further.h"
 
 #include <UIKit/UITextField.h>
 

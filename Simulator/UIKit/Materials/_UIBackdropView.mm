@@ -1,6 +1,8 @@
 #include "BackdropState.h"
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/Views/UIView+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "_UIBackdropView+Further.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
+#include "_UIBackdropView+Further.h"
 
 namespace {
 

@@ -3,7 +3,9 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Controllers/ControllerState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UINavigationController+Further.h"
 
 #include <UIKit/UIApplication.h>
 

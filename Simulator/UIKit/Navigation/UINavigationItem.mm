@@ -1,6 +1,7 @@
 #include "NavigationState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UINavigationController+Further.h"
 
 #include <initializer_list>
 

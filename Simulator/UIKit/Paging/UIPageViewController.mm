@@ -1,6 +1,8 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/Controllers/ControllerState.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UIPageViewController+Further.h"
 
 #include <UIKit/UIPageViewController.h>
 #include <UIKit/UIScrollView.h>

@@ -1,5 +1,6 @@
 #include "LayerState.h"
 
+#include "CAAnimation+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"

@@ -1,8 +1,11 @@
 #include "LayerState.h"
 
+#include "CALayer+Further.h"
+#include "CATransform3D+Further.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Events.hpp"
+#include "UIKit/Views/UIView+Further.h"
 
 #include <UIKit/UIView.h>
 

@@ -1,3 +1,4 @@
+#include "CAShapeLayer+Further.h"
 #include "LayerState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"

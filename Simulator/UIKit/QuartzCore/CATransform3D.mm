@@ -1,3 +1,5 @@
+#include "CATransform3D+Further.h"
+
 #include <QuartzCore/CATransform3D.h>
 
 #include <cmath>

@@ -1,6 +1,9 @@
 #include "AnimationBlock.h"
 #include "LayerState.h"
 
+#include "CAAnimation+Further.h"
+#include "CALayer+Further.h"
+
 #include <algorithm>
 #include <set>
 #include <utility>

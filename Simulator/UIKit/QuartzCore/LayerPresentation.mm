@@ -1,5 +1,7 @@
 #include "LayerState.h"
 
+#include "CALayer+Further.h"
+
 namespace sim {
 
 namespace {

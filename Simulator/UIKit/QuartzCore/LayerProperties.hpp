@@ -2,9 +2,9 @@
 // applied.
 #pragma once
 
+#include "CATransform3D+Further.h"
 #include "Render/DisplayList.hpp"
-
-#include <QuartzCore/CATransform3D.h>
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 
 #include <optional>
 #include <string_view>

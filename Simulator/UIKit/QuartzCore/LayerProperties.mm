@@ -1,5 +1,8 @@
 #include "LayerProperties.hpp"
 
+#include "CATransform3D+Further.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
+
 #include <algorithm>
 #include <cmath>
 

@@ -4,6 +4,7 @@
 #include "StatusBarData.hpp"
 #include "StockItems.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <algorithm>
 

@@ -5,7 +5,9 @@
 #include "Runtime/Process/Pixels.hpp"
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/Materials/DrawnImage.h"
+#include "UIKit/QuartzCore/CALayer+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "_UILegibilityImageSet+Further.h"
 
 namespace {
 

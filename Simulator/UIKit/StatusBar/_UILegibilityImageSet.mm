@@ -1,5 +1,6 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "_UILegibilityImageSet+Further.h"
 
 #include <UIKit/UIStatusBar.h>
 

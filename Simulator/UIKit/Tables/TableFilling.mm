@@ -2,7 +2,10 @@
 #include "TableState.h"
 
 #include "Runtime/Process/Device.hpp"
+#include "UIKit/Views/UIView+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITableView+Further.h"
+#include "UITableViewCell+Further.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,10 @@
 
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITableView+Further.h"
+#include "UITableViewCell+Further.h"
 
 #include <UIKit/UITouch.h>
 

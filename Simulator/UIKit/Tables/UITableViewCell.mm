@@ -4,7 +4,9 @@
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Pixels.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITableViewCell+Further.h"
 
 #include <algorithm>
 

@@ -2,7 +2,9 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/CoreGraphics/CGObjects.h"
+#include "UIKit/Views/UIView+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UILabel+Further.h"
 
 #include <UIKit/UILabel.h>
 #include <UIKit/UIScreen.h>

@@ -2,6 +2,9 @@
 
 #include "Runtime/Process/Events.hpp"
 #include "TouchDelivery.h"
+#include "UIGestureRecognizerSubclass+Further.h"
+#include "UIKit/Views/UIResponder+Further.h"
+#include "UITouch+Further.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,10 @@
 #include "TouchDelivery.h"
 
 #include "RecognizerState.h"
+#include "UIGestureRecognizerSubclass+Further.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITouch+Further.h"
 
 #include <UIKit/UIScrollView.h>
 

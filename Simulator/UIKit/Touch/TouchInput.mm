@@ -5,6 +5,7 @@
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Controls/Scrolling/ScrollMotion.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITouch+Further.h"
 
 #include <UIKit/UIView.h>
 

@@ -1,5 +1,8 @@
 #include "GestureArbiter.h"
 
+#include "UIGestureRecognizer+Further.h"
+#include "UIGestureRecognizerSubclass+Further.h"
+#include "UIKit/Views/UIResponder+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 #include "GestureArbiter.h"
 
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIGestureRecognizerSubclass+Further.h"
+#include "UIKit/Views/UIResponder+Further.h"
 
 namespace {
 

@@ -2,6 +2,9 @@
 #include "PanState.h"
 
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIGestureRecognizer+Further.h"
+#include "UIGestureRecognizerSubclass+Further.h"
+#include "UIKit/UIKit+Further.h"
 
 #include <cmath>
 

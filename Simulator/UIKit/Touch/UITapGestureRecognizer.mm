@@ -1,6 +1,9 @@
 #include "GestureArbiter.h"
 
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIGestureRecognizer+Further.h"
+#include "UIGestureRecognizerSubclass+Further.h"
+#include "UIKit/Views/UIResponder+Further.h"
 
 #include <algorithm>
 

@@ -1,7 +1,9 @@
 #include "TouchState.h"
 
 #include "Runtime/Objc/LazyState.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
+#include "UITouch+Further.h"
 
 #include <algorithm>
 

@@ -1,6 +1,8 @@
 #include "FirstResponder.h"
 #include "ViewState.h"
 
+#include "UIResponder+Further.h"
+
 #include <UIKit/UIResponder.h>
 #include <UIKit/UITouch.h>
 

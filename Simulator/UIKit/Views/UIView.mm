@@ -4,6 +4,9 @@
 #include "Runtime/Objc/Ownership.h"
 #include "UIKit/QuartzCore/AnimationBlock.h"
 #include "UIKit/Touch/RecognizerState.h"
+#include "UIKit/UIKit+Further.h"
+#include "UIResponder+Further.h"
+#include "UIView+Further.h"
 
 #include <UIKit/UIViewController.h>
 

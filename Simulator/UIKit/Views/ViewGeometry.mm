@@ -1,5 +1,8 @@
 #include "ViewState.h"
 
+#include "UIKit/UIKit+Further.h"
+#include "UIView+Further.h"
+
 #include <UIKit/UIWindow.h>
 
 using sim::state;

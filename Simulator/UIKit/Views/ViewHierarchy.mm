@@ -1,6 +1,8 @@
 #include "ViewState.h"
 
 #include "Runtime/Process/Events.hpp"
+#include "UIKit/UIKit+Further.h"
+#include "UIView+Further.h"
 
 #include <UIKit/UIViewController.h>
 #include <UIKit/UIWindow.h>

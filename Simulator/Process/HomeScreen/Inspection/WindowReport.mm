@@ -6,6 +6,7 @@
 #include "Process/Shared/ViewSnapshot.h"
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Touch/TouchInput.h"
 #include "UIKit/Views/ViewState.h"
 

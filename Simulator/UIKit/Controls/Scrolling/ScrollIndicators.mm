@@ -2,6 +2,8 @@
 
 #include "ScrollState.h"
 
+#include "UIKit/CoreGraphics/CGGeometry+Further.h"
+
 #include <algorithm>
 
 namespace sim {

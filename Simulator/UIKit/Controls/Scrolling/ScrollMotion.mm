@@ -3,6 +3,8 @@
 #include "Runtime/Process/Pixels.hpp"
 #include "ScrollIndicators.h"
 #include "UIKit/QuartzCore/Timing.hpp"
+#include "UIKit/Touch/UIGestureRecognizer+Further.h"
+#include "UIScrollView+Further.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,6 +3,8 @@
 #include "ScrollMotion.h"
 #include "UIKit/Touch/GestureArbiter.h"
 #include "UIKit/Touch/PanState.h"
+#include "UIKit/UIKit+Further.h"
+#include "UIScrollView+Further.h"
 
 #include <cmath>
 
