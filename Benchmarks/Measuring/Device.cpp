@@ -44,9 +44,9 @@ Device::Device(const sim::Value &options)
 }
 
 void Device::boot() {
-    sim::Object message = sim::bootMessage(setup_, options_, root_.path(), 0);
-    message.insert_or_assign("entry", setup_.package.settingsEntry);
-    ask("boot", std::move(message));
+    sim::BootMessage message = sim::bootMessage(setup_, options_, root_.path(), 0);
+    message.entry = setup_.package.settingsEntry;
+    ask("boot", sim::toValue(message).object());
 }
 
 sim::Value Device::ask(const char *request, sim::Object arguments) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Runtime/Files/PlatformFiles.hpp"
-#include "Runtime/Values/Value.hpp"
+#include "Runtime/Values/Boot.hpp"
 
 #include <UIKit/UIKit.h>
 
@@ -15,29 +15,9 @@
 
 namespace sim {
 
-struct ApplicationSpec {
-    std::string identifier;
-    std::string name;
-    int badge = 0;
-    bool running = false;
-    std::string folder; // empty: on the home screen itself
-    bool icon = true;   // false: shows the placeholder icon
-    bool snapshot = true;
-    bool dock = false;
-};
-
-struct HomeScreenOptions {
-    std::vector<ApplicationSpec> applications; // in home-screen order; running ones most recent first
-    bool colorBadges = false;       // the other extension with a colour for each badge is installed …
-    bool colorBadgesEnabled = true; // … and on
-    bool colorBadgesBorders = false;
-    bool passcode = false; // the device has one
-    bool passcodeLocked = false;
-};
-
 // Makes the classes of this system version, the application object and the models. Before any library is
 // loaded.
-void prepareHomeScreen(const HomeScreenOptions &options);
+void prepareHomeScreen(const SharedOptions &options);
 // The launch: `applicationDidFinishLaunching:`, then windows, status bar and icons, then the badges in list
 // order.
 void launchHomeScreen();

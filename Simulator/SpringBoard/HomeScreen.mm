@@ -38,7 +38,7 @@ bool listed(const std::vector<ApplicationSpec> &applications, const std::string 
 
 } // namespace
 
-void prepareHomeScreen(const HomeScreenOptions &options) {
+void prepareHomeScreen(const SharedOptions &options) {
     specs() = options.applications;
     lockState().passcode = options.passcode || options.passcodeLocked;
     lockState().screenLocked = lockState().passcodeLocked = options.passcodeLocked;
@@ -63,7 +63,7 @@ void launchHomeScreen() {
     for (const auto &spec : specs()) {
         if (spec.badge <= 0) continue;
         SBApplication *owner = findApplication(spec.identifier);
-        record(owner).badge = [[NSNumber numberWithInt:spec.badge] retain];
+        record(owner).badge = [[NSNumber numberWithInt:static_cast<int>(spec.badge)] retain];
         badgeDidChange(owner);
     }
 }

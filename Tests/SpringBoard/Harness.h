@@ -26,14 +26,14 @@ void preparePlatform();
 sim::Device profile(const std::string &name, sim::Version version = {8, 1});
 
 // Mail and Phone in the dock, "org.example.1" … up to `plain` on the pages, two more in the folder "Social".
-sim::HomeScreenOptions applications(int plain = 6);
+sim::SharedOptions applications(int plain = 6);
 
 // Boots and lets everything that is due at once happen. The events of the boot are gone.
 void boot(const sim::Device &device = profile("iPhone 6"),
-          const sim::HomeScreenOptions &options = applications());
+          const sim::SharedOptions &options = applications());
 
 // What a library would do while it is loaded, between preparation and launch.
-void boot(const sim::Device &device, const sim::HomeScreenOptions &options, void (*load)());
+void boot(const sim::Device &device, const sim::SharedOptions &options, void (*load)());
 
 void wait(double seconds);
 

@@ -14,7 +14,7 @@ namespace harness {
 
 namespace {
 
-void prepare(const sim::Device &device, const sim::HomeScreenOptions &options) {
+void prepare(const sim::Device &device, const sim::SharedOptions &options) {
     sim::device() = device;
     sim::applyAvailability(device.version);
     sim::prepareHomeScreen(options);
@@ -58,8 +58,8 @@ sim::Device profile(const std::string &name, sim::Version version) {
     return {};
 }
 
-sim::HomeScreenOptions applications(int plain) {
-    sim::HomeScreenOptions options;
+sim::SharedOptions applications(int plain) {
+    sim::SharedOptions options;
     auto add = [&](std::string identifier, std::string name, std::string folder, bool dock) {
         options.applications.push_back(
             {.identifier = identifier, .name = name, .folder = folder, .dock = dock});
@@ -75,12 +75,12 @@ sim::HomeScreenOptions applications(int plain) {
     return options;
 }
 
-void boot(const sim::Device &device, const sim::HomeScreenOptions &options) {
+void boot(const sim::Device &device, const sim::SharedOptions &options) {
     prepare(device, options);
     launch();
 }
 
-void boot(const sim::Device &device, const sim::HomeScreenOptions &options, void (*load)()) {
+void boot(const sim::Device &device, const sim::SharedOptions &options, void (*load)()) {
     prepare(device, options);
     load();
     launch();

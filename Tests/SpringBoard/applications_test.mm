@@ -42,7 +42,7 @@ size_t applicationWindows() {
     return count;
 }
 
-sim::HomeScreenOptions running() {
+sim::SharedOptions running() {
     auto options = harness::applications();
     for (auto &spec : options.applications)
         spec.running = spec.identifier == kMail || spec.identifier == kPhone || spec.identifier == kOne;

@@ -18,7 +18,7 @@ NSData *pixelsOf(const char *identifier) {
     return UIImagePNGRepresentation([[view _iconImageView] contentsImage]);
 }
 
-sim::HomeScreenOptions withBareOnes() {
+sim::SharedOptions withBareOnes() {
     auto options = harness::applications();
     options.applications.push_back(
         {.identifier = "org.example.bare", .name = "Bare", .folder = {}, .icon = false});

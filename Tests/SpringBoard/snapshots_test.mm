@@ -17,7 +17,7 @@ NSArray *pictures(const char *identifier) {
     return paths;
 }
 
-sim::HomeScreenOptions oneUnseen() {
+sim::SharedOptions oneUnseen() {
     auto options = harness::applications();
     options.applications[2].snapshot = false; // org.example.1
     return options;

@@ -91,8 +91,7 @@ INSTANTIATE_TEST_SUITE_P(All, Versions,
 
 TEST(Classes, OfTheOtherExtensionAreThereWhenItIsInstalled) {
     auto options = harness::applications();
-    options.colorBadges = true;
-    options.colorBadgesBorders = true;
+    options.colorBadges.emplace();
     harness::boot(harness::profile("iPhone 6"), options);
     Class badges = objc_getClass("ColorBadges");
     ASSERT_TRUE(badges);

@@ -1,4 +1,5 @@
 // Which tables boot a device and which are refused, and that the refusal says what to change.
+#include "Runtime/Values/Json.hpp"
 #include "Supervisor/Boot/BootOptions.hpp"
 
 #include <gtest/gtest.h>
@@ -95,6 +96,35 @@ TEST(BootOptions, RefusalsSayWhatToChange) {
             EXPECT_NE(text.find(test.part), std::string::npos) << text << "\nwanted: " << test.part;
         }
     }
+}
+
+TEST(BootMessage, SurvivesTheWayToAProcess) {
+    sim::BootMessage message;
+    static_cast<sim::SharedOptions &>(message) = read(Object{
+        {"apps",
+         Array{Object{
+             {"id", "org.a"}, {"badge", 3}, {"running", true}, {"folder", "Social"}, {"icon", false}}}},
+        {"extension", false},
+        {"hide_classes", Array{"A"}},
+        {"hide_methods", Array{"A b"}},
+        {"nil_methods", Array{"A c"}},
+        {"fail_writes",
+         Array{Object{{"path", "/var"}, {"error", "EIO"}, {"call", "open"}, {"first", 2}, {"times", 4}}}},
+        {"color_badges", Object{{"enabled", false}}},
+        {"passcode_locked", true}});
+    message.applications[0].dock = true;
+    message.device = {"iPhone 6", "iPhone7,2", 375, 667, 2, false, true, true, "8.1", "it"};
+    message.now = 7;
+    message.wallClock = 8.5;
+    message.root = "/r", message.platform = "/p", message.countedFile = "/c", message.entry = "e";
+    Value sent = sim::toValue(message);
+    Value received = sim::parseJson(sim::toJson(sent));
+    EXPECT_EQ(sim::toValue(sim::readBootMessage(received)), sent);
+    sim::BootMessage fresh;
+    fresh.device = {"", "", 0, 0, 0, false, false, false, "", ""};
+    Value plain = sim::toValue(fresh);
+    for (const auto &[name, value] : sent.object())
+        EXPECT_NE(value, plain[name]) << name << " is lost or was not set";
 }
 
 TEST(Profiles, EveryPairThatExistedCanBeBooted) {

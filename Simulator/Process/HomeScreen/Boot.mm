@@ -11,27 +11,6 @@ namespace sim {
 
 namespace {
 
-HomeScreenOptions homeScreenOptions(const Value &message) {
-    HomeScreenOptions options;
-    for (const auto &entry : message["applications"].array())
-        options.applications.push_back({.identifier = entry["id"].string(),
-                                        .name = entry["name"].string(),
-                                        .badge = static_cast<int>(entry["badge"].integer()),
-                                        .running = entry["running"].boolean(),
-                                        .folder = entry["folder"].string(),
-                                        .icon = entry["icon"].boolean(),
-                                        .snapshot = entry["snapshot"].boolean(),
-                                        .dock = entry["dock"].boolean()});
-    if (message.has("color_badges")) {
-        options.colorBadges = true;
-        options.colorBadgesEnabled = message["color_badges"]["enabled"].boolean();
-        options.colorBadgesBorders = message["color_badges"]["borders"].boolean();
-    }
-    options.passcode = message["passcode"].boolean();
-    options.passcodeLocked = message["passcode_locked"].boolean();
-    return options;
-}
-
 bool isRunning(int process) {
     for (SBApplication *application : installedApplications())
         if (record(application).pid == process) return true;
@@ -44,11 +23,12 @@ bool passSignal(int process, int number) {
     return known;
 }
 
-Value boot(const Value &message) {
+Value boot(const Value &arguments) {
+    BootMessage message = readBootMessage(arguments);
     bootDevice(message);
     onSignal(passSignal);
-    prepareHomeScreen(homeScreenOptions(message));
-    if (message["load_extensions"].boolean()) loadExtensions("com.apple.springboard", "SpringBoard");
+    prepareHomeScreen(message);
+    if (message.extension) loadExtensions("com.apple.springboard", "SpringBoard");
     launchHomeScreen();
     return {};
 }

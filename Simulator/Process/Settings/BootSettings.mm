@@ -10,21 +10,21 @@ namespace sim {
 
 namespace {
 
-std::vector<InstalledApplication> applications(const Value &message) {
+std::vector<InstalledApplication> applications(const BootMessage &message) {
     std::vector<InstalledApplication> result;
-    for (const auto &entry : message["applications"].array())
-        result.push_back({entry["id"].string(), entry["name"].string(), entry["icon"].boolean()});
+    for (const auto &application : message.applications)
+        result.push_back({application.identifier, application.name, application.icon});
     return result;
 }
 
-// {…as for the home screen, "entry": name of the entry to open, which may be absent}
-Value boot(const Value &message) {
+Value boot(const Value &arguments) {
+    BootMessage message = readBootMessage(arguments);
     bootDevice(message);
     setInstalledApplications(applications(message));
-    if (message["load_extensions"].boolean()) loadExtensions("com.apple.Preferences", "Preferences");
+    if (message.extension) loadExtensions("com.apple.Preferences", "Preferences");
     launchSettings(loadLibrary);
-    if (message.has("entry") && !openEntry(message["entry"].string()))
-        throw BadRequest("Settings has no page '" + message["entry"].string() + "' that can be opened");
+    if (message.entry && !openEntry(*message.entry))
+        throw BadRequest("Settings has no page '" + *message.entry + "' that can be opened");
     return {};
 }
 

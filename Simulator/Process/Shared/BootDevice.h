@@ -1,12 +1,12 @@
 // What every simulated process does first, whatever it then becomes.
 #pragma once
 
-#include "Runtime/Values/Value.hpp"
+#include "Runtime/Values/Boot.hpp"
 
 namespace sim {
 
 // Sets up the sandbox, the device, the clock and the seams to the system, and leaves the process with the
 // classes and methods of the device's system version.
-void bootDevice(const Value &message);
+void bootDevice(const BootMessage &message);
 
 } // namespace sim

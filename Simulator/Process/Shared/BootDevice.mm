@@ -21,73 +21,70 @@ namespace sim {
 
 namespace {
 
-void setDevice(const Value &profile) {
-    const auto &version = profile["version"].string();
-    device() = {.name = profile["name"].string(),
-                .machine = profile["machine"].string(),
-                .width = profile["width"].number(),
-                .height = profile["height"].number(),
-                .scale = profile["scale"].number(),
-                .pad = profile["pad"].boolean(),
-                .touchSensor = profile["touch_sensor"].boolean(),
-                .reachability = profile["reachability"].boolean(),
+void setDevice(const DeviceProfile &profile) {
+    const auto &version = profile.version;
+    device() = {.name = profile.name,
+                .machine = profile.machine,
+                .width = profile.width,
+                .height = profile.height,
+                .scale = profile.scale,
+                .pad = profile.pad,
+                .touchSensor = profile.touchSensor,
+                .reachability = profile.reachability,
                 .version = {std::stoi(version), std::stoi(version.substr(version.find('.') + 1))},
-                .language = profile["language"].string()};
+                .language = profile.language};
 }
 
-void setTime(const Value &message) {
-    Clock::shared().start(message["now"].integer());
+void setTime(const BootMessage &message) {
+    Clock::shared().start(message.now);
     setEventEpoch(0);
-    setWallClock(message["wall_clock"].number());
+    setWallClock(message.wallClock);
     publishTime(Clock::shared().now());
 }
 
-void hideClasses(const Array &names) {
+void hideClasses(const std::vector<std::string> &names) {
     for (const auto &name : names) {
-        if (!objc_lookUpClass(name.string().c_str()))
-            recordWarning("no class '" + name.string() + "' to hide");
-        hideClass(name.string());
+        if (!objc_lookUpClass(name.c_str())) recordWarning("no class '" + name + "' to hide");
+        hideClass(name);
     }
 }
 
-void forEachMethod(const Array &names, bool (*apply)(const std::string &), const char *what) {
+void forEachMethod(const std::vector<std::string> &names, bool (*apply)(const std::string &),
+                   const char *what) {
     for (const auto &name : names) try {
-            if (!apply(name.string())) recordWarning("no method '" + name.string() + "' to " + what);
+            if (!apply(name)) recordWarning("no method '" + name + "' to " + what);
         } catch (const std::invalid_argument &error) {
             throw BadRequest(error.what());
         }
 }
 
-void failWrites(const Array &failures) {
+void failWrites(const std::vector<FailingWrites> &failures) {
     for (const auto &entry : failures) {
-        WriteFailure failure{.prefix = entry["path"].string(),
-                             .error = static_cast<int>(entry["error"].integer()),
-                             .call = {}};
-        if (entry["call"].isString())
-            failure.call = entry["call"].string() == "rename" ? WriteCall::rename : WriteCall::open;
-        failure.first = static_cast<uint64_t>(entry["first"].integer());
-        if (entry["times"].isInteger()) failure.times = static_cast<uint64_t>(entry["times"].integer());
+        WriteFailure failure{.prefix = entry.path, .error = errorNumber(entry.error).value_or(0), .call = {}};
+        if (!entry.call.empty()) failure.call = entry.call == "rename" ? WriteCall::rename : WriteCall::open;
+        failure.first = static_cast<uint64_t>(entry.first);
+        if (entry.times) failure.times = static_cast<uint64_t>(*entry.times);
         addWriteFailure(std::move(failure));
     }
 }
 
 } // namespace
 
-void bootDevice(const Value &message) {
-    setSandboxRoot(message["root"].string());
-    setPlatformFolder(message["platform"].string());
-    setDevice(message["device"]);
+void bootDevice(const BootMessage &message) {
+    setSandboxRoot(message.root);
+    setPlatformFolder(message.platform);
+    setDevice(message.device);
     setTime(message);
     installTimers();
     installRunLoop();
     installPropertyLists();
-    watchFile(message["count_reads_of"].string());
+    watchFile(message.countedFile);
     onRespringRequest(askForRespring);
     applyAvailability(device().version);
-    hideClasses(message["hide_classes"].array());
-    forEachMethod(message["hide_methods"].array(), hideMethod, "hide");
-    forEachMethod(message["nil_methods"].array(), silenceMethod, "silence");
-    failWrites(message["fail_writes"].array());
+    hideClasses(message.hiddenClasses);
+    forEachMethod(message.hiddenMethods, hideMethod, "hide");
+    forEachMethod(message.silencedMethods, silenceMethod, "silence");
+    failWrites(message.writeFailures);
 }
 
 } // namespace sim

@@ -6,6 +6,6 @@
 namespace sim {
 
 // Without the option its class is hidden. Before any library is loaded.
-void installColorBadges(const HomeScreenOptions &options);
+void installColorBadges(const SharedOptions &options);
 
 } // namespace sim

@@ -16,10 +16,11 @@ bool enabled = false, borders = false;
 
 namespace sim {
 
-void installColorBadges(const HomeScreenOptions &options) {
+void installColorBadges(const SharedOptions &options) {
     if (!options.colorBadges) hideClass("ColorBadges");
-    enabled = options.colorBadgesEnabled;
-    borders = options.colorBadgesBorders;
+    auto badges = options.colorBadges.value_or(ColorBadgeOptions{.borders = false});
+    enabled = badges.enabled;
+    borders = badges.borders;
 }
 
 } // namespace sim

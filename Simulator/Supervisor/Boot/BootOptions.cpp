@@ -4,10 +4,8 @@
 #include "Supervisor/Text/Suggest.hpp"
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <map>
 #include <set>
 
 namespace sim {
@@ -45,11 +43,11 @@ void readSettings(OptionReader &reader, BootOptions &options) {
     if (options.settings && options.settingsText) reader.fail("give 'settings' or 'settings_text', not both");
 }
 
-std::vector<Application> readStock(std::string_view json, const std::string &language) {
-    std::vector<Application> result;
+std::vector<ApplicationSpec> readStock(std::string_view json, const std::string &language) {
+    std::vector<ApplicationSpec> result;
     Value list = parseJson(json);
     for (const auto &entry : list.array()) {
-        Application application;
+        ApplicationSpec application;
         application.identifier = entry["id"].string();
         const Value &names = entry["name"];
         application.name = names[names.has(language) ? language : kDefaultLanguage].string();
@@ -61,27 +59,20 @@ std::vector<Application> readStock(std::string_view json, const std::string &lan
 }
 
 // The stock application's name; else the last part of the identifier.
-std::string nameOf(const std::string &identifier, const std::vector<Application> &stock) {
-    auto found = std::ranges::find(stock, identifier, &Application::identifier);
+std::string nameOf(const std::string &identifier, const std::vector<ApplicationSpec> &stock) {
+    auto found = std::ranges::find(stock, identifier, &ApplicationSpec::identifier);
     return found != stock.end() ? found->name : identifier.substr(identifier.rfind('.') + 1);
 }
 
-Application readApplication(const Value &table, const std::string &where,
-                            const std::vector<Application> &stock) {
+ApplicationSpec readApplication(const Value &table, const std::string &where,
+                                const std::vector<ApplicationSpec> &stock) {
     OptionReader reader(table, where);
-    Application application;
-    auto identifier = reader.string("id");
-    application.name = reader.string("name").value_or("");
-    application.badge = reader.integer("badge").value_or(0);
-    application.running = reader.boolean("running").value_or(false);
-    application.folder = reader.string("folder").value_or("");
-    application.icon = reader.boolean("icon").value_or(true);
-    application.snapshot = reader.boolean("snapshot").value_or(true);
+    ApplicationSpec application;
+    eachField(application, reader);
     reader.finish();
-    if (!identifier || identifier->empty()) reader.fail("an application needs an 'id'");
+    if (application.identifier.empty()) reader.fail("an application needs an 'id'");
     if (application.badge < 0) reader.fail("'badge' must not be negative");
-    application.identifier = *identifier;
-    if (application.name.empty()) application.name = nameOf(*identifier, stock);
+    if (application.name.empty()) application.name = nameOf(application.identifier, stock);
     return application;
 }
 
@@ -105,37 +96,26 @@ void readColorBadges(OptionReader &reader, BootOptions &options) {
     const Value &value = reader.any("color_badges");
     if (value.isNull() || (value.isBool() && !value.boolean())) return;
     OptionReader badges(value.isBool() ? Value() : value, "boot: color_badges");
-    options.colorBadges = ColorBadges{.enabled = badges.boolean("enabled").value_or(true),
-                                      .borders = badges.boolean("borders").value_or(true)};
+    eachField(options.colorBadges.emplace(), badges);
     badges.finish();
 }
 
 FailingWrites readFailingWrites(const Value &table, const std::string &where) {
-    static const std::map<std::string, int> errors{
-        {"EACCES", EACCES}, {"EIO", EIO}, {"ENOSPC", ENOSPC}, {"EROFS", EROFS}};
     OptionReader reader(table, where);
     FailingWrites failure;
-    failure.path = reader.string("path").value_or("");
-    auto error = errors.find(reader.string("error").value_or("ENOSPC"));
-    failure.call = reader.string("call").value_or("");
-    failure.first = reader.integer("first").value_or(1);
-    failure.times = reader.integer("times");
+    eachField(failure, reader);
     reader.finish();
     if (!failure.path.starts_with("/")) reader.fail("'path' must be an absolute path of the device");
-    if (error == errors.end()) reader.fail("'error' must be \"EACCES\", \"EIO\", \"ENOSPC\" or \"EROFS\"");
+    if (!errorNumber(failure.error))
+        reader.fail("'error' must be \"EACCES\", \"EIO\", \"ENOSPC\" or \"EROFS\"");
     if (!failure.call.empty() && failure.call != "open" && failure.call != "rename")
         reader.fail("'call' must be \"open\" or \"rename\"");
     if (failure.first < 1 || failure.times.value_or(1) < 1) reader.fail("'first' and 'times' count from 1");
-    failure.error = error->second;
     return failure;
 }
 
 void readFaults(OptionReader &reader, BootOptions &options) {
-    using Strings = std::vector<std::string>;
-    options.hiddenClasses = reader.strings("hide_classes").value_or(Strings{});
-    options.hiddenMethods = reader.strings("hide_methods").value_or(Strings{});
-    options.silencedMethods = reader.strings("nil_methods").value_or(Strings{});
-    options.missingFiles = reader.strings("missing_files").value_or(Strings{});
+    reader("missing_files", options.missingFiles);
     for (const auto &path : options.missingFiles)
         if (!path.starts_with("/"))
             reader.fail("'missing_files' holds absolute paths of the device, not '" + path + "'");
@@ -169,14 +149,12 @@ BootOptions readBootOptions(const Value &table, std::string_view stockApplicatio
     readClock(reader, options);
     readSettings(reader, options);
     readApplications(reader, options, stockApplications);
-    options.extension = reader.boolean("extension").value_or(true);
+    eachField(options, reader);
     readFaults(reader, options);
     readColorBadges(reader, options);
-    options.passcode = reader.boolean("passcode").value_or(false);
-    options.passcodeLocked = reader.boolean("passcode_locked").value_or(false);
     options.passcode = options.passcode || options.passcodeLocked;
-    options.otherExtension = reader.boolean("apex").value_or(false);
-    options.root = reader.string("root").value_or("");
+    reader("apex", options.otherExtension);
+    reader("root", options.root);
     reader.finish();
     return options;
 }

@@ -29,6 +29,11 @@ public:
     std::optional<std::vector<std::string>> strings(const char *name);
     // A table with names; an empty one is one.
     std::optional<Object> table(const char *name);
+    // For eachField(): an absent option leaves the member as it is.
+    template <typename Member>
+    void operator()(const char *name, Member &member) {
+        if (auto value = read(name, member)) member = std::move(*value);
+    }
     // Of any kind; null when absent.
     const Value &any(const char *name);
 
@@ -38,6 +43,11 @@ public:
     [[noreturn]] void fail(const std::string &what) const;
 
 private:
+    auto read(const char *name, const bool &) { return boolean(name); }
+    auto read(const char *name, const int64_t &) { return integer(name); }
+    auto read(const char *name, const std::optional<int64_t> &) { return integer(name); }
+    auto read(const char *name, const std::string &) { return string(name); }
+    auto read(const char *name, const std::vector<std::string> &) { return strings(name); }
     [[noreturn]] void expected(const char *name, const char *wanted) const;
 
     Object options_;

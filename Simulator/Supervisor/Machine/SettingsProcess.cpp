@@ -17,9 +17,9 @@ SettingsProcess::SettingsProcess(SimulatedDevice &device) : device_(device), now
     process_ = std::make_unique<SimulatedProcess>(device.processSetup("pendix-settings"),
                                                   [this](Value event) { events_.add(std::move(event)); });
     try {
-        Object message = device.bootMessage();
-        message.insert_or_assign("entry", package().settingsEntry);
-        next_ = process_->request("boot", std::move(message)).next;
+        BootMessage message = device.bootMessage();
+        message.entry = package().settingsEntry;
+        next_ = process_->request("boot", toValue(message).object()).next;
     } catch (const ProcessDied &death) {
         recordCrash(death.ending);
         device.detach(this);

@@ -58,14 +58,16 @@ ChildProcess::Setup SimulatedDevice::processSetup(const char *program) const {
             .debugger = setup_.debugger};
 }
 
-Object SimulatedDevice::bootMessage() const { return sim::bootMessage(setup_, options_, root_.path(), now_); }
+BootMessage SimulatedDevice::bootMessage() const {
+    return sim::bootMessage(setup_, options_, root_.path(), now_);
+}
 
 void SimulatedDevice::boot() {
     ++generation_;
     home_ = std::make_unique<SimulatedProcess>(processSetup("pendix-home"),
                                                [this](Value event) { note(std::move(event)); });
     try {
-        Reply reply = home_->request("boot", bootMessage());
+        Reply reply = home_->request("boot", toValue(bootMessage()).object());
         next_ = reply.next;
     } catch (const ProcessDied &death) {
         recordCrash(death.ending);
@@ -80,7 +82,7 @@ void SimulatedDevice::boot() {
 // Keeps what a home screen finds again when it starts anew.
 void SimulatedDevice::note(Value event) {
     const auto &kind = event["kind"].string();
-    auto application = std::ranges::find_if(options_.applications, [&](const Application &candidate) {
+    auto application = std::ranges::find_if(options_.applications, [&](const ApplicationSpec &candidate) {
         return event["id"].isString() && candidate.identifier == event["id"].string();
     });
     if (application != options_.applications.end()) {

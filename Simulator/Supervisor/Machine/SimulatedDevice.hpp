@@ -49,7 +49,7 @@ public:
     void attach(SettingsProcess *process);
     void detach(SettingsProcess *process);
     ChildProcess::Setup processSetup(const char *program) const;
-    Object bootMessage() const;
+    BootMessage bootMessage() const;
     // Settings asked for a restart of the home screen at that time, up to which nothing was due there.
     void restartFromSettings(int64_t time);
 
