@@ -30,7 +30,7 @@ constexpr NSInteger secondHand = 1000, minuteHand = 1001, hourHand = 1002; // in
 
 // In the lock faces.
 constexpr NSInteger faceTitle = -1;
-constexpr NSInteger faceButton = -2; // keypad: cancel or delete; ask face: unlock
+constexpr NSInteger faceButton = -2;      // keypad: cancel or delete; ask face: unlock
 constexpr NSInteger firstPasscodeDot = 1; // of four; the digit keys are tagged by keyOfDigit()
 constexpr NSInteger glyph = 1, fingerCancel = 2, fingerPasscode = 3;
 

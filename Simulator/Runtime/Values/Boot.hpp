@@ -20,12 +20,16 @@ struct ApplicationSpec {
     bool icon = true;   // false: the placeholder icon
     bool snapshot = true;
     bool dock = false; // of the stock applications only
+
+    bool operator==(const ApplicationSpec &) const = default;
 };
 
 // The other extension with a colour for each badge.
 struct ColorBadgeOptions {
     bool enabled = true;
     bool borders = true;
+
+    bool operator==(const ColorBadgeOptions &) const = default;
 };
 
 // Writes below a path that do not succeed, in each process of the device.
@@ -35,6 +39,8 @@ struct FailingWrites {
     std::string call;             // "open", "rename", or empty for each
     int64_t first = 1;            // the first of these calls to fail
     std::optional<int64_t> times; // how many in a row; absent: all
+
+    bool operator==(const FailingWrites &) const = default;
 };
 
 // Of the errors that a write can fail with here, by the name in <errno.h>.
@@ -51,16 +57,20 @@ struct SharedOptions {
     std::optional<ColorBadgeOptions> colorBadges; // absent: not installed
     bool passcode = false;                        // the device has one
     bool passcodeLocked = false;
+
+    bool operator==(const SharedOptions &) const = default;
 };
 
 struct DeviceProfile {
     std::string name;
-    std::string machine;  // "hw.machine"
-    double width, height; // points, portrait
-    double scale;
-    bool pad, touchSensor, reachability;
+    std::string machine;          // "hw.machine"
+    double width = 0, height = 0; // points, portrait
+    double scale = 1;
+    bool pad = false, touchSensor = false, reachability = false;
     std::string version; // "8.1"
     std::string language;
+
+    bool operator==(const DeviceProfile &) const = default;
 };
 
 struct BootMessage : SharedOptions {
@@ -71,6 +81,8 @@ struct BootMessage : SharedOptions {
     std::string platform;    // the folder of the platform's pictures
     std::string countedFile; // on the device; whose reads are counted
     std::optional<std::string> entry; // the page that Settings opens
+
+    bool operator==(const BootMessage &) const = default;
 };
 
 // Each calls field(name, member) for the fields that go by the same name everywhere.
