@@ -24,6 +24,7 @@ std::span<const Act> homeScreenActs();
 std::span<const Act> lockActs();
 std::span<const Act> settingsActs();
 std::span<const Act> paneActs();
+std::span<const Act> examActs(); // single acts from rest, with time for what they lead to
 
 struct Event {
     const char *act;

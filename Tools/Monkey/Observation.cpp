@@ -96,6 +96,17 @@ Observation readObservation(const Value &answer) {
     seen.badges = list(answer["badges"], [](const Array &row) {
         return SeenBadge{row[0].string(), row[1].integer(), row[2].boolean()};
     });
+    seen.applications = list(answer["applications"], [](const Array &row) {
+        return SeenApplication{row[0].string(), row[1].string(), row[2].boolean(), row[3].boolean()};
+    });
+    for (const auto &identifier : answer["switcher"].array()) seen.switcher.push_back(identifier.string());
+    seen.foreground = answer["foreground"].string();
+    seen.iconWidth = answer["icon"].array()[0].number();
+    seen.iconHeight = answer["icon"].array()[1].number();
+    seen.screenLocked = answer["screen_locked"].boolean();
+    if (const Value &place = answer["item_place"]; !place.isNull())
+        seen.itemPlace = Area{place.array()[0].number(), place.array()[1].number(), place.array()[2].number(),
+                              place.array()[3].number()};
     seen.extension = readState(answer["variables"]);
     seen.itemPresent = answer["item"]["present"].boolean();
     seen.itemVisible = answer["item"]["visible"].boolean();

@@ -4,6 +4,7 @@
 #include "Runtime/Values/Value.hpp"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,12 @@ struct SeenBadge {
     bool operator==(const SeenBadge &) const = default;
 };
 
+struct SeenApplication {
+    std::string identifier, name;
+    bool running = false;
+    bool ownIcon = true; // false: shows the placeholder
+};
+
 // The extension's own variables.
 struct ExtensionState {
     bool isShow = false, isEditing = false, needPasscode = false, locked = false, needToPulse = false;
@@ -75,8 +82,14 @@ struct Observation {
     std::vector<SeenHook> hooks;
     std::vector<SeenBadge> badges; // of the applications that have one
     ExtensionState extension;
+    std::vector<SeenApplication> applications; // all that are installed
+    std::vector<std::string> switcher;         // as the system's switcher lists them, the most recent first
+    std::string foreground;                    // the application in front; empty on the home screen
     bool itemPresent = false, itemVisible = false;
     std::string itemImage;
+    std::optional<Area> itemPlace; // of the indicator's view, upright; nothing without one
+    bool screenLocked = false;     // the lock screen is up
+    double iconWidth = 0, iconHeight = 0; // of the home screen's icons
     bool display = true, passcodeLocked = false;
     double screenWidth = 0, screenHeight = 0; // upright
     int64_t settingsWrites = 0;               // of the process since its start

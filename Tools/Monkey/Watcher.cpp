@@ -60,6 +60,8 @@ std::vector<std::string> Watcher::look(const std::string &call) {
                   .from = time_,
                   .to = device.now()};
     followPanel(moment, memory_);
+    memory_.sceneBefore = memory_.scene;
+    followScene(moment, memory_.scene);
     std::vector<std::string> findings;
     for (const Rule &rule : rules()) {
         Findings own;

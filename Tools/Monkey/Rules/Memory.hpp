@@ -1,6 +1,8 @@
 // What the rules remember from one event to the next. All of it begins anew with the home screen.
 #pragma once
 
+#include "SceneMemory.hpp"
+
 #include <cstdint>
 #include <optional>
 #include <set>
@@ -25,6 +27,8 @@ struct TimerMemory {
 };
 
 struct Memory {
+    SceneMemory scene, sceneBefore; // now, and as of the event before
+
     // The panel, by the log. Times are virtual, in nanoseconds.
     bool shown = false;
     int64_t closedAt = INT64_MIN / 2; // when it was asked to close last

@@ -8,6 +8,8 @@ namespace sim::names {
 // Tags of the overlay's views: in the window, in the panel and in its content view.
 constexpr int64_t screenBackdrop = 21, dismissView = -1, panel = 3, content = 1;
 constexpr int64_t askFace = 44, fingerFace = 45, keypadFace = 46;
+constexpr int64_t promptText = 100, promptCancel = 101, promptOkay = 102, pageDots = 56;
+constexpr int64_t itemIcon = 1, itemBadge = 99, closeMark = -1;
 constexpr const char *strip = "NewUIScrollView"; // the class of the view that holds the items
 
 // Lines of the log.

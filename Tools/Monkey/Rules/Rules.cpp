@@ -21,7 +21,8 @@ std::span<const Rule> rules() {
         {"one panel", checkOnePanel},    {"closed", checkClosed},       {"locked", checkLocked},
         {"lists", checkLists},           {"indicator", checkIndicator}, {"timers", checkTimers},
         {"quiet", checkQuiet},           {"hooks", checkHooks},         {"geometry", checkGeometry},
-        {"settings", checkSettingsFile},
+        {"settings", checkSettingsFile}, {"contents", checkContents}, {"layout", checkLayout},
+        {"acts", checkConsequences},
     };
     return table;
 }

@@ -42,6 +42,9 @@ std::span<const Rule> rules();
 // Keeps what `memory` knows of the panel and of its lock up to date.
 void followPanel(const Moment &moment, Memory &memory);
 
+// Keeps what `memory` knows of badges, fingers and the panel's place up to date.
+void followScene(const Moment &moment, SceneMemory &memory);
+
 void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);
 void checkClosed(const Moment &moment, Memory &memory, Findings &findings);
 void checkLocked(const Moment &moment, Memory &memory, Findings &findings);
@@ -52,5 +55,8 @@ void checkQuiet(const Moment &moment, Memory &memory, Findings &findings);
 void checkHooks(const Moment &moment, Memory &memory, Findings &findings);
 void checkGeometry(const Moment &moment, Memory &memory, Findings &findings);
 void checkSettingsFile(const Moment &moment, Memory &memory, Findings &findings);
+void checkContents(const Moment &moment, Memory &memory, Findings &findings);
+void checkLayout(const Moment &moment, Memory &memory, Findings &findings);
+void checkConsequences(const Moment &moment, Memory &memory, Findings &findings);
 
 } // namespace sim

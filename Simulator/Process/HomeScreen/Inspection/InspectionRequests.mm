@@ -1,4 +1,5 @@
 #include "Process/Shared/Requests.h"
+#include "Process/Shared/Screen.h"
 #include "Process/Shared/ViewSearch.h"
 #include "Runtime/Files/FoundationFiles.hpp"
 #include "Runtime/Objc/HookCounts.hpp"
@@ -40,6 +41,30 @@ Value badges() {
     return result;
 }
 
+// [identifier, name, whether it runs, whether its icon has a drawing of its own], in the order of
+// installation.
+Value applications() {
+    Array result;
+    for (SBApplication *application : installedApplications()) {
+        const ApplicationRecord &one = record(application);
+        result.push_back(Array{one.identifier, one.name, one.pid != 0, one.icon});
+    }
+    return result;
+}
+
+Value switcher() {
+    const std::vector<std::string> identifiers = switcherApplications();
+    return Array(identifiers.begin(), identifiers.end());
+}
+
+// As it is seen at this moment, upright; null where the bar has no view for it.
+Value itemPlace(const std::string &identifier) {
+    UIView *view = statusBarItemView(identifier);
+    if (!view) return {};
+    const CGRect frame = presentedOnScreen(view);
+    return Array{frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
+}
+
 // {"item": identifier of a status-bar item}: all that there is to know about an overlay and its indicator at
 // this moment. Hooks are counted from one call to the next.
 Value inspect(const Value &arguments) {
@@ -53,6 +78,12 @@ Value inspect(const Value &arguments) {
                   {"badges", badges()},
                   {"variables", watchedVariables()},
                   {"item", statusBarItem(arguments["item"].string())},
+                  {"item_place", itemPlace(arguments["item"].string())},
+                  {"applications", applications()},
+                  {"switcher", switcher()},
+                  {"foreground", foregroundApplication().value_or("")},
+                  {"screen_locked", lockState().screenLocked},
+                  {"icon", Array{[SBIconView defaultIconSize].width, [SBIconView defaultIconSize].height}},
                   {"display", displayIsOn()},
                   {"passcode_locked", lockState().passcodeLocked},
                   {"screen", Array{interfaceSize().width, interfaceSize().height}},
