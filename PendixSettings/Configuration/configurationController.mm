@@ -82,7 +82,7 @@ NSArray *amounts() {
 // What a clear background is clearer than depends on the appearance.
 - (void)explainBack {
     PSSpecifier *group = [_specifiers objectAtIndex:kBackFooter];
-    [group setProperty:pane::Translator(backFooterKey()) forKey:@"footerText"];
+    [group setProperty:pane::shownText(backFooterKey()) forKey:@"footerText"];
     [self reloadSpecifierAtIndex:kBackFooter animated:YES];
 }
 
@@ -94,7 +94,7 @@ NSArray *amounts() {
     UINavigationController *sheet = [[UINavigationController alloc] initWithRootViewController:page];
     [self presentViewController:sheet animated:YES completion:nil];
     [sheet release];
-    UIBarButtonItem *cancel = [[UIBarButtonItem alloc] initWithTitle:pane::Translator(@"cancel")
+    UIBarButtonItem *cancel = [[UIBarButtonItem alloc] initWithTitle:pane::shownText(@"cancel")
                                                                style:UIBarButtonItemStyleBordered
                                                               target:self
                                                               action:@selector(dismissActivatorSetup)];

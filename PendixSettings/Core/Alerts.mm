@@ -7,21 +7,21 @@
 namespace pendix::pane {
 
 void showNote(NSString *title, NSString *message, id delegate) {
-    UIAlertView *alert = [[UIAlertView alloc] initWithTitle:Translator(title)
-                                                    message:Translator(message)
+    UIAlertView *alert = [[UIAlertView alloc] initWithTitle:shownText(title)
+                                                    message:shownText(message)
                                                    delegate:delegate
-                                          cancelButtonTitle:Translator(@"ok")
+                                          cancelButtonTitle:shownText(@"ok")
                                           otherButtonTitles:nil];
     [alert show];
     [alert release];
 }
 
 void offerRestart(id delegate) {
-    UIAlertView *alert = [[UIAlertView alloc] initWithTitle:Translator(@"resp")
-                                                    message:Translator(@"message_resp")
+    UIAlertView *alert = [[UIAlertView alloc] initWithTitle:shownText(@"resp")
+                                                    message:shownText(@"message_resp")
                                                    delegate:delegate
-                                          cancelButtonTitle:Translator(@"cancel")
-                                          otherButtonTitles:Translator(@"ok"), nil];
+                                          cancelButtonTitle:shownText(@"cancel")
+                                          otherButtonTitles:shownText(@"ok"), nil];
     [alert show];
     [alert release];
 }

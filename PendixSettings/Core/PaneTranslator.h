@@ -9,8 +9,12 @@ namespace pendix::pane {
 // "en" or "it": the user's first language when it is one of them, else "en". The pane has no Spanish.
 NSString *lang();
 
-// As on the home-screen side, in the pane's language.
+// As on the home-screen side, in the pane's language; nil or empty when no table has the text and there is no
+// English one.
 NSString *Translator(NSString *key);
+
+// The same for what is shown, "(null)" instead of nil: lists, alerts and rows take no nil.
+NSString *shownText(NSString *key);
 
 // The key whose text in the pane's language equals `text`; the first one that the table enumerates when
 // several do. "(null)" when there is none, or no table.

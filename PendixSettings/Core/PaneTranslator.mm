@@ -11,6 +11,11 @@ NSString *lang() {
 
 NSString *Translator(NSString *key) { return textForKey(key, lang()); }
 
+NSString *shownText(NSString *key) {
+    NSString *text = Translator(key);
+    return text ? text : missingText;
+}
+
 NSString *getNotTranslated(NSString *text) {
     NSDictionary *table = languageTable(lang());
     for (NSString *key in table)

@@ -19,7 +19,7 @@ PSSpecifier *Rows::add(NSString *name, SEL setter, SEL getter, Class detail, PSC
 
 Rows &Rows::group(NSString *footerKey) {
     PSSpecifier *group = [PSSpecifier emptyGroupSpecifier];
-    if (footerKey) [group setProperty:Translator(footerKey) forKey:@"footerText"];
+    if (footerKey) [group setProperty:shownText(footerKey) forKey:@"footerText"];
     [rows_ addObject:group];
     return *this;
 }
@@ -31,13 +31,13 @@ PSSpecifier *Rows::header(NSString *cellClass) {
 }
 
 PSSpecifier *Rows::toggle(NSString *key, SEL setter, SEL getter) {
-    PSSpecifier *row = add(Translator(key), setter, getter, Nil, PSSwitchCell);
+    PSSpecifier *row = add(shownText(key), setter, getter, Nil, PSSwitchCell);
     [row setProperty:[blueSwitcher class] forKey:@"cellClass"];
     return row;
 }
 
 PSSpecifier *Rows::link(NSString *key, Class page, NSString *iconFile) {
-    return namedLink(Translator(key), page, iconFile ? [UIImage imageWithContentsOfFile:iconFile] : nil);
+    return namedLink(shownText(key), page, iconFile ? [UIImage imageWithContentsOfFile:iconFile] : nil);
 }
 
 PSSpecifier *Rows::namedLink(NSString *name, Class page, UIImage *icon) {
@@ -47,22 +47,22 @@ PSSpecifier *Rows::namedLink(NSString *name, Class page, UIImage *icon) {
 }
 
 PSSpecifier *Rows::button(NSString *key, PSCellType cell, SEL action) {
-    PSSpecifier *row = add(Translator(key), nullptr, nullptr, Nil, cell);
+    PSSpecifier *row = add(shownText(key), nullptr, nullptr, Nil, cell);
     row.buttonAction = action;
     return row;
 }
 
 PSSpecifier *Rows::choice(NSString *key, NSArray *values, Class page) {
     PSSpecifier *row =
-        add(Translator(key), @selector(setValue:forSpecifier:), @selector(getValue:), page, PSLinkListCell);
+        add(shownText(key), @selector(setValue:forSpecifier:), @selector(getValue:), page, PSLinkListCell);
     NSMutableArray *titles = [NSMutableArray array];
-    for (NSString *value in values) [titles addObject:Translator(value)];
+    for (NSString *value in values) [titles addObject:shownText(value)];
     [row setValues:values titles:titles];
     return row;
 }
 
 PSSpecifier *Rows::segments(NSString *key, NSArray *values) {
-    PSSpecifier *row = add(Translator(key), @selector(setValue:forSpecifier:), @selector(getValue:),
+    PSSpecifier *row = add(shownText(key), @selector(setValue:forSpecifier:), @selector(getValue:),
                            [PSListItemsController class], PSSegmentCell);
     [row setValues:values titles:values];
     return row;

@@ -34,7 +34,7 @@ UILabel *newHint() {
     hint.tag = kHint;
     hint.textAlignment = NSTextAlignmentCenter;
     hint.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:18];
-    hint.text = Translator(@"slide");
+    hint.text = shownText(@"slide");
     hint.textColor = color;
     return hint;
 }

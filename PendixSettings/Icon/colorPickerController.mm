@@ -20,7 +20,7 @@ namespace pane = pendix::pane;
 - (void)viewWillAppear:(BOOL)animated {
     [super viewWillAppear:animated];
     pane::measure(self.view);
-    UIBarButtonItem *apply = [[UIBarButtonItem alloc] initWithTitle:pane::Translator(@"apply")
+    UIBarButtonItem *apply = [[UIBarButtonItem alloc] initWithTitle:pane::shownText(@"apply")
                                                               style:UIBarButtonItemStyleBordered
                                                              target:self
                                                              action:@selector(apply)];

@@ -15,8 +15,8 @@ UIViewController *presenter() { return [UIApplication sharedApplication].keyWind
 UIViewController *newRoot(const PasscodeSheet &sheet) {
     UIViewController *root = [UIViewController new];
     root.view.backgroundColor = [UIColor whiteColor];
-    root.navigationItem.title = Translator(sheet.titleKey);
-    UIBarButtonItem *cancel = [[UIBarButtonItem alloc] initWithTitle:Translator(@"cancel")
+    root.navigationItem.title = shownText(sheet.titleKey);
+    UIBarButtonItem *cancel = [[UIBarButtonItem alloc] initWithTitle:shownText(@"cancel")
                                                                style:UIBarButtonItemStyleBordered
                                                               target:sheet.page
                                                               action:sheet.cancel];
@@ -27,7 +27,7 @@ UIViewController *newRoot(const PasscodeSheet &sheet) {
 
 UILabel *addText(UIView *view, const DigitGroup &group, CGFloat below) {
     UILabel *label = [[[UILabel alloc] initWithFrame:CGRectZero] autorelease];
-    label.text = Translator(group.key);
+    label.text = shownText(group.key);
     label.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:kTextSize];
     [label sizeToFit];
     const CGSize size = label.frame.size;

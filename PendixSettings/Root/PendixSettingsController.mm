@@ -72,7 +72,7 @@ UIImageView *titleView() {
 - (void)Tweet {
     TWTweetComposeViewController *sheet = [objc_getClass("TWTweetComposeViewController") new];
     if (!sheet) return;
-    [sheet setInitialText:pane::Translator(@"tweet")];
+    [sheet setInitialText:pane::shownText(@"tweet")];
     [self presentViewController:sheet animated:YES completion:nil];
     [sheet release];
 }

@@ -17,7 +17,7 @@ constexpr CGFloat kHeight = 156, kGlyphTop = 36, kGlyphSide = 40, kNameTop = 84,
 NSString *version() {
     id number =
         [[NSDictionary dictionaryWithContentsOfFile:kInfo] objectForKey:@"CFBundleShortVersionString"];
-    return [NSString stringWithFormat:@"%@ %@", pane::Translator(@"version"), number];
+    return [NSString stringWithFormat:@"%@ %@", pane::shownText(@"version"), number];
 }
 
 UILabel *newLine(NSString *text, NSString *font, CGFloat size, UIColor *color) {
@@ -36,7 +36,7 @@ UILabel *newLine(NSString *text, NSString *font, CGFloat size, UIColor *color) {
 
 - (NSArray *)buildRows {
     pane::Rows rows(self);
-    [rows.header(@"creatorsHeader") setProperty:pane::Translator(@"desc_contacts") forKey:@"footerText"];
+    [rows.header(@"creatorsHeader") setProperty:pane::shownText(@"desc_contacts") forKey:@"footerText"];
     return rows.list();
 }
 

@@ -21,9 +21,9 @@ def product_sources():
 
 
 def text_keys(source):
-    """The keys of texts that a source looks up: what it hands to Translator, and every footer's key."""
+    """The keys of texts that a source looks up: what it hands to Translator or shownText, and every footer's key."""
     keys = set(re.findall(r'"(desc_\w+)"', source))
-    for arguments in re.findall(r"\bTranslator\(([^)]*)\)", source):
+    for arguments in re.findall(r"\b(?:Translator|shownText)\(([^)]*)\)", source):
         keys.update(re.findall(_STRING, arguments))
     return keys
 

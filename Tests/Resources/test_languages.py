@@ -91,8 +91,8 @@ class Languages(unittest.TestCase):
                 self.assertIn(key, TABLES["en"], path)
 
     def test_the_search_for_keys_sees_every_form(self):
-        source = 'Translator(@"ok"); Translator(many ? "one_app" : "touch ID"); footer(@"desc_b"); other(@"no");'
-        self.assertEqual(text_keys(source), {"ok", "one_app", "touch ID", "desc_b"})
+        source = 'Translator(@"ok"); Translator(many ? "one_app" : "touch ID"); footer(@"desc_b"); shownText(@"top"); other(@"no");'
+        self.assertEqual(text_keys(source), {"ok", "one_app", "touch ID", "desc_b", "top"})
 
 
 if __name__ == "__main__":

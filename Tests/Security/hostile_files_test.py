@@ -1,5 +1,5 @@
-"""Proves what docs/security.md says of spoilt settings, language tables and pictures: which of them the home screen
-bears, and what it makes of them."""
+"""Proves what docs/security.md says of spoilt settings, language tables and pictures: which of them the home screen and
+the settings pane bear, and what they make of them."""
 
 import os
 import pathlib
@@ -15,8 +15,10 @@ BUILD = pathlib.Path(os.environ["BUILD"])
 
 SETTINGS = "var/mobile/Library/Preferences/org.quillhub.PendixSettings.plist"
 ENGLISH = "Library/Application Support/Pendix/Languages/en.plist"
+ITALIAN = "Library/Application Support/Pendix/Languages/it.plist"
 SNAPSHOT = "var/mobile/Library/Caches/Snapshots/org.example.ada/org.example.ada/Portrait.png"
 TEXTS = plistlib.loads((ROOT / "Resources/Languages/en.plist").read_bytes())
+ITALIAN_TEXTS = plistlib.loads((ROOT / "Resources/Languages/it.plist").read_bytes())
 
 
 def chunk(kind, data):
@@ -48,11 +50,18 @@ class Device:
         return file
 
     def run(self, settings, *missing):
-        """{what the script tells: its text}; raises when an expectation failed."""
+        """The home screen with these settings: {what the script tells: its text}."""
+        return self.script("hostile_files.lua", settings, *(f"/{path}" for path in missing))
+
+    def pane(self, *missing):
+        """The settings pane: {what the script tells: its text}."""
+        return self.script("hostile_pane.lua", *(f"/{path}" for path in missing))
+
+    def script(self, name, *arguments):
+        """What it tells; raises when an expectation failed."""
         with tempfile.TemporaryDirectory() as pictures:
-            result = subprocess.run([BUILD / "bin/pendix-sim", "run", ROOT / "Tests/Security/hostile_files.lua", "--out", pictures, "--",
-                                     self.root, settings, *(f"/{path}" for path in missing)],
-                                    capture_output=True, text=True)
+            result = subprocess.run([BUILD / "bin/pendix-sim", "run", ROOT / "Tests/Security" / name, "--out", pictures,
+                                     "--", self.root, *arguments], capture_output=True, text=True)
         if result.returncode:
             raise AssertionError(result.stdout + result.stderr)
         return dict(line.split("\t", 1) for line in result.stdout.splitlines())
@@ -101,6 +110,33 @@ class Texts(unittest.TestCase):
     def test_what_is_no_text_counts_as_missing(self):
         for text in (b"bytes", 7, True, ["a", "b"], {"a": "b"}):
             self.assertEqual(self.message(text), "(null)")
+
+
+class PaneTexts(unittest.TestCase):
+    """A table that lacks texts, and no English one to take them from."""
+
+    LABELS = "configuration b rech position newb colors passw where change_pass contacts".split()
+    NOTHING = "(null)"
+
+    def test_a_text_that_no_table_has_shows_as_missing(self):
+        labels = {key: ITALIAN_TEXTS[key] for key in self.LABELS}
+        others = {key: ["a", "b"] for key in ITALIAN_TEXTS if key not in self.LABELS}
+        for table in (labels, labels | others):
+            device = Device(self)
+            device.file(ITALIAN, plistlib.dumps(table))
+            told = device.pane(ITALIAN, ENGLISH)
+            self.assertEqual(told["footer"], self.NOTHING)
+            self.assertEqual(told["restart"], self.list(self.NOTHING, self.NOTHING, 2))
+            self.assertEqual(told["choices"], self.list(*[self.NOTHING] * 3))
+            self.assertEqual(told["list"], self.list(3, self.NOTHING))
+            self.assertEqual(told["color"], self.list(self.NOTHING, self.NOTHING, 1))
+            self.assertEqual(told["moments"], self.list(3, self.NOTHING))
+            self.assertEqual(told["sheet"], self.list(labels["change_pass"], self.NOTHING, self.NOTHING))
+            self.assertEqual(told["code"], "1234")
+
+    @staticmethod
+    def list(*values):
+        return "\t".join(str(value) for value in values)
 
 
 class Pictures(unittest.TestCase):
