@@ -23,8 +23,6 @@ namespace {
 // The package list of an extension that draws icons of its own.
 NSString *const kOtherExtension = @"/var/lib/dpkg/info/com.a3tweaks.apex2.list";
 
-constexpr NSInteger kBackFooter = 2; // the place of the group that explains `back`
-
 NSString *backFooterKey() { return pendix::isOn(keys::lightScheme) ? @"desc_back_dark" : @"desc_back_light"; }
 
 NSArray *amounts() {
@@ -40,6 +38,7 @@ NSArray *amounts() {
     pane::Rows rows(self);
     rows.group(@"desc_light").toggle(keys::lightScheme);
     rows.group(backFooterKey()).toggle(keys::clearBackground);
+    _backGroup = rows.lastGroup();
     rows.group(@"desc_blur").toggle(keys::blursScreen);
     rows.group(@"desc_fast").toggle(keys::fastAnimations);
     rows.group(@"desc_ca").toggle(keys::cards);
@@ -81,9 +80,8 @@ NSArray *amounts() {
 
 // What a clear background is clearer than depends on the appearance.
 - (void)explainBack {
-    PSSpecifier *group = [_specifiers objectAtIndex:kBackFooter];
-    [group setProperty:pane::shownText(backFooterKey()) forKey:@"footerText"];
-    [self reloadSpecifierAtIndex:kBackFooter animated:YES];
+    pane::explain(_backGroup, backFooterKey());
+    [self showAgain:_backGroup];
 }
 
 - (void)showActivatorSetup {

@@ -11,6 +11,8 @@
 - (id)getValue:(PSSpecifier *)row;
 // Writes it, at once; tells nobody.
 - (void)setValue:(id)value forSpecifier:(PSSpecifier *)row;
+// Shows a group of the page, its rows and its footer, as they are by now. Nothing for another page's.
+- (void)showAgain:(PSSpecifier *)group;
 @end
 
 namespace pendix::pane {

@@ -26,4 +26,9 @@ id pane::showable(id value) { return [value respondsToSelector:@selector(boolVal
     pendix::writeSetting(pane::getNotTranslated(row.name), value);
 }
 
+- (void)showAgain:(PSSpecifier *)group {
+    const NSUInteger index = [_specifiers indexOfObject:group];
+    if (index != NSNotFound) [self reloadSpecifierAtIndex:static_cast<NSInteger>(index) animated:YES];
+}
+
 @end

@@ -13,6 +13,7 @@ public:
 
     // Begins a group, with a footer's text under it when there is a key.
     Rows &group(NSString *footerKey = nil);
+    PSSpecifier *lastGroup() const { return group_; } // nil before the first
     // A group that shows a view of that class, a table cell, above its rows.
     PSSpecifier *header(NSString *cellClass);
 
@@ -34,7 +35,11 @@ private:
 
     id page_;
     NSMutableArray *rows_;
+    PSSpecifier *group_ = nil;
 };
+
+// Sets the text under the group.
+void explain(PSSpecifier *group, NSString *footerKey);
 
 // Leaves the row as it is without a picture.
 void setIcon(PSSpecifier *row, UIImage *icon);

@@ -18,9 +18,9 @@ PSSpecifier *Rows::add(NSString *name, SEL setter, SEL getter, Class detail, PSC
 }
 
 Rows &Rows::group(NSString *footerKey) {
-    PSSpecifier *group = [PSSpecifier emptyGroupSpecifier];
-    if (footerKey) [group setProperty:shownText(footerKey) forKey:@"footerText"];
-    [rows_ addObject:group];
+    group_ = [PSSpecifier emptyGroupSpecifier];
+    if (footerKey) explain(group_, footerKey);
+    [rows_ addObject:group_];
     return *this;
 }
 
@@ -66,6 +66,10 @@ PSSpecifier *Rows::segments(NSString *key, NSArray *values) {
                            [PSListItemsController class], PSSegmentCell);
     [row setValues:values titles:values];
     return row;
+}
+
+void explain(PSSpecifier *group, NSString *footerKey) {
+    [group setProperty:shownText(footerKey) forKey:@"footerText"];
 }
 
 void setIcon(PSSpecifier *row, UIImage *icon) {

@@ -3,7 +3,9 @@
 #include "PendixSettings/Core/PendixListController.h"
 
 // The panel's lock and its passcode. Entering the page and changing the lock take the code that is stored.
-@interface passwordController : PendixListController
+@interface passwordController : PendixListController {
+    PSSpecifier *_lockGroup; // with the switch of the lock; not retained, one of the rows
+}
 // The switch of the lock.
 - (id)enable;
 - (void)setEnable:(id)value;

@@ -12,8 +12,6 @@ namespace pane = pendix::pane;
 
 namespace {
 
-constexpr NSInteger kLockGroup = 0; // the place of the group with the lock's switch
-
 // nil when none was ever set.
 NSString *storedCode() {
     NSString *code = pendix::textSetting(keys::passcode);
@@ -33,6 +31,7 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     pane::Rows rows(self);
     NSArray *moments = [NSArray arrayWithObjects:@"lockscreen", @"every", @"everyoff", nil];
     rows.group(@"desc_sec").toggle(@"security", @selector(setEnable:), @selector(enable));
+    _lockGroup = rows.lastGroup();
     if (pendix::isOn(keys::hasSensor)) rows.group(@"desc_id").toggle(keys::unlocksByFinger);
     rows.group(@"desc_clear").toggle(keys::labelledKeys);
     rows.group(@"desc_where").choice(keys::lockMoment, moments, [NewPSListItemsController class]);
@@ -94,14 +93,14 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     pane::endEntry(field);
     pendix::writeSettings(pane::pendingSettings);
     pane::dismissSheet(^{ pane::showed = NO; });
-    [self reloadSpecifierAtIndex:kLockGroup animated:YES];
+    [self showAgain:_lockGroup];
     pane::keep<NSMutableDictionary>(pane::pendingSettings, nil);
 }
 
 // Shows the switch as it is stored.
 - (void)dismiss1 {
     pane::dismissSheet(^{ pane::showed = NO; });
-    [self reloadSpecifierAtIndex:kLockGroup animated:YES];
+    [self showAgain:_lockGroup];
     pane::keep<NSMutableDictionary>(pane::pendingSettings, nil);
     pane::keep<NSMutableArray>(pane::newCodes, nil);
 }

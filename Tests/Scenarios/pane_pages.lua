@@ -56,11 +56,15 @@ P.no_harm(phone, pane)
 do
   local _, pane = P.start{}
   P.go(pane, { "Configuration" })
-  local function explains() return P.row(pane, "Clear Background").footer end
+  -- The text that can be read under the row, which must be the row's.
+  local function explains()
+    local text = P.row(pane, "Clear Background").footer
+    return pane:find{ class = "UILabel", text = text, visible = true } and text
+  end
   local dark = explains()
   P.toggle(pane, "Light Appearance")
   local light = explains()
-  expect(light ~= dark, "another text in light appearance")
+  expect(light and light ~= dark, "another text in light appearance")
   expect_eq(P.row(pane, "Light Appearance").value, true, "the switch stays as it was touched")
   P.toggle(pane, "Light Appearance")
   expect_eq(explains(), dark, "and back")
