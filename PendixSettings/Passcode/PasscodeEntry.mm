@@ -1,6 +1,6 @@
 #include "PendixSettings/Passcode/PasscodeSheet.h"
 
-#include "PendixSettings/Passcode/DigitEntry.hpp"
+#include "PendixSettings/Passcode/PasscodeView.h"
 #include "Tweak/Core/Names.h"
 #include "Tweak/Core/Sounds.h"
 
@@ -11,7 +11,6 @@ namespace {
 NSString *const kDot = @"dot.png";
 
 constexpr NSTimeInterval kAdvance = 0.25; // seconds
-constexpr NSUInteger kGroupSize = 1 + kDigits;
 
 // Place 0 is the group's text, 1 to 4 are its digits.
 UIView *viewAt(UITextField *field, NSInteger group, size_t place) {
@@ -46,18 +45,10 @@ void endEntry(UITextField *field) {
     field.text = @"";
 }
 
-void advance(UITextField *field, NSInteger first) {
-    UIView *screen = field.superview;
-    const CGFloat width = screen.frame.size.width;
-    [UIView animateWithDuration:kAdvance
-                     animations:^{
-                         for (size_t place = 0; place < 2 * kGroupSize; ++place) {
-                             UIView *view = viewAt(field, first, place);
-                             CGRect frame = view.frame;
-                             frame.origin.x -= width;
-                             view.frame = frame;
-                         }
-                     }];
+void advance(UITextField *field, NSInteger group) {
+    PasscodeView *view = (PasscodeView *)field.superview;
+    view.group = group + 1;
+    [UIView animateWithDuration:kAdvance animations:^{ [view placeGroups]; }];
     field.text = @"";
 }
 

@@ -1,7 +1,7 @@
-// The sheet on which a code is typed: groups of a text and four dashes, side by side, and a hidden field that
-// takes the digits. Of the root view's subviews group g has those from 5g on, the text first; the field is
-// the last.
+// The sheet on which a code is typed, and what typing does to it. Its page shows a PasscodeView.
 #pragma once
+
+#include "PendixSettings/Passcode/DigitEntry.hpp"
 
 #include <UIKit/UIKit.h>
 
@@ -11,18 +11,16 @@ namespace pendix::pane {
 
 // A place without a digit.
 inline NSString *const kDash = @"dash.png";
-
-struct DigitGroup {
-    NSString *key; // of its text
-    int screen;    // 0 is the middle, 1 one screen to the right, -1 to the left
-};
+// Subviews of a group: its text and its digits.
+inline constexpr NSUInteger kGroupSize = 1 + kDigits;
 
 struct PasscodeSheet {
     NSString *titleKey;
-    id page;    // target of the two
-    SEL cancel; // takes nothing
-    SEL typed;  // takes the field, after each change of its text
-    std::span<const DigitGroup> groups;
+    id page;                           // target of the two
+    SEL cancel;                        // takes nothing
+    SEL typed;                         // takes the field, after each change of its text
+    std::span<NSString *const> groups; // the keys of their texts
+    NSInteger first;                   // the group that is typed first
 };
 
 void present(const PasscodeSheet &sheet);
@@ -35,7 +33,7 @@ BOOL enterInto(UITextField *field, NSInteger group);
 void refuse(UITextField *field, NSInteger group);
 // No more input counts.
 void endEntry(UITextField *field);
-// Moves the groups `first` and the one after it a screen to the left, and empties the field.
-void advance(UITextField *field, NSInteger first);
+// Goes on from the group to the next one, which comes in from the right, and empties the field.
+void advance(UITextField *field, NSInteger group);
 
 } // namespace pendix::pane

@@ -19,8 +19,9 @@ NSString *storedCode() {
 }
 
 void presentWrite(passwordController *page, SEL cancel, SEL typed) {
-    const pane::DigitGroup groups[] = {{@"write", 0}};
-    pane::present({.titleKey = @"write", .page = page, .cancel = cancel, .typed = typed, .groups = groups});
+    NSString *const groups[] = {@"write"};
+    pane::present(
+        {.titleKey = @"write", .page = page, .cancel = cancel, .typed = typed, .groups = groups, .first = 0});
 }
 
 } // namespace
@@ -111,11 +112,10 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
     pane::showed = YES;
     pane::keep(pane::newCodes, [NSMutableArray array]);
     pane::changeStep = storedCode() ? 0 : 1;
-    const int first = storedCode() ? 0 : -1;
-    const pane::DigitGroup groups[] = {{@"old", first}, {@"new_pass", first + 1}, {@"rewrite", 1}};
+    NSString *const groups[] = {@"old", @"new_pass", @"rewrite"};
     pane::present({
         .titleKey = @"change_pass", .page = self, .cancel = @selector(dismiss1),
-        .typed = @selector(textFieldDidChange2:), .groups = groups
+        .typed = @selector(textFieldDidChange2:), .groups = groups, .first = pane::changeStep
     });
 }
 

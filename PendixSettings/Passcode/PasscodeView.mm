@@ -1,0 +1,87 @@
+#include "PendixSettings/Passcode/PasscodeView.h"
+
+#include "PendixSettings/Passcode/DigitEntry.hpp"
+#include "PendixSettings/Passcode/PasscodeSheet.h"
+#include "Tweak/Core/Names.h"
+
+namespace pane = pendix::pane;
+
+namespace {
+
+constexpr CGFloat kTextSize = 16, kFieldSide = 10;
+
+void setOrigin(UIView *view, CGFloat x, CGFloat y) {
+    const CGSize size = view.frame.size;
+    view.frame = CGRectMake(x, y, size.width, size.height);
+}
+
+} // namespace
+
+@implementation PasscodeView
+
+@synthesize group = _group;
+
+- (void)addGroup:(NSString *)text {
+    UILabel *label = [[UILabel alloc] initWithFrame:CGRectZero];
+    label.text = text;
+    label.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:kTextSize];
+    [label sizeToFit];
+    [self addSubview:label];
+    [label release];
+    UIImage *image = [UIImage imageWithContentsOfFile:pendix::names::supportFile(pane::kDash)];
+    for (size_t i = 0; i < pane::kDigits; ++i) {
+        UIImageView *dash =
+            [[UIImageView alloc] initWithFrame:CGRectMake(0, 0, image.size.width, image.size.height)];
+        dash.image = image;
+        dash.backgroundColor = [UIColor clearColor];
+        [self addSubview:dash];
+        [dash release];
+    }
+}
+
+- (void)addFieldFor:(id)target action:(SEL)typed {
+    UITextField *field = [[UITextField alloc] initWithFrame:CGRectMake(0, 0, kFieldSide, kFieldSide)];
+    field.keyboardType = UIKeyboardTypeNumberPad;
+    [field addTarget:target action:typed forControlEvents:UIControlEventEditingChanged];
+    [self addSubview:field];
+    [self placeGroups];
+    [field becomeFirstResponder];
+    [field release];
+}
+
+- (void)layoutSubviews {
+    [super layoutSubviews];
+    [self placeGroups];
+}
+
+- (void)placeGroups {
+    NSArray *views = self.subviews;
+    const NSInteger groups = static_cast<NSInteger>([views count] / pane::kGroupSize);
+    for (NSInteger group = 0; group < groups; ++group)
+        [self place:group screen:(group > _group) - (group < _group) of:views];
+    // Outside what is seen.
+    setOrigin([views lastObject], self.frame.size.width, self.frame.size.height);
+}
+
+// Screen 0 is the middle, 1 one screen to the right, -1 to the left.
+- (void)place:(NSInteger)group screen:(int)screen of:(NSArray *)views {
+    const NSUInteger first = static_cast<NSUInteger>(group) * pane::kGroupSize;
+    const CGFloat width = self.frame.size.width, below = self.frame.size.height - [self barHeight];
+    UIView *text = [views objectAtIndex:first];
+    const CGSize size = text.frame.size;
+    const CGFloat left = (width - size.width) * 0.5 + screen * width;
+    setOrigin(text, left, (below + size.height) * 0.25);
+    for (size_t i = 0; i < pane::kDigits; ++i) {
+        UIView *dash = [views objectAtIndex:first + 1 + i];
+        const CGSize own = dash.frame.size;
+        setOrigin(dash, left + static_cast<CGFloat>(i) * (size.width - own.width) / 3,
+                  (below + own.height) * 3 * 0.125);
+    }
+}
+
+- (CGFloat)barHeight {
+    UIViewController *page = (UIViewController *)self.nextResponder;
+    return page.navigationController.navigationBar.frame.size.height;
+}
+
+@end
