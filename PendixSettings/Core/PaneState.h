@@ -13,7 +13,7 @@ inline UIColor *color = nil; // its background; owned
 
 inline NSString *wtf = nil; // whose colour the colour page edits: one of the next two
 inline NSString *const kIndeterminate = @"Indeterminate", *const kIcon = @"Icon";
-inline UIColor *ciccia = nil; // of the card that was swiped to last; nil before the first; owned
+inline UIColor *ciccia = nil; // of the card that is shown, or was last; nil before the first; owned
 
 inline BOOL whereShowed = NO; // the list of `where` has been entered and not been left yet
 inline BOOL showed = NO;      // a passcode sheet is shown or being set up

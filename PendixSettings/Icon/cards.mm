@@ -73,18 +73,29 @@ size_t indexOfColor(id name) {
                         options:nil];
     _controller.delegate = self;
     _controller.dataSource = self;
-    const CGFloat width = (pane::width - 4 * (layout.correction + 2)) / shareOfWidth();
-    _controller.view.frame = CGRectMake(layout.pageLeft, kPagesTop, width, pane::height - kPagesTop);
-    [self addSubview:_controller.view];
+    const CGFloat share = shareOfWidth(), width = (pane::width - 4 * (layout.correction + 2)) / share;
+    UIView *view = _controller.view;
+    view.frame = CGRectMake(layout.pageLeft, kPagesTop, width, pane::height - kPagesTop);
+    // The cell gets its size later. Where the pages begin with half the width they grow with it; everywhere
+    // else they have theirs, and the cards follow one another without a gap.
+    view.autoresizingMask = share > 1 ? UIViewAutoresizingFlexibleWidth : UIViewAutoresizingNone;
+    [self addSubview:view];
 }
 
 - (void)showStoredColor {
     const size_t index = indexOfColor([self getValue]);
-    [_controller setViewControllers:[NSArray arrayWithObject:[controllers objectAtIndex:index]]
+    UIViewController *card = [controllers objectAtIndex:index];
+    [_controller setViewControllers:[NSArray arrayWithObject:card]
                           direction:UIPageViewControllerNavigationDirectionForward
                            animated:NO
                          completion:nil];
-    pane::colorPreview(self, pendix::colorFrom(pane::colorNames()[index]));
+    [self showColorOf:card];
+}
+
+// What `apply` stores is what is seen.
+- (void)showColorOf:(UIViewController *)card {
+    pane::keep(pane::ciccia, pane::colorOfCard(card));
+    pane::colorPreview(self, pane::ciccia);
 }
 
 - (id)getValue {
@@ -140,8 +151,7 @@ size_t indexOfColor(id name) {
          didFinishAnimating:(BOOL)finished
     previousViewControllers:(NSArray *)previous
         transitionCompleted:(BOOL)completed {
-    pane::keep(pane::ciccia, pane::colorOfCard([pages.viewControllers firstObject]));
-    pane::colorPreview(self, pane::ciccia);
+    [self showColorOf:[pages.viewControllers firstObject]];
     pane::blinkHint([previous firstObject]);
 }
 

@@ -1,5 +1,5 @@
 -- The colour cards: they go round both ways, begin at the stored colour, show it on a preview, and store nothing until
--- it is applied.
+-- it is applied; what is stored then is what is seen. They follow one another without a gap.
 local P = require("pane")
 
 local icon = { "Configuration", "Status Bar Icon", "Glow Color" }
@@ -63,14 +63,60 @@ do
   end
 end
 
--- What is not in the list opens on red; applying without a swipe stores red, whatever is shown.
+-- What is not in the list opens on red; applying without a swipe stores what is shown, on a page that is opened after
+-- another one too.
 for _, stored in ipairs{ "Red", "clear", "", "pink", 7, true, { 1 }, "blue" } do
   local phone, pane = P.start{ tint = stored }
   P.go(pane, icon)
-  expect_eq(shown(pane, icon), stored == "blue" and rgba.blue or rgba.red, string.format("stored is %s", stored))
+  local name = stored == "blue" and "blue" or "red"
+  expect_eq(shown(pane, icon), rgba[name], string.format("stored is %s", stored))
   apply(pane)
-  expect_eq(phone:settings().tint, "red", "without a swipe")
+  expect_eq(phone:settings().tint, name, "without a swipe")
+  swipe(pane, "left")
+  for _ = 1, 2 do P.back(pane) end
+  P.go(pane, { mark[2], mark[3] })
+  expect_eq(shown(pane, mark), rgba.red, "the other page has nothing stored")
+  apply(pane)
+  expect_eq(phone:settings().colors, "red", "what was swiped to on another page does not count")
   P.no_harm(phone, pane)
+end
+
+-- While a finger pulls them, one card begins where the one before ends, from edge to edge of the screen and down to its
+-- bottom.
+for _, profile in ipairs{ { "iPhone 4S", "7.1", 320, 480 }, { "iPhone 6", "8.1", 375, 667 }, { "iPhone 6 Plus", "8.3", 414, 736 } } do
+  local device, ios, width, height = table.unpack(profile)
+  for orientation, w, h in pairs{ [1] = { width, height }, [3] = { height, width } } do
+    local _, pane = P.start({ tint = "green" }, { device = device, ios = ios })
+    P.go(pane, icon)
+    if orientation ~= 1 then
+      pane:rotate(orientation)
+      pane:wait(1)
+    end
+    w, h = table.unpack(w)
+    for _, way in ipairs{ -1, 1 } do
+      pane:down{ w / 2, h - 60 }
+      for step = 1, 8 do
+        pane:move(w / 2 + way * step * w / 20, h - 60)
+        pane:wait(0.05)
+        local what = string.format("%s, held %d, %d steps: ", device, orientation, way * step)
+        local faces = {}
+        for _, view in ipairs(pane:all{ class = "UIView", visible = true }) do
+          if view.corner_radius == 40 then faces[#faces + 1] = view.screen end
+        end
+        table.sort(faces, function(a, b) return a.x < b.x end)
+        expect_eq(#faces, step == 1 and #faces or 2, what .. "two cards are in sight")
+        expect(faces[1].x <= 0 and faces[#faces].x + faces[#faces].w >= w, what .. "they reach from edge to edge")
+        for i, face in ipairs(faces) do
+          expect(face.y + face.h >= h, what .. "and down to the bottom")
+          if i > 1 then expect_near(face.x, faces[i - 1].x + faces[i - 1].w, 0.01, what .. "a gap between the cards") end
+        end
+      end
+      if way < 0 then pane:shot(string.format("%s-%d", device:gsub(" ", ""), orientation)) end
+      pane:up()
+      pane:wait(1)
+    end
+    P.no_harm(pane)
+  end
 end
 
 -- The icon's preview fades out and in without end, and goes on when the page comes back into sight.

@@ -1,6 +1,6 @@
 -- The phone turned while a code is typed: every sheet, at every step, there and back. What is asked and the four digits
 -- stand alone in the middle, at the places of that screen, above the keyboard; what was typed stays, and typing goes on.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 
 local function name(view) return view.image:match("([^/]+)%.png$"):gsub("@%dx", "") end
 

@@ -1,6 +1,6 @@
 -- The settings pane, in Italian, on a device folder in which somebody has taken texts out of the tables; Tests/Security
 -- runs it. What leads from page to page still has its label. ARGS: the folder, and installed files that are not.
-local P = dofile("lib_pane.lua")
+local P = require("pane")
 local phone, pane = P.start({ newb = true }, { root = args[1], language = "it", missing_files = { table.unpack(args, 2) } })
 
 local function alert(name)
