@@ -5,5 +5,6 @@
 // The pane's first page, and the principal class of its bundle.
 @interface PendixSettingsController : PendixListController
 - (void)addShareButton;
+- (void)showCreators;
 - (void)Tweet;
 @end

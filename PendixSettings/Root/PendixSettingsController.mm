@@ -40,7 +40,8 @@ UIImageView *titleView() {
     rows.link(@"configuration", [configurationController class],
               pendix::names::supportFile(kConfigurationIcon));
     rows.group();
-    rows.link(@"contacts", [creatorsController class], pendix::names::supportFile(kContactIcon));
+    pane::setIcon(rows.button(@"contacts", PSLinkCell, @selector(showCreators)),
+                  [UIImage imageWithContentsOfFile:pendix::names::supportFile(kContactIcon)]);
     return rows.list();
 }
 
@@ -67,6 +68,13 @@ UIImageView *titleView() {
                action:@selector(Tweet)];
     self.navigationItem.rightBarButtonItem = button;
     [button release];
+}
+
+// Presented instead of pushed: a page that another one holds turns with it.
+- (void)showCreators {
+    creatorsController *page = [creatorsController new];
+    [self presentViewController:page animated:YES completion:nil];
+    [page release];
 }
 
 - (void)Tweet {

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "PendixSettings/Core/PendixListController.h"
+#include "PendixSettings/Root/LockedUIViewController.h"
 
-// What the extension is: its name, its version, what it does.
-@interface creatorsController : PendixListController
-@end
-
-// The page's header: glyph, name and version.
-@interface creatorsHeader : PSTableCell <PSHeaderFooterView>
+// What the extension is: its name, its version, what it does. Covers everything and is left by its button.
+@interface creatorsController : LockedUIViewController
 @end

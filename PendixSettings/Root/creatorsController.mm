@@ -2,8 +2,9 @@
 
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Pattern.h"
-#include "PendixSettings/Core/Rows.h"
 #include "Tweak/Core/Names.h"
+
+#include <UIKit/UIKit.h>
 
 namespace pane = pendix::pane;
 
@@ -12,7 +13,9 @@ namespace {
 NSString *const kInfo = @"/Library/PreferenceBundles/PendixSettings.bundle/Info.plist";
 NSString *const kGlyph = @"Pendix.png";
 
-constexpr CGFloat kHeight = 156, kGlyphTop = 36, kGlyphSide = 40, kNameTop = 84, kVersionTop = 132;
+constexpr CGFloat kGlyphSide = 40, kGap = 12, kTop = 72; // below the status bar and the button
+constexpr CGFloat kButtonTop = 20, kButtonHeight = 44, kButtonMargin = 16;
+constexpr CGFloat kTextMargin = 24, kTextWidth = 420, kTextHeight = 10000; // at most
 
 NSString *version() {
     id number =
@@ -20,66 +23,65 @@ NSString *version() {
     return [NSString stringWithFormat:@"%@ %@", pane::shownText(@"version"), number];
 }
 
-UILabel *newLine(NSString *text, NSString *font, CGFloat size, UIColor *color) {
+void addLine(UIView *page, NSString *text, NSString *font, CGFloat size, UIColor *color) {
     UILabel *label = [[UILabel alloc] initWithFrame:CGRectZero];
     label.text = text;
     label.textAlignment = NSTextAlignmentCenter;
+    label.numberOfLines = 0;
     label.font = [UIFont fontWithName:font size:size];
     label.textColor = color;
-    [label sizeToFit];
-    return label;
+    [page addSubview:label];
+    [label release];
 }
 
 } // namespace
 
 @implementation creatorsController
 
-- (NSArray *)buildRows {
-    pane::Rows rows(self);
-    [rows.header(@"creatorsHeader") setProperty:pane::shownText(@"desc_contacts") forKey:@"footerText"];
-    return rows.list();
-}
-
-@end
-
-@implementation creatorsHeader
-
-- (instancetype)initWithSpecifier:(PSSpecifier *)specifier {
-    self = [super initWithStyle:UITableViewCellStyleDefault
-                reuseIdentifier:@"headerCell"
-                      specifier:specifier];
-    if (!self) return nil;
+- (void)viewDidLoad {
+    [super viewDidLoad];
+    UIView *page = self.view;
+    page.backgroundColor = [UIColor whiteColor];
     UIImageView *glyph = [[UIImageView alloc]
         initWithImage:[UIImage imageWithContentsOfFile:pendix::names::supportFile(kGlyph)]];
-    UILabel *name = newLine(@"Pendix", @"HelveticaNeue-UltraLight", 40, pane::pattern());
-    UILabel *number = newLine(version(), @"HelveticaNeue-Light", 15, [UIColor grayColor]);
-    glyph.frame = CGRectMake(0, kGlyphTop, kGlyphSide, kGlyphSide);
-    name.frame = CGRectMake(0, kNameTop, name.frame.size.width, name.frame.size.height);
-    number.frame = CGRectMake(0, kVersionTop, number.frame.size.width, number.frame.size.height);
-    UIView *const parts[] = {glyph, name, number};
-    for (UIView *view : parts) {
-        [self addSubview:view];
-        [view release];
+    glyph.frame = CGRectMake(0, 0, kGlyphSide, kGlyphSide);
+    [page addSubview:glyph];
+    [glyph release];
+    addLine(page, @"Pendix", @"HelveticaNeue-UltraLight", 40, pane::pattern());
+    addLine(page, version(), @"HelveticaNeue-Light", 15, [UIColor grayColor]);
+    addLine(page, pane::shownText(@"desc_contacts"), @"HelveticaNeue-Light", 15, [UIColor blackColor]);
+    [self addButton];
+}
+
+- (void)addButton {
+    UIButton *button = [UIButton buttonWithType:UIButtonTypeSystem];
+    [button setTitle:pane::shownText(@"cancel") forState:UIControlStateNormal];
+    [button addTarget:self action:@selector(leave) forControlEvents:UIControlEventTouchUpInside];
+    [self.view addSubview:button];
+}
+
+// Below one another in the middle, the button at the top right, for the size that it was presented in.
+- (void)viewDidLayoutSubviews {
+    [super viewDidLayoutSubviews];
+    const CGFloat width = self.view.bounds.size.width, room = width - 2 * kTextMargin;
+    CGFloat top = kTop;
+    for (UIView *part in self.view.subviews) {
+        CGSize size = part.frame.size;
+        if ([part isKindOfClass:[UIButton class]]) {
+            size = [part sizeThatFits:size];
+            part.frame =
+                CGRectMake(width - kButtonMargin - size.width, kButtonTop, size.width, kButtonHeight);
+            continue;
+        }
+        if ([part isKindOfClass:[UILabel class]])
+            size = [part sizeThatFits:CGSizeMake(room < kTextWidth ? room : kTextWidth, kTextHeight)];
+        part.frame = CGRectMake((width - size.width) / 2, top, size.width, size.height);
+        top += size.height + kGap;
     }
-    self.backgroundColor = [UIColor clearColor];
-    return self;
 }
 
-// Centred whichever way the device is held.
-- (void)layoutSubviews {
-    [super layoutSubviews];
-    for (UIView *view in self.subviews) {
-        if (![view isKindOfClass:[UILabel class]] && ![view isKindOfClass:[UIImageView class]]) continue;
-        view.center = CGPointMake(self.bounds.size.width / 2, view.center.y);
-    }
-}
-
-- (CGFloat)preferredHeightForWidth:(CGFloat)width {
-    return kHeight;
-}
-
-- (CGFloat)preferredHeightForWidth:(CGFloat)width inTableView:(id)tableView {
-    return [self preferredHeightForWidth:width];
+- (void)leave {
+    [self dismissViewControllerAnimated:YES completion:nil];
 }
 
 @end

@@ -19,7 +19,7 @@ local function visit_settings(phone)
       pane:settle()
     end
     for _ = 1, #path do
-      pane:back()
+      if path[1] == "Contact" then pane:press("Cancel") else pane:back() end
       pane:settle()
     end
   end

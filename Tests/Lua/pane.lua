@@ -49,8 +49,13 @@ function M.press(pane, title)
   M.settle(pane)
 end
 
+-- From a page that covers everything, by its button.
 function M.back(pane)
-  pane:back()
+  if pane:page().class == "creatorsController" then
+    pane:tap(pane:find{ class = "UIButton", visible = true })
+  else
+    pane:back()
+  end
   M.settle(pane)
 end
 

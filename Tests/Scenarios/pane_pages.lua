@@ -84,6 +84,26 @@ do
   expect_eq(P.row(tablet, "Apps in a Row").choices, { "1", "2", "3", "4", "5" }, "rows of the panel on an iPad")
 end
 
+-- The page behind the last row stays as it is when the device is turned; so does Settings, until it is left.
+for _, profile in ipairs{ { "iPhone 6", "8.1", 375 }, { "iPad Air", "7.1", 768 } } do
+  local _, pane = P.start({}, { device = profile[1], ios = profile[2] })
+  P.go(pane, { "Contact" })
+  local before = pane:find{ text = "Pendix", class = "UILabel", visible = true }.screen
+  for _, orientation in ipairs{ 3, 4, 1 } do
+    pane:rotate(orientation)
+    pane:settle()
+    local what = profile[1] .. ", turned to " .. orientation
+    expect_eq(pane:find{ class = "UIWindow" }.screen.w, profile[3], what .. ": the page stays upright")
+    expect_eq(pane:find{ text = "Pendix", class = "UILabel", visible = true }.screen, before, what .. ": as it is")
+  end
+  P.back(pane)
+  expect_eq(pane:page().class, "PendixSettingsController", profile[1] .. ": its button leads back")
+  pane:rotate(3)
+  pane:settle()
+  expect(pane:find{ class = "UIWindow" }.screen.w > profile[3], profile[1] .. ": the first page turns")
+  P.no_harm(pane)
+end
+
 -- Languages.
 for language, first in pairs{ it = "Attiva", es = "Enable", fr = "Enable" } do
   local phone, pane = P.start({}, { language = language })
