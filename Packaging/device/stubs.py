@@ -6,7 +6,8 @@ ARM64_LINKER = ["/usr/lib/llvm-14/bin/ld64.lld"]
 ARMV7_LINKER = ["/usr/lib/llvm-13/bin/ld64.lld.darwinold"]
 
 # What every library and bundle for the two architectures begins its link line with. 8.4 stands for the SDK.
-ARM64_LINK = [*ARM64_LINKER, "-arch", "arm64", "-platform_version", "ios", "7.0", "8.4"]
+# One thread: the file's identifier is a hash of hashes of the parts that the threads take.
+ARM64_LINK = [*ARM64_LINKER, "-arch", "arm64", "-platform_version", "ios", "7.0", "8.4", "--threads=1"]
 # The old linker leaves in the gaps between functions what its memory held: have it start from zeros.
 ARMV7_LINK = ["env", "MALLOC_PERTURB_=255", *ARMV7_LINKER, "-arch", "armv7", "-ios_version_min", "7.0", "-sdk_version", "8.4"]
 
