@@ -10,7 +10,12 @@ FILE = pathlib.Path(__file__).with_name("exports.txt")
 class Library:
     path: str
     for_pane: bool = False
+    re_exports: str = ""  # the path of the library of which it hands on all
     symbols: set[str] = dataclasses.field(default_factory=set)
+
+    @property
+    def classes(self):
+        return {symbol for symbol in self.symbols if symbol.startswith("_OBJC_CLASS_$_")}
 
     @property
     def name(self):
@@ -38,7 +43,14 @@ def read(file=FILE):
             continue
         if words[0].startswith("["):
             libraries.append(Library(words[0].strip("[]"), "pane" in words[1:]))
+            if "re-exports" in words[1:]:
+                libraries[-1].re_exports = words[-1]
             continue
         for name in words[1:]:
             libraries[-1].symbols |= spelled(words[0], name)
+    handed_on = {library.re_exports for library in libraries}
+    for library in libraries:
+        if library.path in handed_on and library.classes:
+            raise ValueError(f"classes of {library.name} stand with the library that hands them on: "
+                             f"{', '.join(sorted(library.classes))}")
     return libraries

@@ -69,6 +69,15 @@ def import_faults(file, libraries):
     yield from (f"exports {name}" for name in fixups.exported(file))
 
 
+def class_faults(file, libraries):
+    """Which of the two a class lies in that one library hands on from another, nobody has to know."""
+    owners = {library.re_exports: library.name for library in libraries if library.re_exports}
+    bound = {(b.symbol, b.library) for b in fixups.all_bindings(file) if b.symbol.startswith("_OBJC_CLASS_$_")}
+    for symbol, library in sorted(bound):
+        if library in owners:
+            yield f"{symbol} is bound to {library}, and {owners[library]} hands it on"
+
+
 def start_faults(file):
     """One constructor, which the loader runs after it has handed the classes to the runtime, and nothing earlier."""
     constructors = len(file.pointers("__mod_init_func"))
@@ -127,7 +136,8 @@ def faults(path, libraries, folder=None):
     classes, categories = sources.implementations([folder] if folder else sources.FOLDERS)
     rows = [] if folder else sources.hook_rows()
     for file in slices:
-        checks = (command_faults(file), import_faults(file, libraries), start_faults(file), code_faults(file),
+        checks = (command_faults(file), import_faults(file, libraries), class_faults(file, libraries),
+                  start_faults(file), code_faults(file),
                   metadata_faults(file, classes, categories, rows), sign.faults(file))
         found += [f"{file.architecture}: {fault}" for check in checks for fault in check]
     for other in slices[1:]:

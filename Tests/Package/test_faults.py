@@ -25,8 +25,9 @@ ROWS, SUPERCLASSES, METHODS = built.body()
 
 def gate(file, libraries=LIBRARIES):
     classes, categories = sources.implementations()
-    checks = (load_gate.command_faults(file), load_gate.import_faults(file, libraries), load_gate.start_faults(file),
-              load_gate.code_faults(file), load_gate.metadata_faults(file, classes, categories, sources.hook_rows()),
+    checks = (load_gate.command_faults(file), load_gate.import_faults(file, libraries),
+              load_gate.class_faults(file, libraries), load_gate.start_faults(file), load_gate.code_faults(file),
+              load_gate.metadata_faults(file, classes, categories, sources.hook_rows()),
               sign.faults(file))
     return "\n".join(fault for check in checks for fault in check)
 
@@ -72,6 +73,24 @@ class Gate(unittest.TestCase):
         next(library for library in libraries if library.name == "Foundation").symbols.remove("_NSLog")
         for file in self.files:
             self.assertIn("import not in the list", gate(file, libraries))
+
+    def test_a_class_that_is_bound_past_the_library_that_hands_it_on(self):
+        foundation = next(library for library in LIBRARIES if library.re_exports)
+        libraries = copy.deepcopy(LIBRARIES)
+        for library in libraries:
+            # As if another one handed on what Foundation has.
+            library.re_exports = foundation.path if library.name == "UIKit" else ""
+        for file in self.files:
+            self.assertIn("_OBJC_CLASS_$_NSArray is bound to", gate(file, libraries))
+
+    def test_a_class_that_stands_with_the_wrong_library(self):
+        text = exports.FILE.read_text("utf-8")
+        core = "[/System/Library/Frameworks/CoreFoundation.framework/CoreFoundation]\n"
+        with tempfile.TemporaryDirectory() as folder:
+            wrong = pathlib.Path(folder) / "exports.txt"
+            wrong.write_text(text.replace(core, core + "class NSRunLoop\n"), "utf-8")
+            with self.assertRaisesRegex(ValueError, "NSRunLoop"):
+                exports.read(wrong)
 
     def test_a_class_that_is_lost(self):
         for file in self.files:
@@ -141,6 +160,7 @@ class Package(unittest.TestCase):
         f"{SUPPORT}Languages/it.plist": "fewer than three languages",
         "Library/PreferenceBundles/PendixSettings.bundle/Info.plist": "Info.plist lacks",
         "DEBIAN/postinst": "other control files",
+        "Library/Activator/Listeners/org.quillhub.Pendix/Icon-small.png": "Activator looks for",
     }
 
     def check(self, root, folder):
@@ -162,6 +182,18 @@ class Package(unittest.TestCase):
                 kept = (root / path).rename(pathlib.Path(folder) / "kept")
                 self.assertIn(fault, self.check(root, folder), path)
                 kept.rename(root / path)
+
+    def test_a_foreign_homepage_and_icons_of_another_size(self):
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder) / "root"
+            shutil.copytree(built.PACKAGE / "root", root)
+            control, listener = root / "DEBIAN/control", root / "Library/Activator/Listeners/org.quillhub.Pendix"
+            control.write_text(control.read_text().replace("https://quillhub.org", "https://quillhub.org.example"))
+            for scale in ("", "@2x", "@3x"):
+                shutil.copy(listener / f"Icon{scale}.png", listener / f"Icon-small{scale}.png")
+            report = self.check(root, folder)
+            self.assertIn("the homepage is not one of quillhub.org", report)
+            self.assertIn("Icon-small.png is not 29 points square", report)
 
     def test_a_file_of_the_user_and_a_wrong_mode(self):
         with tempfile.TemporaryDirectory() as folder:
