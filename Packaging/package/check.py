@@ -17,7 +17,8 @@ import macho  # noqa: E402
 import objc_metadata  # noqa: E402
 import sources  # noqa: E402
 
-FIELDS = "Package Name Version Architecture Section Maintainer Author Depends Description Installed-Size".split()
+FIELDS = """Package Name Version Architecture Section Maintainer Author Homepage Depends Description
+    Installed-Size""".split()
 # What the package managers of the era offer, as the package depends on it.
 KNOWN = {"firmware", "mobilesubstrate", "preferenceloader", "libactivator", "applist", "libstatusbar"}
 MEMBERS = ["debian-binary", "control.tar.gz", "data.tar.gz"]  # the devices' dpkg reads no other compression
@@ -28,6 +29,7 @@ FILTER = LIBRARY.replace(".dylib", ".plist")
 BUNDLE = "/Library/PreferenceBundles/PendixSettings.bundle/"
 ENTRY = "/Library/PreferenceLoader/Preferences/PendixSettings.plist"
 LISTENER = "/Library/Activator/Listeners/org.quillhub.Pendix/Info.plist"
+LISTENER_ICONS = {"Icon": 60, "Icon-small": 29}  # points, as Activator shows them
 LANGUAGES = "/Library/Application Support/Pendix/Languages/"
 STATUS_BAR = "/System/Library/Frameworks/UIKit.framework/"
 GLYPHS = {STATUS_BAR + style + name for style in ("Black_", "LockScreen_") for name in ("Pendix", "PendixSwitcher")}
@@ -49,6 +51,9 @@ def control_faults(package):
         match = re.fullmatch(r"\s*([a-z0-9.+-]+)(?: \((?:<<|<=|=|>=|>>) [0-9.]+\))?", dependency)
         if not match or match[1] not in KNOWN:
             yield f"a dependency that nobody offers: {dependency.strip()}"
+    domain = ".".join(reversed(fields.get("Package", "").split(".")[:2]))
+    if not re.fullmatch(rf"https?://{re.escape(domain)}/\S*", fields.get("Homepage", "")):
+        yield f"the homepage is not one of {domain}, which the identifier names"
     if package.members != MEMBERS:
         yield f"other members than {', '.join(MEMBERS)}: {', '.join(package.members)}"
 
@@ -140,6 +145,16 @@ def size_of(png):
     return tuple(int.from_bytes(png[at : at + 4], "big") for at in (16, 20))
 
 
+def listener_icon_faults(contents):
+    folder = LISTENER.rsplit("/", 1)[0]
+    for name, side in LISTENER_ICONS.items():
+        path = f"{folder}/{name}.png"
+        if path not in contents.pictures:
+            yield f"Activator looks for {path}"
+        elif size_of(contents.package.system.read(path)) != (side, side):
+            yield f"{path} is not {side} points square"
+
+
 def picture_faults(contents):
     plain = {re.sub(r"(@[23]x)?\.png$", "", path) for path in contents.pictures}
     yield from (f"the status bar looks for {path}.png" for path in sorted(GLYPHS - plain))
@@ -178,7 +193,8 @@ def main():
     package = deb.Package(sys.argv[1])
     contents = Contents(package)
     checks = (control_faults(package), script_faults(package), file_faults(package), plist_faults(contents),
-              language_faults(contents), picture_faults(contents), code_faults(contents))
+              language_faults(contents), picture_faults(contents), listener_icon_faults(contents),
+              code_faults(contents))
     faults = [fault for check in checks for fault in check]
     lacking, allowed = missing_classes(contents), not_yet()
     faults += [f"the class {name} is named, and a slice lacks it" for name in sorted(lacking - set(allowed))]
