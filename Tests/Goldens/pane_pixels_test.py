@@ -14,7 +14,7 @@ sys.path.insert(0, str(HERE.parent / "Resources"))
 
 from picture import Picture  # noqa: E402
 
-SCRIPT = HERE.parent / "Goldens/pane_pixels.lua"
+SCRIPT = HERE / "pane_pixels.lua"
 COLORS = [(255, 0, 0), (255, 128, 0), (255, 255, 0), (0, 255, 0), (0, 255, 255), (0, 0, 255), (255, 0, 255),
           (128, 0, 128), (153, 102, 51), (128, 128, 128), (0, 0, 0), (255, 255, 255)]
 PAGE = (239, 239, 244)
