@@ -50,4 +50,5 @@ enum { UIButtonTypeCustom = 0, UIButtonTypeSystem = 1 };
 }
 - (void)setTitle:(NSString *)title forState:(UIControlState)state;
 - (void)setTitleColor:(UIColor *)color forState:(UIControlState)state;
++ (instancetype)buttonWithType:(UIButtonType)type;
 @end

@@ -10,4 +10,5 @@
     void *_responderState;
 }
 - (BOOL)becomeFirstResponder;
+- (UIResponder *)nextResponder;
 @end

@@ -31,6 +31,8 @@ enum {
 // Goes into the navigation item too.
 @property (nonatomic, copy) NSString *title;
 - (void)viewWillAppear:(BOOL)animated;
+- (void)viewDidLoad;
+- (void)viewDidLayoutSubviews;
 @end
 
 // Over the whole window, sliding up from below. A presentation is kept by the presenting controller; asking

@@ -5,12 +5,10 @@
 
 @interface UIViewController (Further)
 - (void)loadView;
-- (void)viewDidLoad;
 - (void)viewDidAppear:(BOOL)animated;
 - (void)viewWillDisappear:(BOOL)animated;
 - (void)viewDidDisappear:(BOOL)animated;
 - (void)viewWillLayoutSubviews;
-- (void)viewDidLayoutSubviews;
 - (BOOL)isViewLoaded;
 @property (nonatomic, readonly) UIViewController *parentViewController;
 @property (nonatomic, readonly) NSArray *childViewControllers;

@@ -18,7 +18,6 @@
 @end
 
 @interface UIButton (Further)
-+ (instancetype)buttonWithType:(UIButtonType)type;
 - (NSString *)titleForState:(UIControlState)state;
 - (UIColor *)titleColorForState:(UIControlState)state;
 @property (nonatomic, readonly, retain) UILabel *titleLabel;

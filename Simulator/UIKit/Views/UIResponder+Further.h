@@ -4,7 +4,6 @@
 #include <UIKit/UIResponder.h>
 
 @interface UIResponder (Further)
-- (UIResponder *)nextResponder;
 - (BOOL)resignFirstResponder;
 - (BOOL)isFirstResponder;
 - (BOOL)canBecomeFirstResponder;
