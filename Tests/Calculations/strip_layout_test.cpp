@@ -110,10 +110,34 @@ TEST(StripLayout, CentresTheDots) {
     EXPECT_EQ(dotsFrame(1, 256), (Rect{118, 7, 20, 11}));
     EXPECT_EQ(dotsFrame(3, 256), (Rect{102, 7, 52, 11}));
     EXPECT_EQ(dotsFrame(2, 300), (Rect{132, 7, 36, 11}));
-    EXPECT_EQ(dotFrame(0), (Rect{10, 2.5, 6, 6}));
-    EXPECT_EQ(dotFrame(2), (Rect{42, 2.5, 6, 6}));
-    Rect row = dotsFrame(5, 256), last = dotFrame(4);
+    const Real step = dotStep(5, 256);
+    EXPECT_EQ(dotFrame(0, step), (Rect{10, 2.5, 6, 6}));
+    EXPECT_EQ(dotFrame(2, step), (Rect{42, 2.5, 6, 6}));
+    Rect row = dotsFrame(5, 256), last = dotFrame(4, step);
     EXPECT_EQ(row.width - last.x - last.width, 4) << "less margin on the right than on the left";
+}
+
+// However many pages there are, their dots stay in the row, the row in the panel, and the dots apart.
+TEST(StripLayout, FitsManyDotsIntoThePanel) {
+    for (Real width : {256.0f, 300.0f, 614.4f}) {
+        for (int pages = 1; pages <= 100; ++pages) {
+            const Rect row = dotsFrame(pages, width);
+            EXPECT_GE(row.x, 0) << pages;
+            EXPECT_LE(row.x + row.width, width + 0.01) << pages;
+            for (int page = 0; page < pages; ++page) {
+                const Rect dot = dotFrame(page, dotStep(pages, width));
+                EXPECT_GT(dot.width, 1) << page << " of " << pages;
+                EXPECT_NEAR(dot.y + dot.height / 2, 5.5, 0.001) << page << " of " << pages;
+                EXPECT_LE(dot.x + dot.width, row.width - 3.9) << page << " of " << pages;
+                if (page > 0) {
+                    const Rect before = dotFrame(page - 1, dotStep(pages, width));
+                    EXPECT_LT(before.x + before.width, dot.x) << page << " of " << pages;
+                }
+            }
+        }
+    }
+    EXPECT_EQ(dotStep(15, 256), 16) << "the last that fit with the usual step";
+    EXPECT_LT(dotStep(16, 256), 16);
 }
 
 } // namespace

@@ -43,6 +43,13 @@ function P.content(phone)
   return content(phone)
 end
 
+-- Of several alike, the one that is not hidden.
+function P.seen(phone, tag)
+  for _, view in ipairs(phone:all{ parent = P.content(phone), tag = tag }) do
+    if not view.hidden then return view end
+  end
+end
+
 -- The text that the empty strip shows.
 function P.empty_text(phone)
   local list = {}
@@ -83,6 +90,35 @@ function P.closed(phone)
   for _, view in ipairs(phone:all{ window = "statusbar", class = "UIStatusBarItemView" }) do
     if view.x ~= own then expect_eq(view.alpha, 1, "the status bar is itself again") end
   end
+end
+
+-- The middle of a view or a point, as a point.
+function P.middle(at)
+  if at.screen then return { at.screen.x + at.screen.w / 2, at.screen.y + at.screen.h / 2 } end
+  return at
+end
+-- A finger, the first unless `finger` tells which, comes down there and goes that way, but does not lift.
+function P.slide(phone, at, dx, dy, seconds, finger)
+  local from = P.middle(at)
+  phone:down(from, finger or 1)
+  P.slide_on(phone, from, dx, dy, seconds, finger)
+end
+-- The same for a finger that is down there already.
+function P.slide_on(phone, at, dx, dy, seconds, finger)
+  local from, steps = P.middle(at), math.max(1, math.floor(seconds * 60 + 0.5))
+  for step = 1, steps do
+    phone:wait(1 / 60)
+    phone:move(from[1] + dx * step / steps, from[2] + dy * step / steps, finger or 1)
+  end
+end
+
+-- How often home clicks went past the panel, to the system.
+function P.clicks_passed(phone)
+  local n = 0
+  for _, event in ipairs(phone:events("original")) do
+    if event.selector == "clickedMenuButton" then n = n + 1 end
+  end
+  return n
 end
 
 -- Events of that kind since `mark`, which is a number of events.

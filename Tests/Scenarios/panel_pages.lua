@@ -107,3 +107,47 @@ expect(P.strip(phone).scroll.x > 100, "an unpaged strip scrolls freely")
 expect_eq(P.part(phone, P.tag.dots), nil, "without dots")
 expect_eq(P.strip(phone).scroll.content_w, 19 + 7 * 79, "seven in a row and a margin")
 P.no_harm(phone)
+
+-- However many pages there are, their dots stay inside the panel, apart and on one line; up to fifteen are sixteen points
+-- from one another.
+local function row(phone, what)
+  local dots, last = P.part(phone, P.tag.dots), nil
+  expect(dots.x >= 0 and dots.x + dots.w <= 256.01, what .. ": the row stays in the panel")
+  for _, dot in ipairs(dots.children) do
+    expect(dot.x + dot.w <= dots.w - 3.9, what .. ": a dot stays in the row")
+    expect_near(dot.y + dot.h / 2, 5.5, 0.01, what .. ": on its line")
+    expect_near(dot.corner_radius, dot.w / 2, 0.01, what .. ": round")
+    expect(not last or dot.x > last.x + last.w + 0.5, what .. ": apart from the one before")
+    last = dot
+  end
+  return #dots.children, dots.children[2].x - dots.children[1].x
+end
+for _, case in ipairs{ { 45, "3", 15 }, { 46, "3", 16 }, { 40, "1", 40 } } do
+  local what = case[3] .. " pages"
+  phone = P.boot({ paging = true, amount = case[2], close = true }, { apps = P.numbered(case[1]) })
+  P.open(phone)
+  local count, step = row(phone, what)
+  expect_eq(count, case[3], what)
+  expect(case[3] > 15 and step < 16 or step == 16, what .. ": step")
+end
+phone = P.boot({ paging = true, close = true }, { apps = P.numbered(46) })
+P.open(phone)
+P.long_press(phone, P.items(phone)[1])
+phone:tap(P.sub(phone, P.items(phone)[1], P.tag.mark))
+phone:settle()
+local count, step = row(phone, "one less")
+expect_eq({ count, step }, { 15, 16 }, "one less: fifteen as ever")
+
+-- A page counts as shown once it is reached: held beyond its middle the one before still is. (Closing looks anew.)
+local last = P.items(phone)[3]
+mark = P.mark(phone)
+phone:tap(P.sub(phone, last, P.tag.mark))
+P.slide(phone, { 160, 120 }, -170, 0, 0.1)
+phone:wait(1)
+expect(P.strip(phone).scroll.x > 128 and P.strip(phone).scroll.x < 255, "the strip is held between two pages")
+expect_eq(#P.since(phone, mark, "badge_set"), 1, "while one was closed")
+expect_eq(P.part(phone, P.tag.dots).children[1].background, "#ffffffff", "the page that it leaves is shown")
+phone:up()
+phone:settle()
+expect_eq(P.part(phone, P.tag.dots).children[2].background, "#ffffffff", "and the next one when it has come")
+P.no_harm(phone)

@@ -1,9 +1,8 @@
-// Which applications the panel lists, and their views on the strip.
+// Which applications the panel lists.
 #include "Tweak/Panel/PanelBuild.h"
 
 #include "Tweak/Core/Applications.h"
 #include "Tweak/Core/Names.h"
-#include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
@@ -94,21 +93,15 @@ BOOL find(NSString *identifier, BOOL running, NSString *foreground, Placeholder 
 
 } // namespace
 
-void addApplications(PanelBuild &build) {
+std::vector<PanelApplication> listedApplications(BOOL running) {
     Placeholder placeholder;
     NSString *foreground = foregroundIdentifier();
-    for (NSString *identifier in candidates(build.running)) {
+    std::vector<PanelApplication> listed;
+    for (NSString *identifier in candidates(running)) {
         PanelApplication application;
-        if (find(identifier, build.running, foreground, placeholder, application))
-            addItem(build, application, build.count++);
+        if (find(identifier, running, foreground, placeholder, application)) listed.push_back(application);
     }
-    Real content =
-        build.paging ? static_cast<Real>(pageCount(build.count, build.layout.rows)) * build.layout.strip.width
-                     : 0;
-    if (!build.paging && build.count > 0)
-        content = unpagedContentWidth({cellFrame(build.layout, 0), cellFrame(build.layout, build.count - 1)});
-    build.strip.contentSize =
-        CGSizeMake(scrollableWidth(content, build.layout.strip.width), build.layout.strip.height);
+    return listed;
 }
 
 } // namespace pendix

@@ -17,7 +17,6 @@ namespace pendix {
 
 namespace {
 
-constexpr CGFloat kDotRadius = 3;
 constexpr CGFloat kDotsAbove = 1; // z position: above the strip, which comes after them among the subviews
 constexpr float kOpening = 0.5f;  // seconds
 constexpr CFTimeInterval kRounding = 0.5; // seconds
@@ -25,20 +24,29 @@ constexpr CFTimeInterval kRounding = 0.5; // seconds
 } // namespace
 
 void addPageDots(PanelBuild &build) {
-    int pages = build.paging ? pageCount(build.count, build.layout.rows) : 0;
     if (pages == 0) return;
-    CGRect frame = toCGRect(dotsFrame(pages, build.content.frame.size.width));
-    UIView *dots = [[[UIView alloc] initWithFrame:frame] autorelease];
+    UIView *dots = [[[UIView alloc] initWithFrame:CGRectZero] autorelease];
     dots.tag = tags::pageDots;
-    for (int page = 0; page < pages; ++page) {
-        UIView *dot = [[UIView alloc] initWithFrame:toCGRect(dotFrame(page))];
+    for (NSInteger page = 0; page < pages; ++page) {
+        UIView *dot = [[UIView alloc] initWithFrame:CGRectZero];
         dot.tag = page;
-        dot.layer.cornerRadius = kDotRadius;
         dot.backgroundColor = page == 0 ? build.scheme.ink : [UIColor grayColor];
         [dots addSubview:dot];
         [dot release];
     }
+    placeDots(dots, build.content.frame.size.width);
     build.dots = dots;
+}
+
+void placeDots(UIView *dots, CGFloat width) {
+    const int count = static_cast<int>(pages);
+    CGRect row = toCGRect(dotsFrame(count, width));
+    if (dots.superview) row.origin.y = dots.frame.origin.y; // lower while the question stands
+    dots.frame = row;
+    for (UIView *dot in dots.subviews) {
+        dot.frame = toCGRect(dotFrame(static_cast<int>(dot.tag), dotStep(count, width)));
+        dot.layer.cornerRadius = dot.frame.size.width / 2;
+    }
 }
 
 UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink) {

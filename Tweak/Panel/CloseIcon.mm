@@ -62,23 +62,19 @@ void closeUp(const Rect &removed, int index, int rows) {
     for (NSUInteger i = 0; i < [items count]; ++i) moveTo([items objectAtIndex:i], moved[i]);
 }
 
-void updateDots(int count, int rows) {
+void updateDots() {
     UIView *dots = pageDotsView();
-    const int pageTotal = pageCount(count, rows);
     for (UIView *dot in dots.subviews)
-        if (dot.tag >= pageTotal) [dot removeFromSuperview];
-    if (pageTotal == 0) return;
-    CGRect row = toCGRect(dotsFrame(pageTotal, dots.superview.frame.size.width));
-    row.origin.y = dots.frame.origin.y;
-    dots.frame = row;
-    for (UIView *dot in dots.subviews) dot.frame = toCGRect(dotFrame(static_cast<int>(dot.tag)));
+        if (dot.tag >= pages) [dot removeFromSuperview];
+    if (pages != 0) placeDots(dots, dots.superview.frame.size.width);
 }
 
 void updateContent(int rows) {
     BOOL paging = isOn(keys::paging);
     NewUIScrollView *scroller = (NewUIScrollView *)strip();
     std::vector<Rect> cells = restingFrames(itemViews());
-    if (paging) updateDots(static_cast<int>(cells.size()), rows);
+    pages = paging ? pageCount(static_cast<int>(cells.size()), rows) : 0;
+    if (paging) updateDots();
     CGSize size = scroller.contentSize;
     size.width = contentWidthAfterClosing(cells, paging, rows, scroller.frame.size.width);
     scroller.contentSize = size;

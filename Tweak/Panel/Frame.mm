@@ -79,4 +79,15 @@ void addContentAndStrip(PanelBuild &build) {
     build.strip = strip;
 }
 
+void fillStrip(PanelBuild &build, const std::vector<PanelApplication> &applications) {
+    const StripInput &layout = build.layout;
+    build.count = static_cast<int>(applications.size());
+    pages = build.paging ? pageCount(build.count, layout.rows) : 0;
+    for (int i = 0; i < build.count; ++i) addItem(build, applications[static_cast<std::size_t>(i)], i);
+    Real content = static_cast<Real>(pages) * layout.strip.width;
+    if (!build.paging && build.count > 0)
+        content = unpagedContentWidth({cellFrame(layout, 0), cellFrame(layout, build.count - 1)});
+    build.strip.contentSize = CGSizeMake(scrollableWidth(content, layout.strip.width), layout.strip.height);
+}
+
 } // namespace pendix

@@ -11,6 +11,8 @@
 #include <SpringBoard/SpringBoard.h>
 #include <UIKit/UIKit.h>
 
+#include <vector>
+
 namespace pendix {
 
 struct PanelBuild {
@@ -43,7 +45,6 @@ struct PanelBuild {
 void addBubbleAndPanel(PanelBuild &build);
 void addLogo(PanelBuild &build);
 void addContentAndStrip(PanelBuild &build);
-void addApplications(PanelBuild &build);
 void addPageDots(PanelBuild &build);
 void fillEmptyStrip(PanelBuild &build);
 void fitCards(PanelBuild &build);
@@ -58,6 +59,12 @@ struct PanelApplication {
     SBIconView *iconView;
 };
 
+// Those that the panel lists, in the order of the strip: running ones, or those with a badge.
+std::vector<PanelApplication> listedApplications(BOOL running);
+
+// Builds their item views into the strip, and sets how far it scrolls and how many pages it has.
+void fillStrip(PanelBuild &build, const std::vector<PanelApplication> &applications);
+
 // Builds the application's item view into the strip, as the one at `index`.
 void addItem(PanelBuild &build, const PanelApplication &application, int index);
 
@@ -66,6 +73,9 @@ void makeCard(PanelBuild &build, const PanelApplication &application, UIView *it
               UIImageView *iconImage);
 void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame);
 void drawClock(UIView *itemView, UIView *iconImage);
+
+// Lays the row of dots out for `pages` in a content view of that width.
+void placeDots(UIView *dots, CGFloat width);
 
 // Says over the whole strip that there is nothing to show; empties `datas`.
 UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink);

@@ -68,7 +68,7 @@ void added::prepareUI(SpringBoard *self, SEL, UIStatusBarItemView *item) {
     addBubbleAndPanel(build);
     addLogo(build);
     addContentAndStrip(build);
-    addApplications(build);
+    fillStrip(build, listedApplications(build.running));
     addPageDots(build);
     fillEmptyStrip(build);
     assemble(build);

@@ -39,7 +39,8 @@ void layout(results::Report report, const StripInput &input) {
 } // namespace
 
 void results::strip(Report report) {
-    for (int page = 0; page < 4; ++page) reportRect(report, "dotFrame", dotFrame(page));
+    for (int page = 0; page < 4; ++page) reportRect(report, "dotFrame", dotFrame(page, dotStep(4, 256)));
+    for (int page = 0; page < 4; ++page) reportRect(report, "dotFrame", dotFrame(page, dotStep(20, 256)));
     for (bool paging : {false, true}) {
         report("stripHeight", stripHeight(60, paging));
         for (int rows = 1; rows <= 5; ++rows) {

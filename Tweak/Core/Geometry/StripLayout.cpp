@@ -1,5 +1,7 @@
 #include "Tweak/Core/Geometry/StripLayout.hpp"
 
+#include <algorithm>
+
 namespace pendix {
 
 namespace {
@@ -12,7 +14,8 @@ constexpr Real kLabelRoom = 10;
 constexpr Real kTightInset = 3;
 constexpr int kRoomyRows = 3;
 
-constexpr Real kDotStep = 16, kDotMargin = 10, kDotTop = 2.5, kDotSize = 6;
+constexpr Real kDotStep = 16, kDotMargin = 10, kDotMiddle = 5.5, kDotSize = 6;
+constexpr Real kDotShare = 0.75; // of the step, that a dot takes at most
 constexpr Real kDotsTop = 7, kDotsHeight = 11, kDotsBeyond = 20;
 
 } // namespace
@@ -45,12 +48,18 @@ Real unpagedContentWidth(const std::vector<Rect> &cells) {
 }
 
 Rect dotsFrame(int pages, Real contentWidth) {
-    const Real width = static_cast<Real>(pages - 1) * kDotStep + kDotsBeyond;
+    const Real width = static_cast<Real>(pages - 1) * dotStep(pages, contentWidth) + kDotsBeyond;
     return {(contentWidth - width) / 2, kDotsTop, width, kDotsHeight};
 }
 
-Rect dotFrame(int page) {
-    return {static_cast<Real>(page) * kDotStep + kDotMargin, kDotTop, kDotSize, kDotSize};
+Real dotStep(int pages, Real contentWidth) {
+    if (pages < 2) return kDotStep;
+    return std::min(kDotStep, (contentWidth - kDotsBeyond) / static_cast<Real>(pages - 1));
+}
+
+Rect dotFrame(int page, Real step) {
+    const Real size = std::min(kDotSize, step * kDotShare);
+    return {static_cast<Real>(page) * step + kDotMargin, kDotMiddle - size / 2, size, size};
 }
 
 } // namespace pendix

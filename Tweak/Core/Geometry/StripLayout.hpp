@@ -33,8 +33,12 @@ Real scrollableWidth(Real content, Real stripWidth);
 Real unpagedContentWidth(const std::vector<Rect> &cells);
 
 // The row of page dots in a content view of that width: four points of margin on the right of the last dot,
-// ten on the left of the first.
+// ten on the left of the first. A row that would be wider than the content view is as wide as it.
 Rect dotsFrame(int pages, Real contentWidth);
-Rect dotFrame(int page);
+// From one dot to the next: 16, or what leaves room for all of them.
+Real dotStep(int pages, Real contentWidth);
+// In the row. Dots that stand closer than eight points are smaller than the usual six, so that they stay
+// apart.
+Rect dotFrame(int page, Real step);
 
 } // namespace pendix
