@@ -1,11 +1,24 @@
--- The Clock's icon is a clock: its hands start at the time of day and turn, except behind page dots.
+-- The Clock's icon is a clock: its hands show the time of day and turn; behind page dots they stay at the time of the
+-- opening.
 local P = require("panel")
 local apps = { { id = P.clock, name = "Clock", badge = 1, running = true }, P.numbered(1)[1] }
 local second, minute, hour = 1000, 1001, 1002
 local function hand(phone, tag)
   local face = P.sub(phone, P.must(P.sub(phone, P.strip(phone), P.tag.clock), "the Clock has its tag"), P.tag.icon)
   local view = P.must(P.sub(phone, face, tag), "hand " .. tag)
-  return view, view.animations[1]
+  return view, view.animations[1], face
+end
+-- Where a hand lies that is so wide and long and points so many degrees from twelve, its end in the middle of the face.
+local function points(view, face, width, length, degrees, what)
+  local sine, cosine = math.sin(math.rad(degrees)), math.cos(math.rad(degrees))
+  local x, y = {}, {}
+  for _, corner in ipairs{ { -width / 2, 0 }, { width / 2, 0 }, { -width / 2, -length }, { width / 2, -length } } do
+    x[#x + 1] = corner[1] * cosine - corner[2] * sine + face.w / 2
+    y[#y + 1] = corner[1] * sine + corner[2] * cosine + face.h / 2
+  end
+  table.sort(x)
+  table.sort(y)
+  P.near(view, { x[1], y[1], x[4] - x[1], y[4] - y[1] }, what)
 end
 
 -- The panel has opened 0.6 s after the time given, and starts the hands anew then. Degrees: six a second; six a minute
@@ -22,14 +35,8 @@ for _, case in ipairs{ { "2015-03-01 10:20:30", 180, 123, 310 }, { "2015-03-01 0
     expect_near(math.deg(turn.to - turn.from), 360, 0.001, what .. "and goes all the way round")
     expect_eq({ turn.key, turn.keypath, turn.duration, turn.repeats },
       { "rotate", "transform.rotation.z", each[2], math.huge }, what .. "for ever")
-    -- All turn around the middle of the icon, which is 60 wide.
-    expect_near(view.y + view.h, 30, 0.01, what .. "its lower end is in the middle")
-    expect_near(view.x + view.w / 2, 30, 0.01, what .. "from either side")
+    expect_eq(view.background, each[1] == second and "#ff0000ff" or "#000000ff", what .. "colour")
   end
-  local red, black = hand(phone, second), hand(phone, minute)
-  expect_eq({ red.background, red.w, red.h }, { "#ff0000ff", 1, 24 }, what .. "the second hand")
-  expect_eq({ black.background, black.w }, { "#000000ff", 2 }, what .. "the minute hand")
-  expect_near(hand(phone, hour).h, 15, 0.01, what .. "the hour hand, a quarter of the face")
   -- A quarter of a minute on, the second hand has turned by a right angle: it points to the side.
   if case[2] == 180 then
     phone:wait(15)
@@ -40,14 +47,23 @@ for _, case in ipairs{ { "2015-03-01 10:20:30", 180, 123, 310 }, { "2015-03-01 0
   P.no_harm(phone)
 end
 
-local phone = P.boot({ paging = true }, { apps = apps })
-P.open(phone)
-for _, tag in ipairs{ second, minute, hour } do
-  local _, turn = hand(phone, tag)
-  expect_eq(turn, nil, "behind page dots the hands stand still")
+-- Drawn they show the time already: the second hand is half a face long but for 6, the hour hand a quarter. On a card
+-- the card is the face: 60 by 106.5, 76 by 101 1/3.
+for _, case in ipairs{ { "icon", {}, "iPhone 5s", 60, 60 }, { "paged", { paging = true }, "iPhone 5s", 60, 60 },
+  { "card", { ca = true }, "iPhone 5s", 60, 106.5 }, { "paged card", { ca = true, paging = true }, "iPad Air 2", 76, 101.33 },
+  { "behind a lock", { paging = true, pass = true, password = "1234" }, "iPhone 5s", 60, 60 } } do
+  local what, width = case[1], case[4]
+  local phone = P.boot(case[2], { device = case[3], apps = apps })
+  P.open(phone)
+  local red, turn, face = hand(phone, second)
+  expect_near(face.w, width, 0.01, what .. ": width of the face")
+  expect_near(face.h, case[5], 0.01, what .. ": height")
+  points(red, face, 1, width / 2 - 6, 180, what .. ": 30 seconds")
+  points(hand(phone, minute), face, 2, width / 2 - 9, 123, what .. ": 20 minutes and a half")
+  points(hand(phone, hour), face, 2, width / 4, 310, what .. ": 20 past 10")
+  expect_eq(turn == nil, case[2].paging or false, what .. ": behind page dots the hands stand still")
 end
-P.close(phone)
 -- Nobody else has a clock.
-phone = P.boot()
+local phone = P.boot()
 P.open(phone)
 expect_eq(phone:find{ window = "overlay", tag = second }, nil, "other icons are no clocks")

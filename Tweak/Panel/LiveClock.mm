@@ -2,6 +2,7 @@
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/PanelBuild.h"
 #include "Tweak/Panel/Replacements.h"
 
 #include <math.h>
@@ -33,7 +34,7 @@ void turn(SpringBoard *springBoard, UIView *hand, float start, CFTimeInterval du
 
 } // namespace
 
-void added::liveClock(SpringBoard *self, SEL) {
+void readClock() {
     NSDateFormatter *formatter = [NSDateFormatter new];
     NSDate *now = [NSDate date];
     ss = part(now, formatter, @"ss");
@@ -45,9 +46,12 @@ void added::liveClock(SpringBoard *self, SEL) {
     lastRotation = angles.second;
     lastRotation1 = angles.minute;
     lastRotation2 = angles.hour;
+}
 
+void added::liveClock(SpringBoard *self, SEL) {
+    readClock();
     // The content view's first subview is the strip only in an unpaged panel; behind page dots the hands
-    // stand still.
+    // stand as they were drawn.
     NSArray *views = [[[window viewWithTag:tags::panel] viewWithTag:tags::content] subviews];
     UIView *clock = [[views count] ? [views objectAtIndex:0] : nil viewWithTag:tags::clockItem];
     turn(self, [clock viewWithTag:tags::secondHand], lastRotation, kMinute);

@@ -74,6 +74,9 @@ void makeCard(PanelBuild &build, const PanelApplication &application, UIView *it
 void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame);
 void drawClock(UIView *itemView, UIView *iconImage);
 
+// Sets the clock's variables in State.h to this moment.
+void readClock();
+
 // Lays the row of dots out for `pages` in a content view of that width.
 void placeDots(UIView *dots, CGFloat width);
 
