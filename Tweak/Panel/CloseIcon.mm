@@ -13,6 +13,7 @@
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/CloseMarks.h"
+#include "Tweak/Panel/ItemCollapse.h"
 #include "Tweak/Panel/ItemState.h"
 #include "Tweak/Panel/NewUIScrollView.h"
 #include "Tweak/Panel/PanelBuild.h"
@@ -31,15 +32,6 @@ Rect restingFrame(UIView *item) {
     Rect frame = toRect(item.frame);
     frame.y = itemState::restingY(item);
     return frame;
-}
-
-void shrinkToCentre(UIView *view) {
-    CGSize size = view.bounds.size;
-    for (UIView *part in view.subviews) {
-        for (UIView *inner in part.subviews)
-            inner.frame = CGRectMake(part.frame.size.width * 0.5, part.frame.size.height * 0.5, 0, 0);
-        part.frame = CGRectMake(size.width * 0.5, size.height * 0.5, 0, 0);
-    }
 }
 
 std::vector<Rect> restingFrames(NSArray *items) {
@@ -138,6 +130,7 @@ void added::closeIcon(SpringBoard *, SEL, UIView *item) {
     itemState::setClosing(item);
     NSString *identifier = [[item.layer.name copy] autorelease];
     [datas removeObject:identifier];
+    separateShadow(item);
     [UIView animateWithDuration:animationDuration(kStep)
         animations:^{ shrinkToCentre(item); }
         completion:^(BOOL) { removeFromStrip(item, identifier); }];
