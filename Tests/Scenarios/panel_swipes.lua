@@ -69,11 +69,15 @@ phone:settle()
 P.near(P.item(phone, item.name), P.frame(item), "dragged back it stays")
 nothing_happened(phone, mark, "there and back")
 
--- A long press on an item that is being dragged is none.
+-- A long press on an item that is being dragged is none, nor is another finger's on another item.
 phone:down{ x, y }
 for step = 1, 5 do phone:move(x, y + 4 * step) phone:wait(1 / 60) end
 phone:wait(2)
 expect_eq(P.part(phone, P.tag.text), nil, "no question during a drag")
+phone:down(P.items(phone)[3], 2)
+phone:wait(2)
+expect_eq(P.part(phone, P.tag.text), nil, "nor by another finger")
+phone:up(2)
 phone:up()
 phone:settle()
 P.no_harm(phone)

@@ -13,6 +13,7 @@
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/CloseMarks.h"
+#include "Tweak/Panel/Drags.h"
 #include "Tweak/Panel/ItemCollapse.h"
 #include "Tweak/Panel/ItemState.h"
 #include "Tweak/Panel/NewUIScrollView.h"
@@ -80,6 +81,12 @@ void clearBadge(NSString *identifier) {
     [UIView animateWithDuration:animationDuration(kMarkFade) animations:^{ mark.alpha = 1.0; }];
 }
 
+BOOL anyStays() {
+    for (UIView *item in itemViews())
+        if (!itemState::isClosing(item)) return YES;
+    return NO;
+}
+
 BOOL hasEmptyText() {
     for (UIView *view in strip().subviews)
         if ([view isKindOfClass:[UILabel class]]) return YES;
@@ -125,9 +132,10 @@ void removeFromStrip(UIView *item, NSString *identifier) {
 } // namespace
 
 void added::closeIcon(SpringBoard *, SEL, UIView *item) {
-    isSliding = NO;
+    endDrag(item);
     if (!item.superview || itemState::isClosing(item)) return;
     itemState::setClosing(item);
+    if (!anyStays()) isEditing = NO;
     NSString *identifier = [[item.layer.name copy] autorelease];
     [datas removeObject:identifier];
     separateShadow(item);
@@ -137,7 +145,7 @@ void added::closeIcon(SpringBoard *, SEL, UIView *item) {
 }
 
 void added::close(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
-    [self closeIcon:recognizer.view.superview];
+    if (isShow) [self closeIcon:recognizer.view.superview];
 }
 
 } // namespace pendix

@@ -4,6 +4,17 @@
 
 #include <UIKit/UIKit.h>
 
+// One drag of an item: from its begin until the item is at rest again or gone, unless another one takes its
+// place.
+@interface itemDrag : NSObject {
+@public
+    CGPoint start;  // where the finger began it, in the window
+    float pace;     // of its animations: animationDuration of a second
+    BOOL held;      // the finger is down
+    BOOL displaced; // it has taken the item out of its row
+}
+@end
+
 namespace pendix::itemState {
 
 // Recognisers do not retain their delegate: it lives as long as the item.
@@ -29,5 +40,9 @@ inline void rememberRestingY(UIView *item) {
         [item.layer setValue:[NSNumber numberWithFloat:static_cast<float>(item.frame.origin.y)]
                       forKey:@"restingY"];
 }
+
+// nil for an item at rest that no finger holds.
+inline itemDrag *drag(UIView *item) { return [item.layer valueForKey:@"drag"]; }
+inline void setDrag(UIView *item, itemDrag *drag) { [item.layer setValue:drag forKey:@"drag"]; }
 
 } // namespace pendix::itemState
