@@ -16,8 +16,32 @@ local function asked(phone, what, y)
   local top = panel.screen.y
   expect_eq({ text.screen.y - top, cancel.screen.y - top, strip.screen.y - top }, { 0, 65, 110 }, what .. ": fills")
   for _, tag in ipairs{ P.tag.text, P.tag.cancel, P.tag.ok } do
-    expect_eq(#phone:all{ parent = P.content(phone), tag = tag }, #P.items(phone), what .. ": once for every item")
+    local copies = phone:all{ parent = P.content(phone), tag = tag }
+    expect_eq(#copies, #P.items(phone), what .. ": once for every item")
+    for i, copy in ipairs(copies) do expect_eq(copy.hidden, i < #copies, what .. ": of which the last one is seen") end
+    expect_eq(copies[#copies].presented_alpha, 1, what .. ": wholly")
   end
+end
+-- The answers come when the icons have made way, and go before these return.
+local function never_crosses(phone, what, from, to)
+  local icons, seen = P.items(phone), {}
+  for step = 0, 28 do
+    for _, tag in ipairs{ P.tag.cancel, P.tag.ok } do
+      local button = P.seen(phone, tag)
+      if button then
+        seen[#seen + 1] = button.presented_alpha
+        for _, icon in ipairs(icons) do
+          local badge = P.sub(phone, phone:again(icon), P.tag.badge).screen
+          local covers = badge.y < button.screen.y + button.screen.h and badge.y + badge.h > button.screen.y
+          expect(not covers or button.presented_alpha < 0.15,
+            what .. (": after %d frames an answer of alpha %.2f lies on an icon"):format(step, button.presented_alpha))
+        end
+      end
+    end
+    phone:wait(1 / 60)
+  end
+  expect_near(seen[1], from, 0.05, what .. ": at first")
+  expect_near(seen[#seen], to, 0.2, what .. ": in the end")
 end
 local function gone(phone, what, y)
   for _, tag in ipairs{ P.tag.text, P.tag.cancel, P.tag.ok } do
@@ -57,6 +81,37 @@ for _, case in ipairs{ { {}, 30, 30 }, { { rech = true, position = "middle" }, 2
   P.close(phone)
   expect_eq(phone:call("checkBadges"), false, what .. ": no badge is left")
   P.no_harm(phone)
+end
+
+for _, fast in ipairs{ false, true } do
+  local what = fast and "fast" or "slow"
+  local phone = P.boot{ fast = fast }
+  P.open(phone)
+  phone:down(P.items(phone)[2])
+  while not P.seen(phone, P.tag.ok) do phone:wait(1 / 120) end
+  never_crosses(phone, what .. ", asking", 0, 1)
+  phone:up()
+  phone:tap(P.seen(phone, P.tag.cancel))
+  never_crosses(phone, what .. ", leaving", 1, 0)
+  P.no_harm(phone)
+end
+
+-- An answer under a finger shows it, as long as the finger is near.
+for _, tag in ipairs{ P.tag.cancel, P.tag.ok } do
+  local phone = P.boot()
+  P.open(phone)
+  P.long_press(phone, P.items(phone)[1])
+  local button = P.seen(phone, tag)
+  local at = P.middle(button)
+  phone:down(at)
+  phone:wait(0.2)
+  expect(P.seen(phone, tag).background ~= button.background, button.title .. " shows that it is pressed")
+  expect_eq(P.seen(phone, tag == P.tag.ok and P.tag.cancel or P.tag.ok).background, button.background, "and it alone")
+  P.slide_on(phone, at, 0, 200, 0.1)
+  expect_eq(P.seen(phone, tag).background, button.background, button.title .. " lets go of a finger that strays")
+  phone:up()
+  phone:settle()
+  P.must(P.seen(phone, P.tag.text), "which is no answer")
 end
 
 -- Outside the question and its panel a tap closes both; the next opening knows nothing of it.
