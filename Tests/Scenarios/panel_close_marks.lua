@@ -98,3 +98,50 @@ phone:settle()
 expect_eq(#P.since(phone, mark, "badge_set"), 1, "two quick taps on one mark close one application")
 expect_eq(P.ids(phone), P.names(4, 1), "and only that")
 P.no_harm(phone)
+
+-- All that is seen of a mark takes touches, and ten points around it where nothing else lies. In points from the
+-- item's corner the mark reaches from -6 to 14, the badge of the item before from -35 (a gap of 19) to -11, and down
+-- to 16.
+local function touched(place, dx, dy, badge)
+  phone = P.boot({ close = true }, { apps = P.numbered(3, { badge = badge }) })
+  P.open(phone)
+  P.long_press(phone, P.items(phone)[1])
+  local item, before = P.items(phone)[place], P.mark(phone)
+  phone:tap{ item.screen.x + dx, item.screen.y + dy }
+  phone:settle()
+  local cleared = P.since(phone, before, "badge_set")
+  expect_eq(#P.since(phone, before, "launch"), 0, "no tap opens anything")
+  P.must(P.panel(phone), "nor closes the panel")
+  return cleared[1] and cleared[1].id == item.name and #cleared == 1, #cleared
+end
+for _, case in ipairs{
+  -- The mark itself: its corners and the middles of its edges.
+  { 2, -5.9, -5.9, true }, { 2, 4, -5.9, true }, { 2, 13.9, -5.9, true }, { 2, -5.9, 4, true }, { 2, 13.9, 4, true },
+  { 2, -5.9, 13.9, true }, { 2, 4, 13.9, true }, { 2, 13.9, 13.9, true }, { 3, -5.9, -5.9, true },
+  { 1, -5.9, -5.9, true },
+  -- Around it: free, and beyond its reach.
+  { 1, -15.9, 4, true }, { 1, -15.9, -15.9, true }, { 2, 4, -15.9, true }, { 2, -9, 4, true }, { 3, -15.9, 23, true },
+  { 1, -16.1, 4, false }, { 2, 4, -16.1, false }, { 1, -10, 24.1, false },
+  -- Around it, but on the item's own icon, or on the badge of the one before.
+  { 2, 16, 4, false }, { 2, 4, 16, false }, { 2, -12, 4, false }, { 2, -12, 15, false },
+  -- A wide badge of the one before lies under the mark.
+  { 2, -5.9, 4, true, 1000 }, { 2, -7, 4, false, 1000 },
+} do
+  local what = ("item %d, %g, %g"):format(case[1], case[2], case[3])
+  local hit, cleared = touched(case[1], case[2], case[3], case[5])
+  expect_eq(hit or false, case[4], what .. ": closes its application")
+  expect_eq(cleared, case[4] and 1 or 0, what .. ": and no other")
+end
+-- Before and after the marks are shown nothing is to be touched.
+phone = P.boot{ close = true }
+P.open(phone)
+mark = P.mark(phone)
+local beside = P.items(phone)[1].screen
+phone:tap{ beside.x - 5, beside.y }
+P.long_press(phone, P.items(phone)[1])
+phone:home()
+phone:settle()
+phone:tap{ beside.x - 5, beside.y }
+phone:settle()
+expect_eq({ #P.since(phone, mark, "badge_set"), #P.items(phone) }, { 0, 3 }, "without marks nobody is closed")
+P.no_harm(phone)

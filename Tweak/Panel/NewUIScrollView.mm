@@ -6,6 +6,7 @@
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/CloseMarks.h"
 
 namespace {
 
@@ -42,6 +43,12 @@ void showPage(UIScrollView *strip) {
 - (void)scrollViewDidEndDecelerating:(UIScrollView *)scrollView {
     _isScrolling = NO;
     showPage(scrollView);
+}
+
+- (UIView *)hitTest:(CGPoint)point withEvent:(UIEvent *)event {
+    UIView *hit = [super hitTest:point withEvent:event];
+    UIView *mark = hit ? pendix::closeMarkAt(self, point) : nil;
+    return mark ? mark : hit;
 }
 
 - (BOOL)scrolling {
