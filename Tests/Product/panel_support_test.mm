@@ -1,5 +1,7 @@
 // The small pieces on which the panel stands: the colours of an image, the shimmer and the snapshot that a
 // card shows.
+#include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/State.h"
 #include "Tweak/Core/Support/UIImage+AverageColor.h"
 #include "Tweak/Core/Support/UIView+Shimmer.h"
 #include "Tweak/Panel/Panel.h"
@@ -35,6 +37,23 @@ std::string hex(UIColor *color) {
     snprintf(text, sizeof text, "%02lx%02lx%02lx%02lx", lround(red * 255), lround(green * 255),
              lround(blue * 255), lround(alpha * 255));
     return text;
+}
+
+// A press waits for a tap to fail, which takes longer than it does itself; its own time is seen by nobody but
+// the system.
+TEST_F(PanelSupport, PressesCountAfterATenthOfASecond) {
+    pendix::createBadgeList();
+    sim::setBadge("org.example.1", 1);
+    pendix::bringUpPanel(springBoard());
+    NSArray *items = pendix::itemViews();
+    ASSERT_EQ([items count], 1u);
+    int presses = 0;
+    for (UIGestureRecognizer *recognizer in [[items objectAtIndex:0] gestureRecognizers]) {
+        if (![recognizer isKindOfClass:[UILongPressGestureRecognizer class]]) continue;
+        EXPECT_EQ(static_cast<UILongPressGestureRecognizer *>(recognizer).minimumPressDuration, 0.1);
+        ++presses;
+    }
+    EXPECT_EQ(presses, 1);
 }
 
 TEST_F(PanelSupport, TurnsDegreesIntoRadians) {
