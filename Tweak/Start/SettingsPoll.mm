@@ -7,17 +7,6 @@
 
 namespace pendix {
 
-namespace {
-
-// Visible by the watched settings alone; badges count here only when one of them changed, otherwise the hook
-// on the badge views sees to them.
-BOOL itemIsWanted(SpringBoard *springBoard) {
-    if (!lastEnable || lastHide) return NO;
-    return !lastTempor || [springBoard checkBadges];
-}
-
-} // namespace
-
 void added::preferenceChangesByMe(SpringBoard *self, SEL) {
     if (locked) return;
     BOOL enable = isOn(keys::enabled), hide = isOn(keys::hidesIndicator),
@@ -26,7 +15,7 @@ void added::preferenceChangesByMe(SpringBoard *self, SEL) {
         lastEnable = enable;
         lastHide = hide;
         lastTempor = tempor;
-        statusbaritem.visible = itemIsWanted(self);
+        indicatorFollowsSettings();
     }
     BOOL switcher = isOn(keys::runningMode);
     if (switcher == lastSwitcher) return;

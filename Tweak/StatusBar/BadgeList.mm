@@ -28,19 +28,6 @@ void listFolder(SBFolderIcon *folderIcon) {
     }
 }
 
-// The indicator shows only while there are badges, and pulses while there are, where the settings say so.
-void followBadges() {
-    if (locked || !isOn(keys::enabled) || isOn(keys::runningMode) || isOn(keys::hidesIndicator)) return;
-    if (isOn(keys::hidesWithoutBadges)) statusbaritem.visible = [Spring checkBadges];
-    if (!isOn(keys::pulses)) {
-        if (needToPulse) [Spring removePulse];
-    } else if ([Spring checkBadges]) {
-        [Spring makePulse:color(keys::pulseColor, @"clear")];
-    } else {
-        [Spring removePulse];
-    }
-}
-
 } // namespace
 
 void hooked::resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image) {
@@ -55,7 +42,7 @@ void hooked::resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image)
     } else if (icon) {
         list([icon nodeIdentifier], [icon badgeValue] != 0);
     }
-    followBadges();
+    indicatorFollowsBadges();
 }
 
 BOOL added::checkBadges(SpringBoard *, SEL) {

@@ -24,7 +24,7 @@ void setGlow(UIView *view, UIColor *color) {
 } // namespace
 
 void added::makePulse(SpringBoard *self, SEL, UIColor *color) {
-    if (needToPulse || !isOn(keys::pulses) || isOn(keys::hidesIndicator)) return;
+    if (needToPulse || !mayPulse()) return;
     window1 = [[UIApplication sharedApplication] statusBarWindow];
     UIView *view = window1 ? [self pendix] : nil;
     if (!view) return;

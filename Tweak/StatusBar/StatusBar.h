@@ -47,3 +47,27 @@
 @interface UIStatusBarItemView (Pendix)
 - (BOOL)isPendix:(id)view;
 @end
+
+// When the indicator shows and when it pulses, in one place.
+// - It shows while `enable` is on and `hide` is off, and with `hide_t` only while an application with a badge
+//   is listed.
+// - Badges count for it while `enable` is on, running mode and `hide` are off, and the display is on.
+// - It pulses while badges count, `glow` is on and an application with a badge is listed.
+// Each function is for one moment at which the rule is looked at, and applies the part that this moment can
+// have changed. Between these moments nothing moves the indicator.
+namespace pendix {
+
+// A home-screen badge was drawn: shows or hides by `hide_t`, starts or ends the pulse. Nothing where badges
+// do not count.
+void indicatorFollowsBadges();
+// The poll has stored watched settings that changed: shows or hides by those.
+void indicatorFollowsSettings();
+// The display turns off: the pulse ends.
+void indicatorGoesDark();
+// The display has turned on: as for a badge, since those that came in the dark have not moved it.
+void indicatorWakes();
+
+// What a pulse asks by itself, whoever wants it: `glow` on and `hide` off.
+BOOL mayPulse();
+
+} // namespace pendix

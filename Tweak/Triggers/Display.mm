@@ -11,15 +11,9 @@ namespace pendix {
 
 namespace {
 
-// Whether the indicator may show and pulse for badges.
-BOOL followsBadges() {
-    return isOn(keys::enabled) && !isOn(keys::runningMode) && !isOn(keys::hidesIndicator);
-}
-
 void goDark() {
     locked = YES;
-    // A pulse also ends when `glow` was turned off while it ran.
-    if (needToPulse || (followsBadges() && isOn(keys::pulses))) [Spring removePulse];
+    indicatorGoesDark();
     [openThisApp release];
     openThisApp = @"";
     if ([@"everyoff" isEqual:setting(keys::lockMoment)]) needPasscode = YES;
@@ -28,10 +22,7 @@ void goDark() {
 
 void wake() {
     locked = NO;
-    if (!followsBadges()) return;
-    // Badges that came in the dark have not moved the indicator.
-    if (isOn(keys::hidesWithoutBadges)) statusbaritem.visible = [Spring checkBadges];
-    if (isOn(keys::pulses) && [Spring checkBadges]) [Spring makePulse:color(keys::pulseColor, @"clear")];
+    indicatorWakes();
 }
 
 } // namespace
