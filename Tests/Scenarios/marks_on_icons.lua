@@ -118,16 +118,41 @@ do
   phone:set("colors", "Blue")
   phone:badge(H.clock, 1)
   expect_eq(mark(phone, H.clock).tint, "#ff0000ff", "a name that is none is red")
+  -- A mark that goes for a setting's sake leaves the standard badge in its place; the mark that comes back takes it.
+  local function shows(id, wanted, what)
+    expect_eq({ mark = marks(phone, id), badge = not badge(phone, id).hidden }, wanted, what)
+  end
+  local marked, plain = { mark = 1, badge = false }, { mark = 0, badge = true }
   phone:set(H.phone, { badge_perapp = true })
   phone:badge(H.phone, 2)
-  expect_eq(marks(phone, H.phone), 0, "an application that is taken out loses its mark")
+  shows(H.phone, plain, "an application that is taken out loses its mark, and is unread all the same")
+  phone:set(H.phone, { badge_perapp = false })
+  phone:badge(H.phone, 3)
+  shows(H.phone, marked, "and gets it back")
   for i, key in ipairs{ "b", "enable", "newb" } do
     phone:set(key, false)
     phone:badge(H.mail, 10 * i)
-    expect_eq(marks(phone, H.mail), 0, "without " .. key .. " the mark goes")
-    phone:set(key, true)
+    shows(H.mail, plain, "without " .. key .. " the mark goes")
     phone:badge(H.mail, 10 * i + 1)
-    expect_eq(marks(phone, H.mail), 1, "and with it comes back")
+    shows(H.mail, plain, "without " .. key .. " the badge goes on to show")
+    phone:set(key, true)
+    phone:badge(H.mail, 10 * i + 2)
+    shows(H.mail, marked, "and with it the mark comes back")
+  end
+  H.no_harm(phone)
+end
+
+-- Without marks it is the same: hidden badges show again where `b` or `enable` is off when their icon is looked at, those
+-- of applications that never get a mark too.
+for _, key in ipairs{ "b", "enable" } do
+  local phone = phone_with{ enable = true, b = true, [H.phone] = { badge_perapp = true } }
+  for _, id in ipairs{ H.mail, H.phone } do
+    phone:badge(id, 1)
+    expect_eq(badge(phone, id).hidden, true, key .. ": hidden")
+    phone:set(key, false)
+    phone:badge(id, 2)
+    expect_eq(badge(phone, id).hidden, false, key .. ": shown again without the setting")
+    phone:set(key, true)
   end
   H.no_harm(phone)
 end
@@ -148,6 +173,18 @@ do
     phone:home()
     phone:settle()
   end
+  H.no_harm(phone)
+end
+
+-- A folder has no image to take a colour from.
+do
+  local phone = phone_with(with{ auto = true, colors = "purple" }, { apps = {
+    { id = H.mail, name = "Mail" }, { id = H.phone, name = "Phone", folder = "Social" } } })
+  phone:badge(H.phone, 3)
+  phone:badge(H.mail, 3)
+  local folder = phone:find{ window = "home", class = "SBFolderIconView" }
+  expect_eq(phone:find{ parent = folder, tag = 1953 }.tint, "#800080ff", "a folder's mark has the chosen colour")
+  expect(mark(phone, H.mail).tint ~= "#800080ff", "an application's its own")
   H.no_harm(phone)
 end
 

@@ -27,7 +27,8 @@ void writeSetting(NSString *key, id value);
 // The colour of that name: the platform's, in lower case ("black" … "yellow", "clear"); every other name, nil
 // included, is red.
 UIColor *colorFrom(NSString *name);
-// The colour that `key` names; `defaultName` counts only while there is no file.
+// The colour that `key` names; `defaultName` counts only while there is no file. One that cannot be read
+// names none.
 UIColor *color(NSString *key, NSString *defaultName);
 
 // An application's own settings; NO for nil. Whether it is left out of the badge list, and whether its icon

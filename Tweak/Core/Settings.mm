@@ -63,7 +63,8 @@ UIColor *colorFrom(NSString *name) {
 
 UIColor *color(NSString *key, NSString *defaultName) {
     NSDictionary *settings = readSettings();
-    return colorFrom(settings ? [settings objectForKey:key] : defaultName);
+    const BOOL missing = !settings && ![[NSFileManager defaultManager] fileExistsAtPath:names::settingsFile];
+    return colorFrom(missing ? defaultName : [settings objectForKey:key]);
 }
 
 BOOL hide_per(NSString *identifier) { return isOnFor(identifier, keys::appHidden); }

@@ -16,6 +16,9 @@ namespace {
 
 NSString *const kMarkImage = @"pendixMiniNotification.png";
 
+// A value of the badge views' layers: they were made hidden, by this extension.
+NSString *const kMadeHidden = @"madeHidden";
+
 constexpr float kFade = 0.2f;     // seconds, when a badge changes and when the application opens
 constexpr float kFadeBack = 0.5f; // when the application is left
 
@@ -25,9 +28,12 @@ void fade(UIView *mark, CGFloat alpha, float seconds) {
     [UIView animateWithDuration:animationDuration(seconds) animations:^{ mark.alpha = alpha; }];
 }
 
-BOOL wantsMark(SBIcon *icon) {
-    return !badge_per([icon nodeIdentifier]) && isOn(keys::hidesBadges) && isOn(keys::enabled) &&
-           isOn(keys::showsMarks);
+// The icon's standard badge when it was made hidden; any other one is nobody's here to show or hide.
+UIView *ownBadgeOn(SBIconView *iconView) {
+    for (UIView *view in iconView.subviews)
+        if ([view isKindOfClass:objc_getClass("SBIconBadgeView")] && [view.layer valueForKey:kMadeHidden])
+            return view;
+    return nil;
 }
 
 void addMark(SBIconView *iconView) {
@@ -38,8 +44,9 @@ void addMark(SBIconView *iconView) {
         [[UIImageView alloc] initWithFrame:CGRectMake(corner.size.width - image.size.width, corner.origin.y,
                                                       image.size.width, image.size.height)];
     mark.image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    mark.tintColor = isOn(keys::marksTakeIconColor) ? [[iconImage contentsImage] mergedColor]
-                                                    : color(keys::markColor, @"red");
+    // A folder has no image.
+    UIColor *own = isOn(keys::marksTakeIconColor) ? [[iconImage contentsImage] mergedColor] : nil;
+    mark.tintColor = own ? own : color(keys::markColor, @"red");
     mark.tag = tags::iconMark;
     [iconView addSubview:mark];
     [mark release];
@@ -60,10 +67,13 @@ UIView *markOfApplication(SBApplication *application) {
 
 } // namespace
 
-// Badge views that are there already stay as they are until they are made again.
+// Badge views that are made while the settings are off stay as they are until they are made again.
 id hooked::initBadgeView(SBIconBadgeView *self, SEL _cmd) {
     SBIconBadgeView *view = original::initBadgeView(self, _cmd);
-    if (view && isOn(keys::hidesBadges) && isOn(keys::enabled)) view.hidden = YES;
+    if (view && isOn(keys::hidesBadges) && isOn(keys::enabled)) {
+        view.hidden = YES;
+        [view.layer setValue:[NSNumber numberWithBool:YES] forKey:kMadeHidden];
+    }
     return view;
 }
 
@@ -72,10 +82,17 @@ void hooked::updateAccessoryView(SBIconView *self, SEL _cmd, BOOL animated) {
     if (![self respondsToSelector:@selector(icon)]) return;
     SBIcon *icon = [self icon];
     UIView *mark = markOn(self);
-    if (!wantsMark(icon)) return [mark removeFromSuperview];
+    const BOOL excluded = badge_per([icon nodeIdentifier]);
+    const BOOL hides = isOn(keys::hidesBadges) && isOn(keys::enabled);
+    if (excluded || !hides || !isOn(keys::showsMarks)) {
+        // What stood for the badge is gone, so the badge itself shows.
+        if (mark || !hides) ownBadgeOn(self).hidden = NO;
+        return [mark removeFromSuperview];
+    }
     const BOOL hasBadge = [icon badgeValue] != 0;
     if (!mark && hasBadge) {
         addMark(self);
+        ownBadgeOn(self).hidden = YES;
     } else if (mark && hasBadge) {
         fade(mark, 1, kFade);
     } else if (mark) {
