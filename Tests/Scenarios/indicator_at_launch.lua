@@ -20,6 +20,25 @@ for n, case in ipairs(cases) do
   expect_eq(view ~= nil, case[2], what .. ": an invisible item has no view")
   H.no_harm(phone)
 end
+-- From the first badge on `hide` counts, in either mode, whether the badge comes later or was there at the launch.
+for _, running in ipairs{ false, true } do
+  for _, badge in ipairs{ 0, 3 } do
+    local what = (running and "running mode" or "badge mode") .. ", launched with " .. badge .. " unread"
+    local phone = boot{ settings = { enable = true, hide = true, glow = true, badge = running },
+      apps = { { id = H.mail, name = "Mail", badge = badge } } }
+    expect_eq(phone:indicator().visible, badge == 0, what .. ": hidden by a badge only")
+    phone:badge(H.mail, 4)
+    expect_eq(phone:indicator().visible, false, what .. ": hidden by the next one")
+    phone:badge(H.mail, 0)
+    phone:wait(2)
+    expect_eq(phone:indicator().visible, false, what .. ": and stays so")
+    expect_eq(H.logged(phone, "<Pendix> Pulsing!"), 0, what .. ": nothing pulsed")
+    phone:set("hide", false)
+    phone:wait(1)
+    expect_eq(phone:indicator().visible, true, what .. ": until the setting is off")
+    H.no_harm(phone)
+  end
+end
 local phone = boot{}
 expect_eq(phone:settings(), { hasTouchID = "1" }, "a missing file is made, with the sensor's key alone")
 expect_eq(phone:indicator().visible, false, "and the extension is inert")

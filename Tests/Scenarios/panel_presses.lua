@@ -1,6 +1,6 @@
 -- Only a shown panel takes presses: what ripens or lifts while it closes does nothing, and the next home click is the
 -- system's. And when the question comes, nobody else's finger on the strip has a say any more.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 
 -- `begin` puts the first finger down; the second closes the panel by a tap outside. The finger then stays or lifts.
 for _, case in ipairs{

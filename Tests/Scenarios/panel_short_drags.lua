@@ -1,6 +1,6 @@
 -- A short way up or down is a drag and no tap, whatever is under way beside it; several fingers drag several items,
 -- each its own; and a drag costs one look into the settings file.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 -- A finger's first ten points only make a drag of it; more than 45 would be no tap anyway.
 local function nudge(phone, item, rest)
   P.slide(phone, item, 0, 24, 0.1)

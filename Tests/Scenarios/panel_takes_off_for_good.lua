@@ -1,6 +1,6 @@
 -- What taking applications off leads to outside the panel: the one in front is left before it is quit, clearing all does
 -- not count for what is taken off later, and a cleared application's mark on the home screen goes at once.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local function clear_all(phone)
   P.long_press(phone, P.items(phone)[1])
   phone:tap(P.seen(phone, P.tag.ok))

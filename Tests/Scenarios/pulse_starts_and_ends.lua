@@ -46,9 +46,8 @@ expect_eq(H.glow(phone), nil, "running mode ends the pulse at the next poll")
 expect_eq(phone:indicator().alpha, 1, "at full strength")
 phone:set("badge", false)
 phone:wait(1.1)
-expect(not H.pulses(phone), "leaving it starts none")
-phone:badge(H.mail, 2)
-expect(H.pulses(phone), "the next badge does")
+expect(H.pulses(phone), "leaving it goes on, for the badge still waits")
+expect_eq(H.glow(phone), "#00ff00ff", "in its colour")
 phone:set("glow", false)
 phone:wait(2)
 expect(H.pulses(phone), "turning the pulse off waits")
@@ -57,3 +56,34 @@ phone:wait(0.1)
 expect(not H.pulses(phone), "for the next badge")
 expect_eq(H.glow(phone), nil, "which takes the glow away too")
 H.no_harm(phone)
+
+-- What the poll watches ends a pulse and starts it again while badges wait, with one timer and one line of the log each
+-- time; where no badge waits, or `glow` is off, nothing starts.
+for _, case in ipairs{ { what = "a badge waits", pulses = true }, { what = "without glow", glow = false },
+  { what = "with hide_t", hide_t = true, pulses = true }, { what = "no badge waits", badge = 0 },
+  { what = "the only badge is of a hidden application", hidden = true } } do
+  local glowing = { enable = true, glow = case.glow ~= false, hide_t = case.hide_t, tint = "blue",
+    [H.mail] = { hide_perapp = case.hidden or false } }
+  local phone = boot{ settings = glowing, apps = { { id = H.mail, name = "Mail", badge = case.badge or 2 } } }
+  local base, started = phone:counters().timers - (case.pulses and 1 or 0), case.pulses and 1 or 0
+  local logged = #phone:log()
+  for _, key in ipairs{ "enable", "hide", "badge" } do
+    local away = key ~= "enable"
+    local what = case.what .. ", " .. key
+    phone:set(key, away)
+    phone:wait(1.1)
+    expect_eq(H.glow(phone), nil, what .. ": ends the glow")
+    expect_eq(phone:counters().timers, base, what .. ": and its timer")
+    local alpha = phone:indicator().alpha
+    expect(alpha == nil or alpha == 1, what .. ": at full strength")
+    phone:set(key, not away)
+    phone:wait(1)
+    started = started + (case.pulses and 1 or 0)
+    expect_eq(H.logged(phone, "<Pendix> Pulsing!"), started, what .. ": taken back, a pulse starts where badges wait")
+    expect_eq(H.glow(phone), case.pulses and "#0000ffff" or nil, what .. ": in its colour")
+    expect_eq(phone:counters().timers, base + (case.pulses and 1 or 0), what .. ": with one timer")
+    expect_eq(H.pulses(phone), case.pulses or false, what .. ": and is seen")
+  end
+  if case.pulses then expect_eq(#phone:log(), logged + 3, case.what .. ": nothing else is logged") end
+  H.no_harm(phone)
+end

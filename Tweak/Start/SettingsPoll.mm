@@ -1,4 +1,3 @@
-#include "Tweak/Core/Names.h"
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
@@ -7,21 +6,12 @@
 
 namespace pendix {
 
-void added::preferenceChangesByMe(SpringBoard *self, SEL) {
+void added::preferenceChangesByMe(SpringBoard *, SEL) {
     if (locked) return;
-    BOOL enable = isOn(keys::enabled), hide = isOn(keys::hidesIndicator),
-         tempor = isOn(keys::hidesWithoutBadges);
-    if (enable != lastEnable || hide != lastHide || tempor != lastTempor) {
-        lastEnable = enable;
-        lastHide = hide;
-        lastTempor = tempor;
-        indicatorFollowsSettings();
-    }
-    BOOL switcher = isOn(keys::runningMode);
-    if (switcher == lastSwitcher) return;
-    lastSwitcher = switcher;
-    statusbaritem.imageName = switcher ? names::switcherImage : names::badgeImage;
-    if (switcher) [self removePulse];
+    indicatorFollowsSettings({.enable = isOn(keys::enabled),
+                              .hide = isOn(keys::hidesIndicator),
+                              .onlyWithBadges = isOn(keys::hidesWithoutBadges),
+                              .running = isOn(keys::runningMode)});
 }
 
 } // namespace pendix

@@ -1,3 +1,4 @@
+#include "Tweak/Core/Names.h"
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
@@ -13,6 +14,12 @@ void showForBadges() {
     if (isOn(keys::hidesWithoutBadges)) statusbaritem.visible = [Spring checkBadges];
 }
 
+// The pulse first, while the item has a view to be given its strength back.
+void hide() {
+    if (needToPulse) [Spring removePulse];
+    statusbaritem.visible = NO;
+}
+
 void startPulse() { [Spring makePulse:color(keys::pulseColor, @"clear")]; }
 
 } // namespace
@@ -20,7 +27,10 @@ void startPulse() { [Spring makePulse:color(keys::pulseColor, @"clear")]; }
 BOOL mayPulse() { return isOn(keys::pulses) && !isOn(keys::hidesIndicator); }
 
 void indicatorFollowsBadges() {
-    if (locked || !badgesCount()) return;
+    if (locked || !isOn(keys::enabled)) return;
+    const BOOL running = isOn(keys::runningMode), hidden = isOn(keys::hidesIndicator);
+    if (hidden) hide();
+    if (hidden || running) return;
     showForBadges();
     if (!isOn(keys::pulses)) {
         if (needToPulse) [Spring removePulse];
@@ -31,9 +41,24 @@ void indicatorFollowsBadges() {
     }
 }
 
-void indicatorFollowsSettings() {
-    const BOOL mayShow = lastEnable && !lastHide;
-    statusbaritem.visible = mayShow && (!lastTempor || [Spring checkBadges]);
+void indicatorFollowsSettings(const WatchedSettings &now) {
+    const BOOL visibility =
+        now.enable != lastEnable || now.hide != lastHide || now.onlyWithBadges != lastTempor;
+    const BOOL mode = now.running != lastSwitcher;
+    if (!visibility && !mode) return;
+    lastEnable = now.enable;
+    lastHide = now.hide;
+    lastTempor = now.onlyWithBadges;
+    lastSwitcher = now.running;
+
+    const BOOL shows = now.enable && !now.hide;
+    const BOOL pulses = shows && !now.running && isOn(keys::pulses);
+    const BOOL listed = (pulses || (visibility && shows && now.onlyWithBadges)) && [Spring checkBadges];
+    // Before the item goes, while it has a view to be given its strength back.
+    if ((mode && now.running) || (needToPulse && !(pulses && listed))) [Spring removePulse];
+    if (visibility) statusbaritem.visible = shows && (!now.onlyWithBadges || listed);
+    if (mode) statusbaritem.imageName = now.running ? names::switcherImage : names::badgeImage;
+    if (pulses && listed && !needToPulse) startPulse();
 }
 
 // A pulse also ends when `glow` was turned off while it ran.

@@ -57,11 +57,19 @@
 // have changed. Between these moments nothing moves the indicator.
 namespace pendix {
 
-// A home-screen badge was drawn: shows or hides by `hide_t`, starts or ends the pulse. Nothing where badges
-// do not count.
+// A home-screen badge was drawn, or the list of badges was tidied: hides by `hide`, which a launch does not
+// look at; where badges count, shows or hides by `hide_t`, and starts or ends the pulse.
 void indicatorFollowsBadges();
-// The poll has stored watched settings that changed: shows or hides by those.
-void indicatorFollowsSettings();
+
+// The settings that move the indicator without a badge.
+struct WatchedSettings {
+    BOOL enable, hide, onlyWithBadges, running; // `enable`, `hide`, `hide_t`, `badge`
+};
+// The poll has read them. Where they differ from those that were applied last, they are applied and
+// remembered: visibility by the first three, the image by the last one, the pulse by all of them. Nothing
+// else is read or changed while they are the same.
+void indicatorFollowsSettings(const WatchedSettings &now);
+
 // The display turns off: the pulse ends.
 void indicatorGoesDark();
 // The display has turned on: as for a badge, since those that came in the dark have not moved it.
