@@ -14,7 +14,9 @@ inline LSStatusBarItem *statusbaritem = nil; // the indicator
 inline NSMutableArray *datas =
     nil; // identifiers of applications with a badge, newest change first, no doubles
 
-// The watched settings as they were last applied (Start/SettingsPoll.mm).
+inline NSMutableDictionary *drawnBadges = nil; // the badge values that were drawn last, by identifier
+
+// The watched settings as they were last applied (StatusBar/Indicator.mm).
 inline BOOL lastEnable = NO;   // `enable`
 inline BOOL lastHide = NO;     // `hide`
 inline BOOL lastTempor = NO;   // `hide_t`
@@ -58,7 +60,7 @@ inline NSString *openThisApp = @""; // to open once the device is unlocked; "" f
 // Triggers.
 inline BOOL locked = NO; // the display is off: the poll and badge-driven changes of the item pause
 
-// Makes `datas`. The library's constructor calls it before anything else.
+// Makes `datas` and `drawnBadges`. The library's constructor calls it before anything else.
 void createBadgeList();
 
 } // namespace pendix

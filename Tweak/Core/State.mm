@@ -2,6 +2,9 @@
 
 namespace pendix {
 
-void createBadgeList() { datas = [NSMutableArray new]; }
+void createBadgeList() {
+    datas = [NSMutableArray new];
+    drawnBadges = [NSMutableDictionary new];
+}
 
 } // namespace pendix

@@ -57,7 +57,7 @@ UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink) {
     UILabel *label = panelLabel(frame, text, @"HelveticaNeue", kSize, ink);
     label.numberOfLines = kLines;
     [strip addSubview:label];
-    [datas removeAllObjects];
+    keepBadgedApplications();
     return label;
 }
 

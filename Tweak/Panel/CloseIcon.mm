@@ -20,6 +20,7 @@
 #include "Tweak/Panel/PanelBuild.h"
 #include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
+#include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
 
@@ -96,6 +97,7 @@ BOOL hasEmptyText() {
 void showEmptyText(BOOL running) {
     if (!strip() || [itemViews() count] != 0 || hasEmptyText()) return;
     UILabel *label = addEmptyText(strip(), running, currentScheme().ink);
+    indicatorFollowsBadges();
     label.alpha = 0;
     [UIView animateWithDuration:animationDuration(kStep) animations:^{ label.alpha = 1.0; }];
 }
@@ -137,7 +139,8 @@ void added::closeIcon(SpringBoard *, SEL, UIView *item) {
     itemState::setClosing(item);
     if (!anyStays()) isEditing = NO;
     NSString *identifier = [[item.layer.name copy] autorelease];
-    [datas removeObject:identifier];
+    // Quitting is not reading: a badge that is still there stays listed.
+    if (!carriesBadge(identifier) || !isOn(keys::runningMode)) [datas removeObject:identifier];
     separateShadow(item);
     [UIView animateWithDuration:animationDuration(kStep)
         animations:^{ shrinkToCentre(item); }

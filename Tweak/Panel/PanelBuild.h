@@ -80,7 +80,7 @@ void readClock();
 // Lays the row of dots out for `pages` in a content view of that width.
 void placeDots(UIView *dots, CGFloat width);
 
-// Says over the whole strip that there is nothing to show; empties `datas`.
+// Says over the whole strip that there is nothing to show; takes off `datas` what carries no badge.
 UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink);
 
 // A label in the panel's type: centred, in ink.

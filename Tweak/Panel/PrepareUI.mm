@@ -85,6 +85,8 @@ void added::prepareUI(SpringBoard *self, SEL, UIStatusBarItemView *item) {
         fitCards(build);
     }
     openPanel(build);
+    // Last, for it may take the item away.
+    if (build.count == 0) indicatorFollowsBadges();
 }
 
 } // namespace pendix

@@ -9,26 +9,64 @@ namespace pendix {
 
 namespace {
 
-// Puts the application at the head of the list, or takes it off.
-void list(NSString *identifier, BOOL hasBadge) {
-    if (!identifier) return;
-    [datas removeObject:identifier];
-    if (hasBadge && !hide_per(identifier)) [datas insertObject:identifier atIndex:0];
+// Whether the badge is another one than when it was drawn last. Icons are drawn again without news, for
+// example when their folder opens.
+BOOL isNews(NSString *identifier, NSInteger badge) {
+    NSNumber *value = [NSNumber numberWithInt:static_cast<int>(badge)];
+    const BOOL same = [value isEqual:[drawnBadges objectForKey:identifier]];
+    [drawnBadges setObject:value forKey:identifier];
+    return !same;
 }
 
-// A folder draws one badge for all that it holds, so each application in it is looked at. One whose badge is
-// gone stays listed: only a badge of its own on the home screen takes an application off.
+// Puts the application at the head of the list, or takes it off. One that is listed keeps its place unless it
+// `moves`.
+void list(NSString *identifier, BOOL hasBadge, BOOL moves) {
+    const BOOL listed = hasBadge && !hide_per(identifier);
+    if (listed && !moves && [datas containsObject:identifier]) return;
+    [datas removeObject:identifier];
+    if (listed) [datas insertObject:identifier atIndex:0];
+}
+
+// A folder draws one badge for all that it holds, so each application in it is looked at, and with news they
+// go to the head together: those with the news first, the others in the order that they have. One whose badge
+// is gone stays listed: only a badge of its own on the home screen takes an application off.
 void listFolder(SBFolderIcon *folderIcon) {
     if (![folderIcon respondsToSelector:@selector(folder)]) return;
+    NSMutableArray *head = [NSMutableArray array], *others = [NSMutableArray array];
+    BOOL news = NO;
     for (SBApplicationIcon *icon in [[folderIcon folder] allIcons]) {
         if (![icon respondsToSelector:@selector(application)]) continue;
         NSString *identifier = identifierOf([icon application]);
         SBIconView *view = iconViewOf(identifier);
-        if ([view respondsToSelector:@selector(icon)] && [[view icon] badgeValue] != 0) list(identifier, YES);
+        if (!identifier || ![view respondsToSelector:@selector(icon)]) continue;
+        const NSInteger badge = [[view icon] badgeValue];
+        const BOOL changed = isNews(identifier, badge);
+        news = news || changed;
+        if (badge != 0) [changed ? head : others addObject:identifier];
     }
+    for (NSString *identifier in datas)
+        if ([others containsObject:identifier]) [head addObject:identifier];
+    [others removeObjectsInArray:head];
+    [head addObjectsFromArray:others];
+    for (NSUInteger i = [head count]; i > 0; --i) list([head objectAtIndex:i - 1], YES, news);
+}
+
+void listIcon(SBIcon *icon) {
+    NSString *identifier = [icon nodeIdentifier];
+    const NSInteger badge = [icon badgeValue];
+    if (identifier) list(identifier, badge != 0, isNews(identifier, badge));
 }
 
 } // namespace
+
+BOOL carriesBadge(NSString *identifier) { return [[iconViewOf(identifier) icon] badgeValue] != 0; }
+
+void keepBadgedApplications() {
+    NSMutableArray *cleared = [NSMutableArray array];
+    for (NSString *identifier in datas)
+        if (!carriesBadge(identifier)) [cleared addObject:identifier];
+    [datas removeObjectsInArray:cleared];
+}
 
 void hooked::resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image) {
     original::resizeForTextImage(self, _cmd, image);
@@ -40,7 +78,7 @@ void hooked::resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image)
     if ([icon isFolderIcon]) {
         listFolder((SBFolderIcon *)icon);
     } else if (icon) {
-        list([icon nodeIdentifier], [icon badgeValue] != 0);
+        listIcon(icon);
     }
     indicatorFollowsBadges();
 }

@@ -75,6 +75,12 @@ void indicatorGoesDark();
 // The display has turned on: as for a badge, since those that came in the dark have not moved it.
 void indicatorWakes();
 
+// Whether the application's icon carries a badge; NO without an icon.
+BOOL carriesBadge(NSString *identifier);
+// There was nothing to list: what still carries a badge stays on the list, in its order, everything else
+// goes. The indicator does not follow by itself.
+void keepBadgedApplications();
+
 // What a pulse asks by itself, whoever wants it: `glow` on and `hide` off.
 BOOL mayPulse();
 
