@@ -20,6 +20,7 @@ struct Case {
     Real height;
     Rect panel;
     Real bubbleAlpha;
+    bool aside = false;
 };
 
 TEST(PanelPlacement, StandsWhereItIsExpected) {
@@ -52,13 +53,67 @@ TEST(PanelPlacement, StandsWhereItIsExpected) {
          1},
         {"turned, middle", {320, 568}, kItem, true, Anchor::middle, 96, {156, 112, 256, 96}, 0},
         {"turned, bottom", {320, 568}, kItem, true, Anchor::bottom, 96, {156, 199, 256, 96}, 0},
+        {"let down", {375, 667}, {200, 267, 14, 20}, false, Anchor::item, 97, {37.5, 297, 300, 97}, 1},
+        {"let down, too high for what is left",
+         {375, 667},
+         {200, 267, 14, 20},
+         false,
+         Anchor::item,
+         400,
+         {37.5, 229.5, 300, 400},
+         0},
+        {"let down and turned, too high for the screen",
+         {375, 667},
+         {500, 150, 14, 20},
+         true,
+         Anchor::item,
+         360,
+         {241, 30, 300, 360},
+         0},
+        {"upside down, the bar below",
+         {320, 568},
+         {40, 548, 14, 20},
+         false,
+         Anchor::item,
+         96,
+         {32, 440, 256, 96},
+         0,
+         true},
+        {"turned, the bar at the left",
+         {320, 568},
+         {0, 60, 20, 14},
+         true,
+         Anchor::item,
+         96,
+         {30, 84, 256, 96},
+         0,
+         true},
+        {"turned, the bar at the right",
+         {320, 568},
+         {548, 250, 20, 14},
+         true,
+         Anchor::item,
+         96,
+         {282, 199, 256, 96},
+         0,
+         true},
+        {"turned, the bar at the right, bottom",
+         {320, 568},
+         {548, 250, 20, 14},
+         true,
+         Anchor::bottom,
+         96,
+         {156, 199, 256, 96},
+         0,
+         true},
     };
     for (const Case &c : cases) {
         Placement placed = placePanel({.item = c.item,
                                        .screen = c.screen,
                                        .landscape = c.landscape,
                                        .anchor = c.anchor,
-                                       .height = c.height});
+                                       .height = c.height,
+                                       .aside = c.aside});
         EXPECT_EQ(placed.panel, c.panel) << c.what << ": " << placed.panel.x << " " << placed.panel.y;
         EXPECT_EQ(placed.bubbleAlpha, c.bubbleAlpha) << c.what;
     }
@@ -67,6 +122,8 @@ TEST(PanelPlacement, StandsWhereItIsExpected) {
 TEST(PanelPlacement, BubbleReachesBehindTheItem) {
     Placement placed = placePanel({.item = {200, 0, 14, 20}, .screen = {320, 568}, .height = 96});
     EXPECT_EQ(placed.bubble, (Rect{193, 5, 28, 50}));
+    placed = placePanel({.item = {200, 267, 14, 20}, .screen = {375, 667}, .height = 96});
+    EXPECT_EQ(placed.bubble, (Rect{193, 272, 28, 50})) << "let down with it";
 }
 
 TEST(PanelPlacement, StaysOnEveryScreen) {

@@ -1,6 +1,6 @@
 -- Opening a folder shows its badges and changes none: the order in which applications wait stays as it was. What changes
 -- in a folder goes before what waits outside it, the application whose badge it was first of all.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local apps = P.numbered(4)
 for n = 2, 4 do apps[n].folder = "Social" end
 

@@ -1,6 +1,6 @@
 -- Badges that wait are not forgotten: an empty panel, running mode and quitting leave on the list what still carries a
 -- badge, take off everything else, and the indicator follows.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 local glowing = { glow = true, tint = "green" }
 local function boot_with(ios, settings, apps)
   return P.boot(settings, { ios = ios, apps = apps })

@@ -14,8 +14,11 @@ local function attached(phone, screen, orientation, what)
   expect_near(panel.y, 30, 0.01, what .. ": y")
   expect(panel.x >= 0 and panel.x + panel.w <= (turned and screen[2] or screen[1]), what .. ": on the screen")
   local logo, bubble = P.top(phone, P.tag.logo), P.top(phone, P.tag.bubble)
-  expect_near(logo.screen.x, indicator.x, 0.01, what .. ": the logo lies on the indicator")
+  for _, key in ipairs{ "x", "y", "w", "h" } do
+    expect_near(logo.screen[key], indicator[key], 0.01, what .. ": the logo lies on the indicator: " .. key)
+  end
   expect_near(bubble.screen.x + bubble.screen.w / 2, indicator.x + 7, 0.01, what .. ": and the bubble behind it")
+  expect_near(bubble.screen.y, indicator.y + 5, 0.01, what .. ": from its top")
   expect_eq(logo.alpha, 1, what .. ": visible")
 end
 

@@ -1,11 +1,32 @@
 #include "Tweak/Core/PanelAnchor.h"
 
+#include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
 
 namespace pendix {
+
+namespace {
+
+// From a window's own coordinates to those of the screen held in portrait.
+CGAffineTransform toScreen(UIWindow *of) {
+    CGRect bounds = of.bounds;
+    CGPoint centre = of.center;
+    CGAffineTransform result =
+        CGAffineTransformMakeTranslation(-CGRectGetMidX(bounds), -CGRectGetMidY(bounds));
+    result = CGAffineTransformConcat(result, of.transform);
+    return CGAffineTransformConcat(result, CGAffineTransformMakeTranslation(centre.x, centre.y));
+}
+
+Size portraitScreen() {
+    CGSize size = portraitScreenBounds().size;
+    return {size.width, size.height};
+}
+
+} // namespace
 
 BOOL reachabilityIsActive() {
     return [(SBReachabilityManager *)[objc_getClass("SBReachabilityManager") sharedInstance]
@@ -21,14 +42,35 @@ Anchor currentAnchor(BOOL reachability) {
     return anchorFor(rech, position, reachability);
 }
 
+ItemPlace placeInOverlay(UIView *item) {
+    constexpr CGFloat kUpright = 0.9; // the cosine of an angle that is no quarter turn
+    UIWindow *bar = item.window;
+    if (!bar) return {toRect(item.frame)};
+    CGRect inBar = [item convertRect:item.bounds toView:bar];
+    CGAffineTransform toOverlay =
+        CGAffineTransformConcat(toScreen(bar), CGAffineTransformInvert(toScreen(window)));
+    return {toRect(CGRectApplyAffineTransform(inBar, toOverlay)), toOverlay.a < kUpright};
+}
+
+Placement placementFor(const ItemPlace &item, Anchor anchor, CGFloat height) {
+    return placePanel({.item = item.frame,
+                       .screen = portraitScreen(),
+                       .landscape = static_cast<bool>(isLandscape()),
+                       .anchor = anchor,
+                       .height = height,
+                       .aside = item.aside});
+}
+
 CGRect frameWithHeight(UIView *panel, CGFloat height) {
     CGRect frame = panel.frame;
-    CGSize screen = portraitScreenBounds().size;
-    UIInterfaceOrientation orientation = [UIApplication sharedApplication].statusBarOrientation;
-    BOOL turned = orientation == UIInterfaceOrientationLandscapeRight ||
-                  orientation == UIInterfaceOrientationLandscapeLeft;
-    frame.origin.y = anchoredY(currentAnchor(reachabilityIsActive()), frame.origin.y, frame.size.height,
-                               height, turned ? screen.width : screen.height);
+    const Size screen = portraitScreen();
+    const bool landscape = isLandscape();
+    const Anchor anchor = currentAnchor(reachabilityIsActive());
+    UIView *logo = overlayView(tags::logo);
+    frame.origin.y = anchor == Anchor::item && logo
+                         ? hangingY(toRect(logo.frame), height, screen, landscape)
+                         : anchoredY(anchor, frame.origin.y, frame.size.height, height,
+                                     landscape ? screen.width : screen.height);
     frame.size.height = height;
     return frame;
 }

@@ -89,11 +89,7 @@ void fitCards(PanelBuild &build) {
 void openPanel(PanelBuild &build) {
     SpringBoard *springBoard = build.springBoard;
     [springBoard liveClock];
-    Placement place = placePanel({.item = toRect(build.item.frame),
-                                  .screen = {build.screen.width, build.screen.height},
-                                  .landscape = static_cast<bool>(isLandscape()),
-                                  .anchor = currentAnchor(reachabilityIsActive()),
-                                  .height = static_cast<Real>(build.height)});
+    Placement place = placementFor(build.itemPlace, currentAnchor(reachabilityIsActive()), build.height);
     build.bubble.alpha = place.bubbleAlpha;
     BOOL blurs = isOn(keys::blursScreen);
     UIView *bubble = build.bubble, *panel = build.panel;

@@ -21,7 +21,7 @@ constexpr CFTimeInterval kSquaring = 0.5; // seconds
 // Where the panel shrinks to. An indicator that has just been hidden has left its glyph's copy behind.
 CGRect collapsePoint(SpringBoard *springBoard) {
     UIView *item = [springBoard pendix];
-    return toCGRect(growthPoint(toRect(item ? item.frame : overlayView(tags::logo).frame)));
+    return toCGRect(growthPoint(item ? placeInOverlay(item).frame : toRect(overlayView(tags::logo).frame)));
 }
 
 void collapse(SpringBoard *springBoard) {

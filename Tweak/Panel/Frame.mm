@@ -48,13 +48,13 @@ void addBubbleAndPanel(PanelBuild &build) {
                            scheme.light ? [UIColor whiteColor] : clear, tags::panel);
     build.panel.layer.cornerRadius = 0;
 
-    CGRect seed = toCGRect(growthPoint(toRect(build.item.frame)));
+    CGRect seed = toCGRect(growthPoint(build.itemPlace.frame));
     build.bubble.frame = seed;
     build.panel.frame = seed;
 }
 
 void addLogo(PanelBuild &build) {
-    UIImageView *logo = [[[UIImageView alloc] initWithFrame:build.item.frame] autorelease];
+    UIImageView *logo = [[[UIImageView alloc] initWithFrame:toCGRect(build.itemPlace.frame)] autorelease];
     logo.image =
         [[[build.item contentsImage] image] imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
     logo.tintColor = build.scheme.paper;

@@ -1,8 +1,8 @@
 // One opening of the panel: what its building steps share. It lives as long as prepareUI: runs.
 #pragma once
 
-#include "Tweak/Core/Geometry/PanelPlacement.hpp"
 #include "Tweak/Core/Geometry/StripLayout.hpp"
+#include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/Scheme.h"
 #include "Tweak/Panel/NewUIScrollView.h"
 
@@ -28,6 +28,7 @@ struct PanelBuild {
     UIImage *closeImage; // a template; nil without the file
     CGSize screen;       // portrait
     StripInput layout;
+    ItemPlace itemPlace; // where the item is, in the overlay
     Placement placement; // with the strip's height
 
     // Views, retained by where they stand.

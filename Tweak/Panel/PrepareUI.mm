@@ -1,7 +1,6 @@
 #include "Tweak/Panel/PanelBuild.h"
 
 #include "Tweak/Core/Names.h"
-#include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
@@ -43,11 +42,9 @@ PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
     lastGheight = 0;
     lastx = static_cast<float>(item.frame.origin.x);
     build.height = gheight;
-    build.placement = placePanel({.item = toRect(item.frame),
-                                  .screen = {build.screen.width, build.screen.height},
-                                  .landscape = static_cast<bool>(isLandscape()),
-                                  .anchor = Anchor::item,
-                                  .height = gheight});
+    lastReachability = reachabilityIsActive();
+    build.itemPlace = placeInOverlay(item);
+    build.placement = placementFor(build.itemPlace, Anchor::item, gheight);
     build.layout = {.icon = {icon.width, icon.height},
                     .rows = numberOfRows(),
                     .paging = static_cast<bool>(build.paging),

@@ -25,17 +25,23 @@ struct Placement {
 };
 
 struct PlacementInput {
-    Rect item;   // the indicator's frame
+    Rect item;   // the indicator's frame, also where the screen is let down or turned otherwise
     Size screen; // portrait, whichever way it is held
     bool landscape = false;
     Anchor anchor = Anchor::item;
-    Real height = 0; // of the panel
+    Real height = 0;    // of the panel
+    bool aside = false; // the indicator lies turned: the interface is held another way than the overlay
 };
 
 // The panel is eight tenths of the screen's shorter side wide. Upright it stands centred under the
-// indicator's line; turned, its right end lies under the indicator. The bubble shows only at the indicator,
-// and not where it would stick out beyond the upright panel's right end.
+// indicator's line; turned, its right end lies under the indicator, or all of it beside one that lies aside.
+// The bubble shows only where the panel hangs on the indicator, and not where it would stick out beyond the
+// upright panel's right end.
 Placement placePanel(const PlacementInput &input);
+
+// The y of a panel of that height that hangs on the indicator: under it, or, where the screen ends there, as
+// low as the bottom anchor allows, but no higher than under an indicator at the screen's top.
+Real hangingY(const Rect &item, Real height, Size screen, bool landscape);
 
 // The y of a panel that grows or shrinks while it is shown: in the middle it stays centred on `screenExtent`
 // (the screen's height as it is held), at the bottom its lower edge stays, elsewhere its upper one.
