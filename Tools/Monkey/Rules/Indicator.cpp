@@ -1,5 +1,7 @@
 // The indicator shows when the settings and the badges say so, as of the moments at which they are looked at:
-// a change of a badge, the display's turning on, and the poll's tick after a watched setting changed.
+// a change of a badge, the display's turning on, a panel with nothing to show, and the poll's tick after a
+// watched setting changed.
+#include "Names.hpp"
 #include "Rules.hpp"
 #include "Settings.hpp"
 
@@ -68,20 +70,24 @@ void poll(const Interval &interval, Memory &memory, Outcome &outcome) {
     memory.applied = certain ? std::optional(wanted) : std::nullopt;
 }
 
-// A badge was drawn, or the display came on.
-void badges(const Interval &interval, Outcome &outcome) {
+// A badge was drawn, the display came on, or a panel may have found nothing to show.
+void badges(const Interval &interval, const Memory &memory, Outcome &outcome) {
     const Moment &moment = interval.moment;
     bool drawn = moment.entered("_resizeForTextImage:") > 0;
+    bool panel = memory.shown || moment.logged(names::opening);
     bool woken = moment.entered("_handleDisplayTurnedOn") + moment.entered("_handleDisplayTurnedOn:") > 0;
     bool alwaysDark = interval.darkBefore && interval.darkAfter && !interval.displayTurned;
-    if ((!drawn && !woken) || alwaysDark) return;
-    bool certain = !moment.settingsChanged && !interval.darkAfter &&
-                   (woken || (interval.listChanged() && !interval.darkBefore && !interval.displayTurned));
+    if ((!drawn && !woken && !panel) || alwaysDark) return;
+    bool changed = drawn && interval.listChanged() && !interval.darkBefore && !interval.displayTurned;
+    bool certain = !moment.settingsChanged && !interval.darkAfter && (woken || changed);
     bool follows = false;
     for (const Value *settings : interval.settings()) {
-        if (!isOn(*settings, "enable") || isOn(*settings, "badge") || isOn(*settings, "hide") ||
-            !isOn(*settings, "hide_t"))
-            continue;
+        if (!isOn(*settings, "enable")) continue;
+        if (isOn(*settings, "hide") && (drawn || panel)) {
+            outcome.add(false);
+            follows = follows || changed;
+        }
+        if (isOn(*settings, "badge") || isOn(*settings, "hide") || !isOn(*settings, "hide_t")) continue;
         follows = true;
         // With no time between, the list that counts is the one that it left.
         if (moment.from == moment.to) {
@@ -111,7 +117,7 @@ void checkIndicator(const Moment &moment, Memory &memory, Findings &findings) {
     }
     Outcome outcome;
     poll(interval, memory, outcome);
-    badges(interval, outcome);
+    badges(interval, memory, outcome);
     if (!outcome.certain && memory.visible) outcome.add(*memory.visible);
     bool seen = moment.now.itemVisible;
     bool known = moment.now.itemPresent && memory.visible;
