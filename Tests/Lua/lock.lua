@@ -66,6 +66,9 @@ function M.enter(phone, digits)
 end
 function M.button(phone) return M.part(phone, "keypad", M.tags.button) end
 function M.title(phone, face) return M.part(phone, face, M.tags.title).text end
+function M.touch_id_button(phone)
+  return phone:find{ parent = M.face_view(phone, "keypad"), class = "UIButton", tag = 0 }
+end
 
 -- The digits that the dots hold, and which of the dots are filled.
 function M.entered(phone)

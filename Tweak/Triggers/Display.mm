@@ -16,7 +16,7 @@ void goDark() {
     indicatorGoesDark();
     [openThisApp release];
     openThisApp = @"";
-    if ([@"everyoff" isEqual:setting(keys::lockMoment)]) needPasscode = YES;
+    armLockInTheDark();
     if (isShow) [Spring dismisPendixUI];
 }
 
