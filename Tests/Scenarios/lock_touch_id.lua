@@ -142,6 +142,7 @@ for _, case in ipairs{
   { "ask", { touchid = true, ask = true }, function(p) return L.part(p, "ask", -2) end },
   { "finger", { touchid = true }, function(p) return L.part(p, "finger", 3) end },
   { "keypad", { touchid = false }, function(p) return L.touch_id_button(p) end },
+  { "keypad", { touchid = false }, function(p) return L.button(p) end },
 } do
   local face, settings, button = table.unpack(case)
   for _, again in ipairs{ false, true } do

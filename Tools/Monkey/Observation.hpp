@@ -71,7 +71,7 @@ struct SeenApplication {
 
 // The extension's own variables.
 struct ExtensionState {
-    bool isShow = false, isEditing = false, needPasscode = false, locked = false, needToPulse = false;
+    bool isShow = false, isEditing = false, locked = false, needToPulse = false;
     std::vector<std::string> datas;
 };
 
