@@ -47,4 +47,16 @@ CGFloat CGRectGetMaxY(CGRect rect);
 // `angle` in radians; positive turns x towards y.
 CGAffineTransform CGAffineTransformMakeRotation(CGFloat angle);
 CGAffineTransform CGAffineTransformMakeScale(CGFloat sx, CGFloat sy);
+CGFloat CGRectGetMidX(CGRect rect);
+CGFloat CGRectGetMidY(CGRect rect);
+CGAffineTransform CGAffineTransformMakeTranslation(CGFloat tx, CGFloat ty);
+// First `first`, then `second`.
+CGAffineTransform CGAffineTransformConcat(CGAffineTransform first, CGAffineTransform second);
+// A transform that cannot be inverted is returned as it is.
+CGAffineTransform CGAffineTransformInvert(CGAffineTransform transform);
+// The smallest upright rectangle around the transformed corners.
+CGRect CGRectApplyAffineTransform(CGRect rect, CGAffineTransform transform);
+CGRect CGRectInset(CGRect rect, CGFloat dx, CGFloat dy);
+extern const CGPoint CGPointZero;
+bool CGRectContainsPoint(CGRect rect, CGPoint point);
 }

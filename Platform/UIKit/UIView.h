@@ -68,6 +68,9 @@ enum {
 - (UIView *)hitTest:(CGPoint)point withEvent:(UIEvent *)event;
 - (CGSize)sizeThatFits:(CGSize)size;
 - (void)sizeToFit;
+- (CGPoint)convertPoint:(CGPoint)point toView:(UIView *)view;
+- (CGPoint)convertPoint:(CGPoint)point fromView:(UIView *)view;
+- (BOOL)pointInside:(CGPoint)point withEvent:(UIEvent *)event;
 @end
 
 @interface UIView (UIViewHierarchy)
@@ -82,6 +85,7 @@ enum {
 - (void)didMoveToWindow;
 - (void)layoutIfNeeded;
 - (void)layoutSubviews;
+- (void)insertSubview:(UIView *)view atIndex:(NSInteger)index;
 @end
 
 @interface UIView (UIViewRendering)

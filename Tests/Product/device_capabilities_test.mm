@@ -1,5 +1,5 @@
-// Which devices have a fingerprint sensor and which a big screen, by the models that were sold with iOS 7 and 8 and
-// one that came later.
+// Which devices have a fingerprint sensor and which a big screen, by the models that were sold with iOS 7 and
+// 8 and one that came later.
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Start/HookTable.h"
 

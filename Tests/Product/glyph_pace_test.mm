@@ -1,4 +1,5 @@
-// A fingerprint elsewhere in the system draws at its own pace, but for as long as the panel waits for a finger.
+// A fingerprint elsewhere in the system draws at its own pace, but for as long as the panel waits for a
+// finger.
 #include "Tweak/Core/State.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
 #include "Tweak/Panel/Panel.h"
@@ -40,8 +41,7 @@ protected:
     // How long a glyph on another window takes that is told to take 2 s.
     double seconds() {
         UIWindow *other = [[[UIWindow alloc] initWithFrame:CGRectMake(0, 0, 65, 65)] autorelease];
-        auto *glyph =
-            [[[PKFingerprintGlyphView alloc] initWithFrame:CGRectMake(0, 0, 65, 65)] autorelease];
+        auto *glyph = [[[PKFingerprintGlyphView alloc] initWithFrame:CGRectMake(0, 0, 65, 65)] autorelease];
         [other addSubview:glyph];
         other.hidden = NO;
         harness::wait(0);

@@ -1,5 +1,6 @@
 // What only the picture tells about the panel: that nothing leaves its edge, that its question can be read
 // however many applications it is about, and that an application that is closed takes all it shows along.
+#include "UIKit/UIKit+Further.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"

@@ -1,5 +1,5 @@
-// A code or a finger takes a moment until it unlocks: the last dot fills, the glyph ticks. By then the display may
-// have gone off, or another panel may be open.
+// A code or a finger takes a moment until it unlocks: the last dot fills, the glyph ticks. By then the
+// display may have gone off, or another panel may be open.
 #pragma once
 
 #include "Tweak/Core/State.h"

@@ -79,8 +79,8 @@ void added::unlockTap(SpringBoard *, SEL, UIButton *button) {
             finger.alpha = 1;
         }
         completion:^(BOOL) {
-            // Closed meanwhile: a panel that is open by now has an ask face of its own. And the keypad may have
-            // been chosen, which lay under the question's edge already.
+            // Closed meanwhile: a panel that is open by now has an ask face of its own. And the keypad may
+            // have been chosen, which lay under the question's edge already.
             if (isShown(ask) && fingerFaceIsChosen()) requireFinger = YES;
             [ask removeFromSuperview];
         }];

@@ -9,11 +9,7 @@
 @property (nonatomic, getter=isMultipleTouchEnabled) BOOL multipleTouchEnabled;
 @property (nonatomic, getter=isExclusiveTouch) BOOL exclusiveTouch;
 @property (nonatomic) BOOL autoresizesSubviews;
-- (CGPoint)convertPoint:(CGPoint)point toView:(UIView *)view;
-- (CGPoint)convertPoint:(CGPoint)point fromView:(UIView *)view;
 - (CGRect)convertRect:(CGRect)rect fromView:(UIView *)view;
-- (BOOL)pointInside:(CGPoint)point withEvent:(UIEvent *)event;
-- (void)insertSubview:(UIView *)view atIndex:(NSInteger)index;
 - (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling;
 - (void)insertSubview:(UIView *)view aboveSubview:(UIView *)sibling;
 - (void)sendSubviewToBack:(UIView *)view;
