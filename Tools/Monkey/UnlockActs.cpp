@@ -10,7 +10,9 @@ namespace sim {
 
 namespace {
 
-constexpr int64_t kFaceButton = -2; // tag: cancel on the keypad, unlock under the question
+// Tags: cancel on the keypad and unlock under the question; the way from the Touch ID face to the keypad, which
+// is the tag of the panel itself as well.
+constexpr int64_t kFaceButton = -2, kPasscodeButton = 3;
 
 int codeWeight(const Hand &hand) {
     return hand.snapshot.key('1') && !hand.dark && !hand.fingers.contains(1) ? 16 : 0;
@@ -32,24 +34,23 @@ std::string rightCode(Hand &hand) {
     return typed ? code.string() : otherwise;
 }
 
-std::string typeRightCode(Hand &hand) {
+std::string tap(const Place &place) { return "phone:tap" + pointText(place); }
+
+std::string typed(const Hand &hand, const std::string &code) {
     std::string line;
-    for (char digit : rightCode(hand))
-        if (const Place *key = hand.snapshot.key(digit))
-            line += (line.empty() ? "" : " ") + ("phone:tap" + pointText(*key));
+    for (char digit : code)
+        if (const Place *key = hand.snapshot.key(digit)) line += (line.empty() ? "" : " ") + tap(*key);
     return line;
 }
 
-std::string passQuestion(Hand &hand) {
-    auto button = std::ranges::find(hand.snapshot.overlay, kFaceButton, &Place::tag);
-    if (hand.snapshot.key('1') || button == hand.snapshot.overlay.end()) return "";
-    return "phone:tap" + pointText(*button);
-}
+std::string typeRightCode(Hand &hand) { return typed(hand, rightCode(hand)); }
 
-// By what the panel asks for.
-std::string pass(Hand &hand) {
-    if (hand.snapshot.key('1')) return typeRightCode(hand);
-    return hasSensor(hand) ? "phone:finger(3)" : "";
+// The last of that tag, which is the one inside the others.
+const Place *button(const Hand &hand, int64_t tag) {
+    const auto &places = hand.snapshot.overlay;
+    auto found =
+        std::find_if(places.rbegin(), places.rend(), [=](const Place &place) { return place.tag == tag; });
+    return found == places.rend() ? nullptr : &*found;
 }
 
 void plan(Hand &hand, std::string line) {
@@ -65,6 +66,45 @@ void planPause(Hand &hand, int64_t most) {
     if (hand.random.percent(50)) planWait(hand, 0, most);
 }
 
+// A code with a slip: the last thing typed before it is taken back, or one digit is wrong at first.
+std::string typeWithSlip(Hand &hand) {
+    std::string code = rightCode(hand);
+    const char slip = static_cast<char>('0' + hand.random.below(10));
+    const Place *back = button(hand, kFaceButton);
+    if (back && hand.random.percent(50))
+        return typed(hand, std::string(1, slip)) + " " + tap(*back) + " " + typed(hand, code);
+    code[hand.random.below(code.size())] = slip;
+    hand.plan.emplace_front(typeRightCode);
+    hand.plan.emplace_front([](Hand &) { return "phone:wait(0.9)"; });
+    return typed(hand, code);
+}
+
+// By what the panel asks for.
+std::string pass(Hand &hand) {
+    if (hand.snapshot.key('1')) return hand.random.percent(60) ? typeRightCode(hand) : typeWithSlip(hand);
+    return hasSensor(hand) ? "phone:finger(3)" : "";
+}
+
+std::string matchNow(Hand &hand) {
+    return hasSensor(hand) && hand.random.percent(20) ? "phone:finger(3)" : "";
+}
+
+std::string passQuestion(Hand &hand) {
+    const Place *unlock = button(hand, kFaceButton);
+    return unlock && !hand.snapshot.key('1') ? tap(*unlock) : "";
+}
+
+// A finger does not count afterwards.
+std::string choosePasscode(Hand &hand) {
+    const Place *passcode = button(hand, kPasscodeButton);
+    if (!passcode || hand.snapshot.key('1') || hand.random.percent(50)) return "";
+    if (hasSensor(hand)) hand.plan.emplace_front([](Hand &) { return "phone:finger(3)"; });
+    const int64_t milliseconds = hand.random.between(0, 900);
+    hand.plan.emplace_front(
+        [=](Hand &) { return "phone:wait(" + secondsText(milliseconds * 1'000'000) + ")"; });
+    return tap(*passcode);
+}
+
 void planDark(Hand &hand) {
     plan(hand, hand.random.pick({"phone:display(false)", "phone:lock()"}));
     planPause(hand, 900);
@@ -75,7 +115,11 @@ void planDark(Hand &hand) {
 // Goes, while what was entered is perhaps still being judged, and comes back. In the dark the panel closes by
 // itself.
 void planLeaving(Hand &hand) {
-    planPause(hand, 150);
+    if (hand.random.percent(30)) {
+        planWait(hand, 400, 1500);
+    } else {
+        planPause(hand, 150);
+    }
     if (hand.random.percent(50)) {
         planDark(hand);
         planPause(hand, 600);
@@ -107,10 +151,12 @@ std::string breakIn(Hand &hand) {
                       {"ask", hand.random.percent(25)}};
     planDark(hand);
     plan(hand, "phone:activator()");
-    planWait(hand, 500, 900);
-    hand.plan.push_back(passQuestion);
-    planWait(hand, 500, 900);
-    hand.plan.push_back(pass);
+    planWait(hand, 600, 900);
+    for (auto step : {matchNow, passQuestion, choosePasscode}) {
+        hand.plan.emplace_back(step);
+        if (step != matchNow) planWait(hand, 50, 900);
+    }
+    hand.plan.emplace_back(pass);
     planLeaving(hand);
     if (hand.random.percent(60)) plan(hand, luaCall("set", {"pass", false}));
     return luaCall("set", {lock});

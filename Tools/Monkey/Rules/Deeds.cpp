@@ -92,10 +92,10 @@ struct Form {
 };
 
 constexpr std::array kForms = {
-    Form{"tap", Deed::Kind::tap, 0, -1, -1},     Form{"hold", Deed::Kind::touch, 0, -1, 2},
-    Form{"drag", Deed::Kind::touch, 0, -1, 4},   Form{"fling", Deed::Kind::touch, 0, -1, 4},
-    Form{"down", Deed::Kind::down, 0, 2, -1},    Form{"move", Deed::Kind::move, 0, 2, -1},
-    Form{"up", Deed::Kind::up, -1, 0, -1},       Form{"finger", Deed::Kind::sensor, -1, 0, -1, 3},
+    Form{"tap", Deed::Kind::tap, 0, -1, -1},   Form{"hold", Deed::Kind::touch, 0, -1, 2},
+    Form{"drag", Deed::Kind::touch, 0, -1, 4}, Form{"fling", Deed::Kind::touch, 0, -1, 4},
+    Form{"down", Deed::Kind::down, 0, 2, -1},  Form{"move", Deed::Kind::move, 0, 2, -1},
+    Form{"up", Deed::Kind::up, -1, 0, -1},     Form{"finger", Deed::Kind::sensor, -1, 0, -1, 3},
     Form{"wait", Deed::Kind::wait, -1, -1, 0},
 };
 

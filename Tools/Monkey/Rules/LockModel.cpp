@@ -83,8 +83,8 @@ struct LockModel::Step {
     explicit Step(const Moment &given)
         : moment(given), before(given.before ? sightOf(*given.before) : PanelSight()),
           now(sightOf(given.now)), deeds(deedsOf(given.call)) {
-        opened = now.phase != PanelSight::Phase::none && (before.phase == PanelSight::Phase::none ||
-                                                          (now.open() && !before.open()));
+        opened = now.phase != PanelSight::Phase::none &&
+                 (before.phase == PanelSight::Phase::none || (now.open() && !before.open()));
         alike = before.open() && now.open() && before.resting && now.resting && before.keys == now.keys &&
                 before.button == now.button;
     }
@@ -95,8 +95,9 @@ struct LockModel::Step {
         const bool gone = !before.open() && (!now.open() || first);
         if (gone) return {};
         const bool known = alike || (first && before.open() && before.resting);
-        if (!known) return {.what = before.keypad || now.keypad || !now.resting ? Touched::What::anything
-                                                                            : Touched::What::nothing};
+        if (!known)
+            return {.what = before.keypad || now.keypad || !now.resting ? Touched::What::anything
+                                                                        : Touched::What::nothing};
         Touched touched = hit(before, deed.x, deed.y);
         touched.certain = touched.certain && alike && deed.kind == Deed::Kind::tap;
         return touched;
@@ -139,8 +140,8 @@ void LockModel::arm(const Moment &moment) {
 void LockModel::doubt(const Moment &moment) {
     const Sure armed = armed_;
     arm(moment);
-    const bool dark = moment.call.find("display") != std::string::npos ||
-                      moment.call.find("lock") != std::string::npos;
+    const bool dark =
+        moment.call.find("display") != std::string::npos || moment.call.find("lock") != std::string::npos;
     if (armed_ != armed || (dark && armed_ == Sure::no)) armed_ = Sure::maybe;
     const bool locked = armed_ == Sure::yes && hasLock(moment.settingsBefore) && hasLock(moment.settings);
     if (guarded_ != Sure::yes || !locked) guarded_ = Sure::maybe;
@@ -226,9 +227,7 @@ void LockModel::touch(const Touched &touched, int64_t at) {
 
 // A finger that matches counts only where the panel asks for one.
 void LockModel::sense(const Step &step, bool first) {
-    auto mayListen = [](const PanelSight &sight) {
-        return sight.open() && (sight.finger || !sight.resting);
-    };
+    auto mayListen = [](const PanelSight &sight) { return sight.open() && (sight.finger || !sight.resting); };
     if (mayListen(step.before) || (!first && mayListen(step.now))) pass();
 }
 

@@ -32,8 +32,7 @@ struct Looker {
     }
     void look(size_t panel) {
         const Area &goal = window.views[panel].frame;
-        sight.phase =
-            goal.w <= 1 && goal.h <= 1 ? PanelSight::Phase::closing : PanelSight::Phase::open;
+        sight.phase = goal.w <= 1 && goal.h <= 1 ? PanelSight::Phase::closing : PanelSight::Phase::open;
         notice(0);
         notice(panel);
         size_t content = window.child(panel, names::content);
