@@ -1,10 +1,10 @@
 // What the indicator and the badges do whoever asks: a pulse starts only where the settings let it and ends
 // with its view, a spoilt file glows red, not clear, the badges' height is that of the first one seen, and
 // badges that others hide stay hidden.
-#include "UIKit/UIKit+Further.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Start/HookTable.h"
 #include "Tweak/StatusBar/StatusBar.h"
+#include "UIKit/UIKit+Further.h"
 
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"

@@ -1,6 +1,5 @@
 // What only the picture tells about the panel: that nothing leaves its edge, that its question can be read
 // however many applications it is about, and that an application that is closed takes all it shows along.
-#include "UIKit/UIKit+Further.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
@@ -8,6 +7,7 @@
 #include "Tweak/Panel/SpringBoard+Gestures.h"
 #include "Tweak/Start/HookTable.h"
 #include "Tweak/StatusBar/StatusBar.h"
+#include "UIKit/UIKit+Further.h"
 
 #include "Render/Renderer.hpp"
 #include "SpringBoard/Fingers.h"
