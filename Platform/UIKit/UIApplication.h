@@ -4,6 +4,9 @@
 #include <UIKit/UIResponder.h>
 #include <UIKit/UIWindow.h>
 
+// The main run loop's mode while a scroll view follows a finger.
+extern NSString *const UITrackingRunLoopMode;
+
 @interface UIApplication : UIResponder {
 @public
     void *_applicationState;

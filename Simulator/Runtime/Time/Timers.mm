@@ -1,6 +1,6 @@
 #import <Foundation/Foundation.h>
 
-#include "Clock.hpp"
+#include "RunLoop.hpp"
 #include "Runtime/Objc/Methods.hpp"
 #include "Timers.hpp"
 
@@ -16,14 +16,15 @@ using sim::Nanos;
 @interface SimTimer : NSTimer {
 @public
     Nanos due;
-    Nanos step; // 0: fires once
+    Nanos step;              // 0: fires once
+    sim::RunLoopModes modes; // 0: not scheduled
     Clock::TaskId task;
     BOOL live;
     id target;
     SEL action;
     id info;
 }
-- (void)schedule;
+- (void)scheduleInModes:(sim::RunLoopModes)more;
 @end
 
 namespace {
@@ -45,15 +46,17 @@ void call(id target, SEL action, id argument) {
 
 @implementation SimTimer
 
-- (void)schedule {
-    if (!live || task) return;
+- (void)scheduleInModes:(sim::RunLoopModes)more {
+    if (!live || (modes | more) == modes) return;
+    modes |= more;
     if (scheduled().insert(self).second) [self retain];
     [self arm];
 }
 
 - (void)arm {
     SimTimer *timer = self;
-    task = Clock::shared().schedule(due, Clock::Phase::timer, [timer] {
+    sim::cancelInModes(task);
+    task = sim::scheduleInModes(due, modes, [timer] {
         [[timer retain] autorelease];
         timer->task = 0;
         if (timer->step) {
@@ -76,7 +79,7 @@ void call(id target, SEL action, id argument) {
 - (void)invalidate {
     if (!live) return;
     live = NO;
-    Clock::shared().cancel(task);
+    sim::cancelInModes(task);
     task = 0;
     [target autorelease];
     [info autorelease];
@@ -103,9 +106,7 @@ void call(id target, SEL action, id argument) {
 
 - (void)setFireDate:(NSDate *)date {
     due = Clock::shared().now() + sim::fromSeconds([date timeIntervalSinceNow]);
-    if (!task) return;
-    Clock::shared().cancel(task);
-    [self arm];
+    if (task) [self arm];
 }
 
 - (void)dealloc {
@@ -135,7 +136,7 @@ id unscheduledTimer(id, SEL, NSTimeInterval interval, id target, SEL action, id 
 
 id scheduledTimer(id, SEL, NSTimeInterval interval, id target, SEL action, id info, BOOL repeats) {
     SimTimer *timer = makeTimer(interval, target, action, info, repeats);
-    [timer schedule];
+    [timer scheduleInModes:sim::kDefaultMode];
     return timer;
 }
 
@@ -147,7 +148,13 @@ id initTimer(NSTimer *self, SEL, NSDate *fireDate, NSTimeInterval interval, id t
     return timer;
 }
 
-void addTimer(id, SEL, id timer, id) { [static_cast<SimTimer *>(timer) schedule]; }
+void addTimer(id, SEL, id timer, NSString *mode) {
+    [static_cast<SimTimer *>(timer) scheduleInModes:sim::runLoopModes([mode UTF8String])];
+}
+
+NSString *currentMode(id, SEL) {
+    return sim::runLoopMode() == sim::kTrackingMode ? @"UITrackingRunLoopMode" : NSDefaultRunLoopMode;
+}
 
 } // namespace
 
@@ -181,23 +188,30 @@ void forget(SimDelayedPerform *perform) {
     [perform autorelease];
 }
 
-void performAfterDelay(id self, SEL, SEL action, id argument, NSTimeInterval delay) {
+void performInModes(id self, SEL, SEL action, id argument, NSTimeInterval delay, NSArray *names) {
+    sim::RunLoopModes modes = 0;
+    for (NSString *name in names) modes |= sim::runLoopModes([name UTF8String]);
+    if (!modes) return;
     auto *perform = [SimDelayedPerform new];
     perform->target = [self retain];
     perform->action = action;
     perform->argument = [argument retain];
     performs().push_back(perform);
     Nanos due = Clock::shared().now() + sim::fromSeconds(delay);
-    perform->task = Clock::shared().schedule(due, Clock::Phase::timer, [perform] {
+    perform->task = sim::scheduleInModes(due, modes, [perform] {
         forget(perform);
         call(perform->target, perform->action, perform->argument);
     });
 }
 
+void performAfterDelay(id self, SEL command, SEL action, id argument, NSTimeInterval delay) {
+    performInModes(self, command, action, argument, delay, [NSArray arrayWithObject:NSDefaultRunLoopMode]);
+}
+
 void cancelWhere(auto &&matches) {
     for (auto *perform : std::vector(performs())) {
         if (!matches(perform)) continue;
-        Clock::shared().cancel(perform->task);
+        sim::cancelInModes(perform->task);
         forget(perform);
     }
 }
@@ -226,11 +240,15 @@ void installTimers() {
     replaceMethod([NSTimer class], @selector(initWithFireDate:interval:target:selector:userInfo:repeats:),
                   reinterpret_cast<IMP>(initTimer));
     replaceMethod([NSRunLoop class], @selector(addTimer:forMode:), reinterpret_cast<IMP>(addTimer));
+    replaceMethod([NSRunLoop class], @selector(currentMode), reinterpret_cast<IMP>(currentMode));
     Class objects = object_getClass([NSObject class]);
     // Instances, and classes, which answer what instances of the root class do.
-    for (Class target : {[NSObject class], objects})
+    for (Class target : {[NSObject class], objects}) {
         replaceMethod(target, @selector(performSelector:withObject:afterDelay:),
                       reinterpret_cast<IMP>(performAfterDelay));
+        replaceMethod(target, @selector(performSelector:withObject:afterDelay:inModes:),
+                      reinterpret_cast<IMP>(performInModes));
+    }
     replaceMethod(objects, @selector(cancelPreviousPerformRequestsWithTarget:),
                   reinterpret_cast<IMP>(cancelAllPerforms));
     replaceMethod(objects, @selector(cancelPreviousPerformRequestsWithTarget:selector:object:),

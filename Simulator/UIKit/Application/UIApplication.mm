@@ -5,6 +5,8 @@
 #include "Runtime/Time/Clock.hpp"
 #include "UIKit/Views/ViewState.h"
 
+NSString *const UITrackingRunLoopMode = @"UITrackingRunLoopMode";
+
 namespace {
 
 UIApplication *shared = nil;

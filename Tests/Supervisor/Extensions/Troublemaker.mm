@@ -1,5 +1,5 @@
 // An extension that does what it is told to in the settings file, for tests of what happens to a device then:
-//   crash_after, killall_after, exit_after   seconds from its loading
+//   crash_after, killall_after, exit_after   seconds from its loading, fingers or no
 #import <Foundation/Foundation.h>
 
 #include <stdlib.h>
@@ -24,7 +24,8 @@
             if (NSNumber *delay = [orders objectForKey:order.key])
                 [[[self new] autorelease] performSelector:order.action
                                                withObject:nil
-                                               afterDelay:[delay doubleValue]];
+                                               afterDelay:[delay doubleValue]
+                                                  inModes:[NSArray arrayWithObject:NSRunLoopCommonModes]];
     }
 }
 

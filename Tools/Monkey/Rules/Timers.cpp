@@ -35,6 +35,12 @@ int64_t count(const Observation &seen, const Kind &kind) {
     return std::ranges::count_if(seen.timers, [&](const SeenTimer &timer) { return isOf(timer, kind); });
 }
 
+// A finger on a scroll view keeps timers of the default mode from firing: what was due is still there.
+bool isHeldBack(const Observation &seen, const Kind &kind, int64_t at) {
+    return std::ranges::any_of(seen.timers,
+                               [&](const SeenTimer &timer) { return isOf(timer, kind) && timer.due < at; });
+}
+
 // Timers of a kind stop themselves at the tick after they are no longer wanted. One that is wanted again
 // before that tick runs on beside the new one, so that there may be one more for each start.
 void checkKind(const Kind &kind, const Moment &moment, int64_t started, bool wanted, TimerMemory &memory,
@@ -52,7 +58,7 @@ void checkKind(const Kind &kind, const Moment &moment, int64_t started, bool wan
                          : std::max<int64_t>(0, memory.pending - std::max<int64_t>(0, added));
     if (wanted || started) {
         memory.unwantedSince.reset();
-    } else if (!memory.unwantedSince) {
+    } else if (!memory.unwantedSince || isHeldBack(moment.now, kind, moment.to)) {
         memory.unwantedSince = moment.to;
     }
     auto tick = static_cast<int64_t>(kind.interval * 1e9) + 1;

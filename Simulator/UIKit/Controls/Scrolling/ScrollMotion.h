@@ -8,6 +8,10 @@
 
 namespace sim {
 
+// A finger that may scroll is on the view, or no longer. As long as one is, the run loop is in the tracking
+// mode.
+void setTracking(UIScrollView *scrollView, bool tracking);
+
 void beginDragging(UIScrollView *scrollView);
 // The content follows the pan's translation.
 void drag(UIScrollView *scrollView);

@@ -1,6 +1,7 @@
 #include "ScrollMotion.h"
 
 #include "Runtime/Process/Pixels.hpp"
+#include "Runtime/Time/RunLoop.hpp"
 #include "ScrollIndicators.h"
 #include "UIKit/QuartzCore/Timing.hpp"
 #include "UIKit/Touch/UIGestureRecognizer+Further.h"
@@ -110,6 +111,13 @@ bool restsExactly(UIScrollView *scrollView, int axis, const AxisMotion &motion) 
 
 } // namespace
 
+void setTracking(UIScrollView *scrollView, bool tracking) {
+    static int tracked = 0;
+    if (std::exchange(state(scrollView).tracking, tracking) == tracking) return;
+    tracked += tracking ? 1 : -1;
+    setRunLoopMode(tracked ? kTrackingMode : kDefaultMode);
+}
+
 void beginDragging(UIScrollView *scrollView) {
     auto &mine = state(scrollView);
     CGPoint offset = [scrollView contentOffset];
@@ -137,7 +145,8 @@ void drag(UIScrollView *scrollView) {
 void endDragging(UIScrollView *scrollView, CGPoint velocity) {
     auto &mine = state(scrollView);
     if (!mine.dragging) return;
-    mine.dragging = mine.tracking = false;
+    mine.dragging = false;
+    setTracking(scrollView, false);
     setUnderWay(scrollView, false);
     CGPoint offset = [scrollView contentOffset];
     CGSize size = [scrollView bounds].size;

@@ -22,7 +22,7 @@ UIScrollView *scrollView(UIGestureRecognizer *recognizer) {
 @implementation UIScrollViewPanGestureRecognizer
 
 - (void)touchesBegan:(NSSet *)touches withEvent:(UIEvent *)event {
-    sim::state(scrollView(self)).tracking = true;
+    sim::setTracking(scrollView(self), true);
     bool caught = sim::touchesDown(self) == 1 && sim::stopMotion(scrollView(self));
     [super touchesBegan:touches withEvent:event];
     if (caught) [self setState:UIGestureRecognizerStateBegan];
@@ -41,7 +41,7 @@ UIScrollView *scrollView(UIGestureRecognizer *recognizer) {
 }
 
 - (void)reset {
-    sim::state(scrollView(self)).tracking = false;
+    sim::setTracking(scrollView(self), false);
     [super reset];
 }
 
