@@ -134,26 +134,6 @@ TEST(HitTesting, ZPositionsDecideWhatIsSeenButNotWhatIsTouched) {
     }
 }
 
-TEST(HitTesting, FollowsAViewThatMoves) {
-    UIWindow *window = makeWindow();
-    UIView *view = addColored(window, CGRectMake(0, 0, 50, 50), [UIColor redColor], 1);
-    [UIView animateWithDuration:1
-                          delay:0
-                        options:UIViewAnimationOptionCurveLinear | UIViewAnimationOptionAllowUserInteraction
-                     animations:^{ [view setFrame:CGRectMake(200, 0, 50, 50)]; }
-                     completion:nil];
-    struct {
-        double seconds;
-        CGFloat x;
-    } const places[] = {{0, 0}, {0.5, 100}, {0.5, 200}};
-    for (const auto &place : places) {
-        waitFor(place.seconds);
-        EXPECT_EQ(touched(window, {place.x + 5, 25}), "1") << "at " << place.x;
-        EXPECT_EQ(touched(window, {place.x + 55, 25}), "0") << "at " << place.x;
-        EXPECT_EQ(colorAt({place.x + 5, 25}), "red");
-    }
-}
-
 TEST(HitTesting, AViewThatFadesAwayIsGoneToTheFingerAtOnce) {
     UIWindow *window = makeWindow();
     UIView *view = addColored(window, CGRectMake(0, 0, 50, 50), [UIColor redColor], 1);

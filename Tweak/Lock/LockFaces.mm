@@ -5,6 +5,7 @@
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Lock/FaceParts.h"
 #include "Tweak/Lock/LockRules.hpp"
@@ -72,7 +73,7 @@ void fitLockFaces() {
     UIView *panel = panelView(), *keypad = lockFace(tags::keypadFace);
     if (!keypad || !isShow) return;
     const BOOL keypadShows = panel.frame.size.height == keypad.frame.size.height;
-    [UIView animateWithDuration:kTurn
+    [UIView animateTouchablyFor:kTurn
                      animations:^{
                          layoutKeypad([Spring hasTouchID]);
                          cover(contentView());

@@ -3,6 +3,7 @@
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Lock/FaceParts.h"
 #include "Tweak/Lock/Lock.h"
@@ -19,7 +20,7 @@ void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSid
     UIView *shown = lockFace(tag), *leaving = lockFace(other);
     UIView *panel = panelView();
     const CGRect frame = frameWithHeight(panel, height);
-    [UIView animateWithDuration:animationDuration(kChangeFace)
+    [UIView animateTouchablyFor:animationDuration(kChangeFace)
                      animations:^{
                          setX(shown, 0);
                          setX(leaving, otherSide * leaving.frame.size.width);
@@ -47,7 +48,7 @@ void showList(SpringBoard *springBoard, int page, BOOL cards) {
     UIView *keypad = lockFace(tags::keypadFace);
     UIView *panel = panelView(), *content = contentView(), *list = strip(), *dots = pageDotsView();
     const CGRect frame = frameWithHeight(panel, gheight);
-    [UIView animateWithDuration:animationDuration(kUnlock)
+    [UIView animateTouchablyFor:animationDuration(kUnlock)
         animations:^{
             CGSize size = passed.frame.size;
             passed.frame = CGRectMake(0, size.height, size.width, size.height);
@@ -71,7 +72,7 @@ void added::unlockTap(SpringBoard *, SEL, UIButton *button) {
     UIView *keypad = lockFace(tags::keypadFace), *finger = lockFace(tags::fingerFace), *panel = panelView();
     const CGFloat height = fingerFaceIsChosen() ? lastHeight : lastHeight1;
     const CGRect frame = frameWithHeight(panel, height);
-    [UIView animateWithDuration:animationDuration(kLeaveAsk)
+    [UIView animateTouchablyFor:animationDuration(kLeaveAsk)
         animations:^{
             panel.frame = frame;
             setY(ask, height);

@@ -9,6 +9,7 @@
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/Panel.h"
@@ -93,7 +94,7 @@ void openPanel(PanelBuild &build) {
     build.bubble.alpha = place.bubbleAlpha;
     BOOL blurs = isOn(keys::blursScreen);
     UIView *bubble = build.bubble, *panel = build.panel;
-    [UIView animateWithDuration:animationDuration(kOpening)
+    [UIView animateTouchablyFor:animationDuration(kOpening)
         animations:^{
             bubble.frame = toCGRect(place.bubble);
             panel.frame = toCGRect(place.panel);

@@ -4,6 +4,7 @@
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Lock/Lock.h"
 #include "Tweak/Panel/Corners.h"
@@ -61,7 +62,7 @@ void added::dismisPendixUI(SpringBoard *self, SEL) {
     requireFinger = NO;
     if ([self hasTouchID]) stopFingerMonitor();
     turnCorners(panelView(), kPanelRadius, 0, kSquaring);
-    [UIView animateWithDuration:animationDuration(kClosing)
+    [UIView animateTouchablyFor:animationDuration(kClosing)
         animations:^{
             window.backgroundColor = [UIColor clearColor];
             for (UIView *view in [self statusBarItemViews])

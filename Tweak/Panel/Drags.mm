@@ -3,6 +3,7 @@
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Panel/ItemState.h"
 #include "Tweak/Panel/NewUIScrollView.h"
 #include "Tweak/Panel/Replacements.h"
@@ -49,7 +50,7 @@ void begin(UIView *item, CGPoint location) {
 }
 
 void returnToRow(UIView *item, itemDrag *drag, void (^completion)(BOOL)) {
-    [UIView animateWithDuration:drag->pace * kSnapBack
+    [UIView animateTouchablyFor:drag->pace * kSnapBack
                      animations:^{ setY(item, firstLocation); }
                      completion:completion];
 }

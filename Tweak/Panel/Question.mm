@@ -10,6 +10,7 @@
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Panel/CloseMarks.h"
 #include "Tweak/Panel/Drags.h"
 #include "Tweak/Panel/PromptButton.h"
@@ -78,7 +79,7 @@ void placeContent(BOOL prompting) {
 }
 
 void fadeAnswers(CGFloat alpha, NSTimeInterval duration, NSTimeInterval delay) {
-    [UIView animateWithDuration:duration
+    [UIView animateTouchablyFor:duration
                           delay:delay
                         options:UIViewAnimationOptionAllowUserInteraction
                      animations:^{
@@ -104,7 +105,7 @@ void ask(SpringBoard *springBoard, float duration) {
         buildPrompt(springBoard, ink, running);
     }
     CGRect frame = frameWithHeight(panelView(), gheight + kGrowth);
-    [UIView animateWithDuration:duration
+    [UIView animateTouchablyFor:duration
                      animations:^{
                          panelView().frame = frame;
                          placeContent(YES);
@@ -117,7 +118,7 @@ void added::dismissRequest(SpringBoard *, SEL) {
     const float duration = animationDuration(kShrinking);
     CGRect frame = frameWithHeight(panelView(), gheight);
     fadeAnswers(0, duration * kFadeShare, 0);
-    [UIView animateWithDuration:duration
+    [UIView animateTouchablyFor:duration
         animations:^{
             panelView().frame = frame;
             placeContent(NO);

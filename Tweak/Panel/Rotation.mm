@@ -3,6 +3,7 @@
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Lock/Lock.h"
 #include "Tweak/Panel/Panel.h"
@@ -36,7 +37,7 @@ void turnOverlay(NSInteger orientation, NSTimeInterval duration) {
     CGFloat side = screen.size.height;
     // The square covers the turned screen.
     CGRect covering = landscape(orientation) ? CGRectMake(0, 0, side, side) : screen;
-    [UIView animateWithDuration:duration
+    [UIView animateTouchablyFor:duration
         animations:^{
             window.transform = CGAffineTransformMakeRotation(angleOf(orientation));
             window.frame = screen;

@@ -4,6 +4,7 @@
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Panel/Replacements.h"
 #include "Tweak/StatusBar/StatusBar.h"
@@ -41,7 +42,7 @@ void bringUpPanel(SpringBoard *self) {
     isSliding = NO;
     isEditing = NO;
     UIColor *behind = dimming();
-    [UIView animateWithDuration:animationDuration(kDimming)
+    [UIView animateTouchablyFor:animationDuration(kDimming)
         animations:^{
             window.backgroundColor = behind;
             for (UIView *view in [self statusBarItemViews])

@@ -2,6 +2,7 @@
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/StatusBar/Replacements.h"
 #include "Tweak/StatusBar/StatusBar.h"
 
@@ -19,7 +20,7 @@ void moveWith(const ItemPlace &item, BOOL reachability, float duration) {
     UIView *panel = [window viewWithTag:tags::panel], *bubble = [window viewWithTag:tags::bubble];
     Placement placement = placementFor(item, currentAnchor(reachability), panel.frame.size.height);
     [window viewWithTag:tags::logo].frame = toCGRect(item.frame);
-    [UIView animateWithDuration:duration
+    [UIView animateTouchablyFor:duration
                      animations:^{
                          panel.frame = toCGRect(placement.panel);
                          bubble.frame = toCGRect(placement.bubble);

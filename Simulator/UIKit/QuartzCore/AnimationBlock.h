@@ -11,10 +11,12 @@ class AnimationGroup : public std::enable_shared_from_this<AnimationGroup> {
 public:
     using Completion = void (^)(BOOL);
 
-    AnimationGroup(Timing timing, Completion completion);
+    // `touches`: whether the views that it moves go on taking them.
+    AnimationGroup(Timing timing, bool touches, Completion completion);
     ~AnimationGroup();
 
     const Timing &timing() const { return timing_; }
+    bool allowsTouches() const { return touches_; }
     void add() { ++running_; }
     void remove(bool finished);
     // The block has been run: without an animation the completion is due at once.
@@ -24,6 +26,7 @@ private:
     void complete();
 
     Timing timing_;
+    bool touches_;
     Completion completion_;
     size_t running_ = 0;
     bool finished_ = true;

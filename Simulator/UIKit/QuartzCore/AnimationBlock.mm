@@ -11,8 +11,8 @@ std::vector<std::shared_ptr<AnimationGroup>> &openGroups() {
 }
 } // namespace
 
-AnimationGroup::AnimationGroup(Timing timing, Completion completion)
-    : timing_(timing), completion_(Block_copy(completion)) {}
+AnimationGroup::AnimationGroup(Timing timing, bool touches, Completion completion)
+    : timing_(timing), touches_(touches), completion_(Block_copy(completion)) {}
 
 AnimationGroup::~AnimationGroup() {
     if (completion_) Block_release(completion_);

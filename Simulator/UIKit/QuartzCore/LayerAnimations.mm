@@ -67,6 +67,13 @@ bool animatesWithViews(std::string_view keyPath) {
 
 } // namespace
 
+bool isHeldFromTouches(CALayer *layer) {
+    const auto &animations = state(layer).animations;
+    return std::any_of(animations.begin(), animations.end(), [](const LayerAnimation &animation) {
+        return animation.group && !animation.group->allowsTouches();
+    });
+}
+
 void addAnimation(CALayer *layer, LayerAnimation animation) {
     static uint64_t serial = 0;
     if (!animation.key.empty()) removeAnimations(layer, animation.key);

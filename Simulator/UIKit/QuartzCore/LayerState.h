@@ -66,6 +66,9 @@ void changeProperty(CALayer *layer, const char *keyPath,
 
 // Whether the layer is in the tree of a window.
 bool isInWindow(CALayer *layer);
+// Whether a block moves the layer whose views are to take no touches meanwhile, from its start (not the end
+// of its delay) to its end.
+bool isHeldFromTouches(CALayer *layer);
 // Starts an animation; one that runs under the same (non-empty) key ends. Unfinished ones hear that they were
 // cut short, here and in the functions below.
 void addAnimation(CALayer *layer, LayerAnimation animation);

@@ -41,7 +41,7 @@ void forgetLiveTouch(UITouch *touch);
 // The touch of that pointer that is down; nil when there is none.
 UITouch *touchDown(int pointer);
 
-// A point of the screen in the window as presented; in `view`'s coordinates unless that is nil.
+// A point of the screen in the window, where that is or is going; in `view`'s coordinates unless that is nil.
 CGPoint fromScreen(CGPoint point, UIWindow *window, UIView *view);
 // A distance likewise, and back.
 CGPoint vectorFromScreen(CGPoint vector, UIWindow *window, UIView *view);

@@ -17,7 +17,7 @@ std::vector<UITouch *> &touches() {
 
 CGAffineTransform screenToWindow(UIWindow *window) {
     if (!window) return CGAffineTransformIdentity;
-    return CGAffineTransformInvert(sim::presented([window layer]).toSuperlayer());
+    return CGAffineTransformInvert(sim::state([window layer]).model.toSuperlayer());
 }
 
 // The linear part of the way from the screen to the view.

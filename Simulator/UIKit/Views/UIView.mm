@@ -216,7 +216,8 @@ using sim::state;
                        .fill = sim::FillMode::backwards,
                        .curve = curves[options >> 16 & kCurveMask]};
     timing = sim::timingWithinOpenBlock(timing);
-    sim::runAnimations(std::make_shared<sim::AnimationGroup>(timing, completion), animations);
+    bool touches = options & UIViewAnimationOptionAllowUserInteraction;
+    sim::runAnimations(std::make_shared<sim::AnimationGroup>(timing, touches, completion), animations);
 }
 
 + (void)performWithoutAnimation:(void (^)(void))actions {

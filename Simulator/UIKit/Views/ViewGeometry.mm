@@ -139,15 +139,15 @@ void autoresize(UIView *superview, CGSize before) {
     return CGRectApplyAffineTransform(rect, between(view, self));
 }
 
-// Views that are hidden, see-through or switched off take no touch, and neither does what they hold.
+// Views that are hidden, see-through, switched off or moved by a block take no touch, and neither does what
+// they hold. Where a view is going counts, not where it is seen.
 - (UIView *)hitTest:(CGPoint)point withEvent:(UIEvent *)event {
     constexpr CGFloat kLeastAlpha = 0.01;
     if ([self isHidden] || ![self isUserInteractionEnabled] || [self alpha] < kLeastAlpha) return nil;
-    if (![self pointInside:point withEvent:event]) return nil;
+    if (sim::isHeldFromTouches([self layer]) || ![self pointInside:point withEvent:event]) return nil;
     auto views = sim::subviews(self);
     for (auto view = views.rbegin(); view != views.rend(); ++view) {
-        CGAffineTransform fromSuperview =
-            CGAffineTransformInvert(sim::presented([*view layer]).toSuperlayer());
+        CGAffineTransform fromSuperview = CGAffineTransformInvert(state([*view layer]).model.toSuperlayer());
         UIView *hit = [*view hitTest:CGPointApplyAffineTransform(point, fromSuperview) withEvent:event];
         if (hit) return hit;
     }
@@ -155,7 +155,7 @@ void autoresize(UIView *superview, CGSize before) {
 }
 
 - (BOOL)pointInside:(CGPoint)point withEvent:(UIEvent *)event {
-    return CGRectContainsPoint(sim::presented([self layer]).bounds, point);
+    return CGRectContainsPoint([self bounds], point);
 }
 
 - (CGSize)sizeThatFits:(CGSize)size {
