@@ -13,7 +13,6 @@ namespace sim {
 namespace {
 
 constexpr int kButton = 0; // where locking and unlocking come from
-constexpr int kFinger = 0; // the only one
 
 SBLockScreenManager *manager() { return [SBLockScreenManager sharedInstance]; }
 
@@ -36,7 +35,7 @@ void turnDisplay(bool on) {
     if (display().on == on) return;
     display().on = on;
     if (on) return tellThatDisplayIsOn();
-    touchCancelled(kFinger);
+    cancelAllTouches();
     [manager() lockUIFromSource:kButton withOptions:nil];
     [[manager() lockScreenViewController] _handleDisplayTurnedOff];
 }

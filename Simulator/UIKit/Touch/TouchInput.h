@@ -21,6 +21,8 @@ void touchMoved(int pointer, CGPoint screenPoint);
 void touchEnded(int pointer);
 // The system takes the touch away.
 void touchCancelled(int pointer);
+// The same with every finger that is down.
+void cancelAllTouches();
 
 // The view that a finger there would touch; nil when no window takes it.
 UIView *touchTarget(CGPoint screenPoint);

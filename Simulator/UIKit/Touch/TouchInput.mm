@@ -138,6 +138,15 @@ void touchCancelled(int pointer) {
     if (UITouch *touch = touchDown(pointer)) lift(touch, UITouchPhaseCancelled);
 }
 
+void cancelAllTouches() {
+    @autoreleasepool {
+        auto touches = liveTouches();
+        for (UITouch *touch : touches) [[touch retain] autorelease];
+        for (UITouch *touch : touches)
+            if (!state(touch).lifted) lift(touch, UITouchPhaseCancelled);
+    }
+}
+
 UIView *touchTarget(CGPoint screenPoint) { return hitTest(screenPoint).view; }
 
 std::vector<std::string> ongoingInteractions() {
