@@ -8,6 +8,7 @@
 #include "SpringBoard/Services/ColorBadges.h"
 #include "SpringBoard/StatusLibrary/LibraryItems.h"
 #include "SpringBoard/Switcher/SwitcherModel.h"
+#include "SpringBoard/System/Interface.h"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/StatusBar/StatusBarState.h"
 
@@ -42,6 +43,8 @@ void prepareHomeScreen(const SharedOptions &options) {
     specs() = options.applications;
     lockState().passcode = options.passcode || options.passcodeLocked;
     lockState().screenLocked = lockState().passcodeLocked = options.passcodeLocked;
+    setDeviceOrientation(static_cast<UIDeviceOrientation>(options.orientation));
+    letInterfaceTurn(options.interfaceTurns);
     installColorBadges(options);
     for (const auto &spec : specs()) installApplication(spec);
     if (!listed(specs(), kWebViewService))

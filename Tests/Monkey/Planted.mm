@@ -26,7 +26,7 @@
 
 - (void)turned:(NSNotification *)notification {
     (void)notification;
-    static int turns = 0;
+    static int turns = -1; // the first one tells how the device is held
     if (++turns == 3) [self performSelector:@selector(fail) withObject:nil afterDelay:0];
 }
 

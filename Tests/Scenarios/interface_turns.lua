@@ -1,6 +1,7 @@
--- The device is turned, and the screen let down: home screen, status bar and application go along, seen upright.
+-- The device is turned, and the screen let down: home screen, status bar and application go along, seen upright; and
+-- what of them does so where only some do.
 for _, case in ipairs { { "iPhone 4S", "7.1" }, { "iPhone 6", "8.1" }, { "iPad Air 2", "8.1" } } do
-  local phone = boot { device = case[1], ios = case[2], extension = false }
+  local phone = boot { device = case[1], ios = case[2], extension = false, interface_turns = true }
   local bar = phone:find { window = "statusbar", class = "UIStatusBar" }
   local width, height = bar.screen.w, phone:find { window = "home", class = "UIWindow" }.screen.h
   for _, o in ipairs { 3, 4, 2, 1 } do
@@ -31,7 +32,42 @@ for _, case in ipairs { { "iPhone 4S", "7.1" }, { "iPhone 6", "8.1" }, { "iPad A
   expect_near(app.x, 0, 0.01, case[1] .. ": and begins at its edge")
 end
 
+-- What is upright stays where it was; an application that turns fills the screen on its side, and the icons under it
+-- wait where they were.
 local phone = boot { device = "iPhone 6", extension = false }
+local bar = phone:find { window = "statusbar", class = "UIStatusBar" }
+local function width() return phone:again(bar).screen.w end
+local page = phone:icon("com.apple.mobilecal").screen
+phone:rotate(3)
+phone:settle()
+expect_eq(width(), 375, "the status bar stays upright on the home screen")
+expect_eq(phone:icon("com.apple.mobilecal").screen, page, "and so do the icons")
+phone:tap(phone:icon("com.apple.mobilecal"))
+phone:settle()
+local app = phone:find { window = "app", class = "UIWindow" }.screen
+expect_eq({ app.x, app.y, app.w, app.h, width() }, { 0, 0, 667, 375, 667 }, "an application turns, the bar with it")
+phone:rotate(2)
+phone:settle()
+expect_eq(width(), 667, "but not upside down")
+phone:shot("application-turned")
+phone:home()
+phone:filmstrip("home-from-its-side", 0.5, 6)
+phone:settle()
+expect_eq(width(), 375, "left, it leaves the screen upright")
+expect_eq(phone:icon("com.apple.mobilecal").screen, page, "as it was")
+phone:rotate(4)
+phone:run("com.apple.mobilecal")
+phone:settle()
+expect_eq(width(), 667, "one that is opened on its side lies so")
+phone:lock()
+phone:lock()
+phone:settle()
+expect_eq(width(), 375, "the lock screen is upright")
+phone:unlock()
+phone:settle()
+expect_eq(width(), 667, "and the application behind it is not")
+
+phone = boot { device = "iPhone 6", extension = false }
 local function top() return phone:find { window = "statusbar", class = "UIStatusBar" }.screen.y end
 phone:reachability(true)
 phone:settle()

@@ -52,3 +52,15 @@ for what, case in pairs{
     P.no_harm(phone)
   end
 end
+
+-- It turns over a home screen that stays upright.
+for _, after in ipairs{ 0.02, 0.1, 0.25 } do
+  local phone = P.boot({}, { device = "iPhone 6", apps = P.numbered(24) })
+  open(phone)
+  phone:rotate(3)
+  phone:wait(after)
+  phone:tap(phone:icon(P.app(21)))
+  phone:settle()
+  expect_eq(phone:foreground(), nil, "turning, touched " .. after .. " s later: nothing opens under it")
+  P.no_harm(phone)
+end

@@ -26,8 +26,9 @@ for _, case in ipairs{ { "iPhone 5s", "7.1", { 320, 568 }, true }, { "iPhone 5s"
   { "iPhone 6 Plus", "8.1", { 414, 736 } }, { "iPad Air", "7.1", { 768, 1024 } },
   { "iPad Air 2", "8.1", { 768, 1024 } } } do
   local what, screen = case[1] .. " " .. case[2], case[3]
-  local phone = P.boot({}, { device = case[1], ios = case[2], apps = apps })
-  if case[4] then phone:run(P.app(4)) end -- this home screen does not turn, an application does
+  -- Phones as if theirs turned in every direction; tablets' do.
+  local phone = P.boot({}, { device = case[1], ios = case[2], apps = apps, interface_turns = case[3][1] < 700 or nil })
+  if case[4] then phone:run(P.app(4)) end
   P.open(phone)
   local last, turns = 1, 0
   for _, orientation in ipairs{ 3, 4, 2, 1, 4, 3, 1, 2, 3, 2, 4, 1 } do
@@ -64,6 +65,16 @@ for _, case in ipairs{ { "iPhone 5s", "7.1", { 320, 568 }, true }, { "iPhone 5s"
   P.closed(phone)
   P.open(phone)
   attached(phone, screen, 3, what .. ", opened on its side")
+  phone:tap{ screen[2] - 10, screen[1] - 20 }
+  phone:settle()
+  P.closed(phone)
+  -- The home screen starts anew on its side.
+  phone:respring()
+  phone:settle()
+  if case[4] then phone:run(P.app(4)) end
+  phone:settle()
+  P.open(phone)
+  attached(phone, screen, 3, what .. ", started on its side")
   phone:tap{ screen[2] - 10, screen[1] - 20 }
   phone:settle()
   P.closed(phone)

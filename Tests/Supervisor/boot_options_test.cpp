@@ -26,6 +26,7 @@ TEST(BootOptions, AnEmptyTableGivesTheUsualDevice) {
         EXPECT_TRUE(options.extension);
         EXPECT_FALSE(options.colorBadges);
         EXPECT_FALSE(options.passcode);
+        EXPECT_FALSE(options.interfaceTurns.has_value()) << "as the device's";
         ASSERT_EQ(options.applications.size(), 2u);
         EXPECT_EQ(options.applications[1].folder, "Social");
     }
@@ -43,6 +44,7 @@ TEST(BootOptions, ApplicationsGetTheirDefaults) {
     EXPECT_EQ(options.applications[1].badge, 2);
     EXPECT_FALSE(options.applications[1].icon);
     EXPECT_TRUE(options.applications[1].snapshot);
+    EXPECT_TRUE(options.applications[1].statusBar);
 }
 
 TEST(BootOptions, TheOtherExtensionIsPresentWhenATableIsGiven) {
@@ -69,6 +71,7 @@ TEST(BootOptions, RefusalsSayWhatToChange) {
         {{{"settings", Array{1}}}, "'settings' must be a table with names"},
         {{{"settings", Object{}}, {"settings_text", ""}}, "not both"},
         {{{"extension", "yes"}}, "'extension' must be true or false, not \"yes\""},
+        {{{"interface_turns", "no"}}, "'interface_turns' must be true or false, not \"no\""},
         {{{"hide_classes", "UIView"}}, "'hide_classes' must be a list"},
         {{{"hide_classes", Array{1}}}, "a list of strings"},
         {{{"missing_files", Array{"Pendix.png"}}}, "absolute paths"},
@@ -82,6 +85,7 @@ TEST(BootOptions, RefusalsSayWhatToChange) {
         {{{"apps", Array{Object{{"name", "x"}}}}}, "apps[1]: an application needs an 'id'"},
         {{{"apps", Array{Object{{"id", "x"}, {"bagde", 1}}}}}, "did you mean 'badge'?"},
         {{{"apps", Array{Object{{"id", "x"}, {"badge", -1}}}}}, "must not be negative"},
+        {{{"apps", Array{Object{{"id", "x"}, {"status_bar", 0}}}}}, "'status_bar' must be true or false"},
         {{{"apps", Array{Object{{"id", "x"}}, Object{{"id", "x"}}}}}, "apps[2]: 'x' is listed twice"},
         {{{"color_badges", Object{{"border", true}}}}, "did you mean 'borders'?"},
         {{{"color_badges", true}, {"passcod", true}}, "did you mean 'passcode'?"},

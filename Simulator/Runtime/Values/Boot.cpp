@@ -40,6 +40,7 @@ void eachMessageField(BootMessage &message, Field &field) {
     field("fail_writes", message.writeFailures);
     field("color_badges", message.colorBadges);
     field("device", message.device);
+    field("orientation", message.orientation);
     field("now", message.now);
     field("wall_clock", message.wallClock);
     field("root", message.root);

@@ -19,7 +19,8 @@ struct ApplicationSpec {
     std::string folder; // empty: on the home screen itself
     bool icon = true;   // false: the placeholder icon
     bool snapshot = true;
-    bool dock = false; // of the stock applications only
+    bool dock = false;     // of the stock applications only
+    bool statusBar = true; // false: hides it while it is in front
 
     bool operator==(const ApplicationSpec &) const = default;
 };
@@ -57,6 +58,8 @@ struct SharedOptions {
     std::optional<ColorBadgeOptions> colorBadges; // absent: not installed
     bool passcode = false;                        // the device has one
     bool passcodeLocked = false;
+    std::optional<bool> interfaceTurns; // absent: as the device's and the version's does
+    int64_t orientation = 1;            // how the device is held, 1 to 4
 
     bool operator==(const SharedOptions &) const = default;
 };
@@ -95,6 +98,7 @@ void eachField(ApplicationSpec &application, Field &&field) {
     field("folder", application.folder);
     field("icon", application.icon);
     field("snapshot", application.snapshot);
+    field("status_bar", application.statusBar);
 }
 
 template <typename Field>
@@ -120,6 +124,7 @@ void eachField(SharedOptions &options, Field &&field) {
     field("nil_methods", options.silencedMethods);
     field("passcode", options.passcode);
     field("passcode_locked", options.passcodeLocked);
+    field("interface_turns", options.interfaceTurns);
 }
 
 Value toValue(BootMessage message);

@@ -6,6 +6,7 @@
 #include "SpringBoard/Home/FolderOverlay.h"
 #include "SpringBoard/Switcher/SwitcherModel.h"
 #include "SpringBoard/Switcher/SwitcherScreen.h"
+#include "SpringBoard/System/Interface.h"
 
 #include <utility>
 
@@ -31,6 +32,7 @@ void launch(SBApplication *application, bool suspended) {
     }
     closeFolder(false);
     closeSwitcher(true);
+    turnInterfaceAsWanted();
     showApplicationWindow(application);
     if ([application respondsToSelector:@selector(didActivate)]) [application didActivate];
 }
@@ -41,6 +43,7 @@ void returnToHomeScreen() {
     record(before).snapshot = true;
     [before willAnimateDeactivation:YES];
     hideApplicationWindow(before);
+    turnInterfaceAsWanted();
 }
 
 } // namespace sim

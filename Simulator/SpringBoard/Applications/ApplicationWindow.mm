@@ -11,6 +11,7 @@
 #include "SpringBoard/System/BarStyle.h"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/UIKit+Further.h"
+#include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIKit.h>
 
@@ -38,18 +39,18 @@ UIWindow *makeWindow(SBApplication *application) {
 // sight.
 void shrink(UIWindow *window, SBApplication *application) {
     SBIconView *iconView = sim::visibleIconView(application);
-    CGRect screen = [window bounds];
-    CGPoint middle = {CGRectGetMidX(screen), CGRectGetMidY(screen)};
-    CGRect icon = CGRectMake(middle.x, middle.y, 0, 0);
-    icon = CGRectInset(icon, -sim::iconSide() / 2, -sim::iconSide() / 2);
-    SBIconImageView *image = [iconView _iconImageView];
-    if (image) icon = [image convertRect:[image bounds] toView:nil];
-    CGFloat factor = icon.size.width / screen.size.width;
-    CGAffineTransform place =
-        CGAffineTransformMakeTranslation(CGRectGetMidX(icon) - middle.x, CGRectGetMidY(icon) - middle.y);
-    CGAffineTransform onIcon = CGAffineTransformConcat(CGAffineTransformMakeScale(factor, factor), place);
-    [window setTransform:CGAffineTransformConcat(onIcon, sim::interfaceTransform())];
-    [[window layer] setCornerRadius:sim::kIconCornerRatio * screen.size.width];
+    CGFloat width = [window bounds].size.width, factor = sim::iconSide() / width;
+    CGPoint middle = {sim::device().width / 2, sim::device().height / 2}, icon = middle;
+    if (SBIconImageView *image = [iconView _iconImageView]) {
+        CGRect frame = [image convertRect:[image bounds] toView:nil];
+        icon = CGPointApplyAffineTransform({CGRectGetMidX(frame), CGRectGetMidY(frame)},
+                                           sim::state([[image window] layer]).model.toSuperlayer());
+    }
+    CGAffineTransform turned =
+        CGAffineTransformConcat(CGAffineTransformMakeScale(factor, factor), sim::interfaceTransform());
+    [window setTransform:CGAffineTransformConcat(
+                             turned, CGAffineTransformMakeTranslation(icon.x - middle.x, icon.y - middle.y))];
+    [[window layer] setCornerRadius:sim::kIconCornerRatio * width];
 }
 
 void fill(UIWindow *window) {

@@ -27,8 +27,11 @@ ApplicationRecord &record(SBApplication *application) {
 
 SBApplication *installApplication(const ApplicationSpec &spec) {
     SBApplication *application = [SBApplication new];
-    application->_sbApplicationState = new ApplicationRecord{
-        .identifier = spec.identifier, .name = spec.name, .icon = spec.icon, .snapshot = spec.snapshot};
+    application->_sbApplicationState = new ApplicationRecord{.identifier = spec.identifier,
+                                                             .name = spec.name,
+                                                             .icon = spec.icon,
+                                                             .statusBar = spec.statusBar,
+                                                             .snapshot = spec.snapshot};
     installed().push_back(application);
     byIdentifier().emplace(spec.identifier, application);
     return application;

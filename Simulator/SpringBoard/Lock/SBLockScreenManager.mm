@@ -4,6 +4,7 @@
 #include "SBLockScreenManager+Further.h"
 #include "SpringBoard/Switcher/SwitcherScreen.h"
 #include "SpringBoard/System/BarStyle.h"
+#include "SpringBoard/System/Interface.h"
 
 #include <SpringBoard/SBLockScreen.h>
 
@@ -22,6 +23,7 @@ void finishUnlock(int source) {
     SBLockScreenViewController *controller = [[SBLockScreenManager sharedInstance] lockScreenViewController];
     [controller prepareForUIUnlock];
     lockState().screenLocked = lockState().passcodeLocked = false;
+    turnInterfaceAsWanted();
     hideLockWindow();
     updateStatusBarStyle();
     [controller finishUIUnlockFromSource:source];
@@ -57,6 +59,7 @@ void finishUnlock(int source) {
     sim::lockState().screenLocked = true;
     sim::lockState().passcodeLocked = sim::lockState().passcode;
     sim::closeSwitcher(false);
+    sim::turnInterfaceAsWanted();
     sim::showLockWindow();
     sim::updateStatusBarStyle();
 }

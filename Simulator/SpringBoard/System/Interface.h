@@ -3,12 +3,20 @@
 
 #include <UIKit/UIKit.h>
 
+#include <optional>
+
 namespace sim {
 
-// A person turns the device: the notification of its new orientation goes out, then the interface turns
-// along, upside down included, on every device. (Inferred: phones but the largest keep their home screen
-// upright.)
+// Whether the interface turns with the device: always, never, or (nothing) as this device's and version's
+// does. Then tablets turn in every direction; the largest phone turns its home screen, other phones keep
+// theirs and the lock screen upright; applications on phones turn on their sides and not upside down.
+void letInterfaceTurn(std::optional<bool> turns);
+// Asks for the device's orientation, at the launch; the interface lies as that says as soon as it is known.
+void followDevice();
+// A person turns the device: the notification of its new orientation goes out, then the interface turns.
 void turnDevice(UIInterfaceOrientation orientation);
+// Something else is in front: the interface turns to where that wants it.
+void turnInterfaceAsWanted();
 
 // On devices that offer it. false on others, where nothing happens.
 bool setReachability(bool on);

@@ -2,6 +2,7 @@
 #include "SpringBoard/Applications/Applications.h"
 #include "SpringBoard/Home/HomeViews.h"
 #include "SpringBoard/Lock/LockState.h"
+#include "SpringBoard/System/Interface.h"
 #include "UIKit/StatusBar/StatusBarState.h"
 
 #include <BiometricKit/BiometricKit.h>
@@ -15,6 +16,7 @@
 - (void)applicationDidFinishLaunching:(id)application {
     sim::showHomeWindow();
     sim::showStatusBar();
+    sim::followDevice();
     if (sim::lockState().passcodeLocked) sim::startLocked();
     // Which makes itself known to the sensor.
     [objc_getClass("SBUIBiometricEventMonitor") sharedInstance];

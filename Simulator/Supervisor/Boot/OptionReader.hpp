@@ -44,6 +44,7 @@ public:
 
 private:
     auto read(const char *name, const bool &) { return boolean(name); }
+    auto read(const char *name, const std::optional<bool> &) { return boolean(name); }
     auto read(const char *name, const int64_t &) { return integer(name); }
     auto read(const char *name, const std::optional<int64_t> &) { return integer(name); }
     auto read(const char *name, const std::string &) { return string(name); }

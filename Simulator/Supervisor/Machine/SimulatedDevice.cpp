@@ -142,6 +142,8 @@ Value SimulatedDevice::perform(const char *request, Object &arguments, bool *die
     if (!home_)
         throw RequestError(homeScreen_ ? "the home screen does not run: it could not be started again"
                                        : "the device has no home screen");
+    // The device stays turned, whatever becomes of its home screen.
+    if (request == std::string_view("rotate")) options_.orientation = arguments["orientation"].integer();
     try {
         Reply reply = home_->request(request, std::move(arguments));
         now_ = reply.now;

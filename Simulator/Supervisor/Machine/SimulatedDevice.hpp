@@ -67,7 +67,7 @@ private:
     SimulatedProcess &process() override { return *home_; }
 
     DeviceSetup setup_;
-    BootOptions options_; // applications and lock as they are by now
+    BootOptions options_; // applications, lock and orientation as they are by now
     SandboxFolder root_;
     SettingsFile settings_;
     EventList events_;

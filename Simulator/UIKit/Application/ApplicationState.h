@@ -54,6 +54,9 @@ CGAffineTransform interfaceTransform();
 // Lets the window fill the interface.
 void fillInterface(UIWindow *window);
 void setStatusBarHidden(bool hidden);
-void setDeviceOrientation(UIDeviceOrientation orientation); // posts the notification when somebody listens
+// How the device is held; upright at first. While somebody has asked for notifications each change is one.
+// Who asks first is told at once, but after the call: until then the orientation is unknown.
+void setDeviceOrientation(UIDeviceOrientation orientation);
+UIDeviceOrientation deviceOrientation();
 
 } // namespace sim

@@ -2,25 +2,34 @@
 
 #include "Runtime/Process/Device.hpp"
 #include "UIDevice+Further.h"
+#include "Runtime/Time/Clock.hpp"
 
 #include <UIKit/UIDevice.h>
 
 NSString *const UIDeviceOrientationDidChangeNotification = @"UIDeviceOrientationDidChangeNotification";
 
 namespace {
-UIDeviceOrientation orientation = UIDeviceOrientationPortrait;
+UIDeviceOrientation held = UIDeviceOrientationPortrait;
+UIDeviceOrientation reported = UIDeviceOrientationUnknown;
 int listeners = 0;
+
+void report() {
+    if (!listeners || reported == held) return;
+    reported = held;
+    [[NSNotificationCenter defaultCenter] postNotificationName:UIDeviceOrientationDidChangeNotification
+                                                        object:[UIDevice currentDevice]];
+}
+
 } // namespace
 
 namespace sim {
 
 void setDeviceOrientation(UIDeviceOrientation next) {
-    if (orientation == next) return;
-    orientation = next;
-    if (!listeners) return;
-    [[NSNotificationCenter defaultCenter] postNotificationName:UIDeviceOrientationDidChangeNotification
-                                                        object:[UIDevice currentDevice]];
+    held = next;
+    report();
 }
+
+UIDeviceOrientation deviceOrientation() { return held; }
 
 } // namespace sim
 
@@ -40,7 +49,7 @@ void setDeviceOrientation(UIDeviceOrientation next) {
 }
 
 - (UIDeviceOrientation)orientation {
-    return orientation;
+    return reported;
 }
 
 - (UIUserInterfaceIdiom)userInterfaceIdiom {
@@ -48,11 +57,13 @@ void setDeviceOrientation(UIDeviceOrientation next) {
 }
 
 - (void)beginGeneratingDeviceOrientationNotifications {
-    ++listeners;
+    if (++listeners > 1) return;
+    sim::Clock &clock = sim::Clock::shared();
+    clock.schedule(clock.now(), sim::Clock::Phase::timer, report);
 }
 
 - (void)endGeneratingDeviceOrientationNotifications {
-    if (listeners) --listeners;
+    if (listeners && --listeners == 0) reported = UIDeviceOrientationUnknown;
 }
 
 @end

@@ -22,3 +22,14 @@ for _, use in ipairs { phone.tap, phone.again, function(p, v) p:find { inside = 
 end
 expect_eq(before.class, "SBIconView", "what was seen can still be read")
 expect(phone:again(phone:icon(mail)), "new views are found")
+
+-- The device stays as it is held.
+for _, case in ipairs { { "iPad Air 2", nil, 1024 }, { "iPhone 6", nil, 375 }, { "iPhone 6", true, 667 } } do
+  phone = boot { device = case[1], interface_turns = case[2], extension = false }
+  phone:rotate(3)
+  phone:respring()
+  expect_eq(phone:find { window = "home", class = "UIWindow" }.screen.w, case[3], case[1] .. " on its side")
+  phone:rotate(1)
+  phone:respring()
+  expect(phone:find { window = "home", class = "UIWindow" }.screen.w < 800, case[1] .. " and upright again")
+end
