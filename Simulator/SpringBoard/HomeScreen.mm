@@ -87,7 +87,9 @@ bool openApplication(const std::string &identifier) {
 // A press on a dark device wakes it and does no more.
 void clickHomeButton() {
     if (!displayIsOn()) return turnDisplay(true);
-    if (!sendActivatorDeactivateEvent()) [[SBUIController sharedInstance] clickedMenuButton];
+    if (sendActivatorDeactivateEvent()) return;
+    setReachability(false);
+    [[SBUIController sharedInstance] clickedMenuButton];
 }
 
 void clickHomeButtonTwice() {

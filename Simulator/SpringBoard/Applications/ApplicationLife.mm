@@ -24,6 +24,7 @@ void launch(SBApplication *application, bool suspended) {
     moveToSwitcherFront(application);
     recordEvent("launch", Object{{"id", record(application).identifier}});
     if (suspended) return;
+    setReachability(false);
     SBApplication *before = std::exchange(front, application);
     [application willActivate];
     if (before) {

@@ -59,6 +59,7 @@ void finishUnlock(int source) {
     sim::lockState().screenLocked = true;
     sim::lockState().passcodeLocked = sim::lockState().passcode;
     sim::closeSwitcher(false);
+    sim::setReachability(false);
     sim::turnInterfaceAsWanted();
     sim::showLockWindow();
     sim::updateStatusBarStyle();

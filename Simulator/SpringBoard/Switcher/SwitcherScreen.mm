@@ -6,6 +6,7 @@
 #include "SpringBoard/Home/Glass.h"
 #include "SpringBoard/Home/HomeViews.h"
 #include "SpringBoard/System/BarStyle.h"
+#include "SpringBoard/System/Interface.h"
 #include "SwitcherCard.h"
 #include "SwitcherModel.h"
 #include "UIKit/Application/ApplicationState.h"
@@ -122,6 +123,7 @@ void openSwitcher() {
     // Above applications, below the status bar. (Inferred.)
     constexpr UIWindowLevel kLevel = 500;
     if (window) return;
+    setReachability(false);
     window = [[homeWindowClass() alloc] initWithFrame:CGRectMake(0, 0, screen().width, screen().height)];
     [window setWindowLevel:kLevel];
     setRole(window, WindowRole::home);

@@ -18,7 +18,8 @@ void turnDevice(UIInterfaceOrientation orientation);
 // Something else is in front: the interface turns to where that wants it.
 void turnInterfaceAsWanted();
 
-// On devices that offer it. false on others, where nothing happens.
+// On devices that offer it. false on others, where nothing happens. It ends by itself when no finger has
+// touched the screen for 8 s, and whenever the interface turns.
 bool setReachability(bool on);
 bool reachabilityIsOn();
 

@@ -10,7 +10,9 @@
 #include "SpringBoard/Versions.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/StatusBar/StatusBarState.h"
+#include "UIKit/Touch/TouchInput.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace sim {
@@ -20,9 +22,12 @@ namespace {
 constexpr NSTimeInterval kTurn = 0.4, kDrop = 0.3; // inferred
 constexpr CGFloat kDropPart = 0.4;                 // of the screen's height; inferred
 
+constexpr double kIdle = 8; // seconds
+
 bool reachability = false;
+Clock::TaskId idleCheck = 0;
 std::optional<bool> turns;
-bool deviceIsKnown = false; // how it is held
+bool deviceIsKnown = false;                                              // how it is held
 UIInterfaceOrientation homeOrientation = UIInterfaceOrientationPortrait; // how the home screen is laid out
 
 UIInterfaceOrientation current() { return [[UIApplication sharedApplication] statusBarOrientation]; }
@@ -69,6 +74,16 @@ void turnInterface(bool animated) {
                      }];
 }
 
+void endReachabilityWhenIdle(Nanos since) {
+    Clock &clock = Clock::shared();
+    Nanos due = std::max(since, lastTouchTime()) + fromSeconds(kIdle);
+    if (due <= clock.now()) {
+        setReachability(false);
+    } else {
+        idleCheck = clock.schedule(due, Clock::Phase::timer, [=] { endReachabilityWhenIdle(since); });
+    }
+}
+
 } // namespace
 
 void letInterfaceTurn(std::optional<bool> wanted) { turns = wanted; }
@@ -91,6 +106,8 @@ void turnInterfaceAsWanted() { turnInterface(true); }
 bool setReachability(bool on) {
     if (!device().reachability) return false;
     if (std::exchange(reachability, on) == on) return true;
+    Clock::shared().cancel(std::exchange(idleCheck, 0));
+    if (on) endReachabilityWhenIdle(Clock::shared().now());
     setInterfaceDrop(on ? kDropPart * interfaceSize().height : 0);
     [UIView animateWithDuration:kDrop animations:^{ placeWindows(); }];
     return true;

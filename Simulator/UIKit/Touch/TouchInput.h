@@ -3,6 +3,8 @@
 // Clock::settleNow().
 #pragma once
 
+#include "Runtime/Time/Clock.hpp"
+
 #include <CoreGraphics/CoreGraphics.h>
 
 #include <string>
@@ -23,6 +25,9 @@ void touchEnded(int pointer);
 void touchCancelled(int pointer);
 // The same with every finger that is down.
 void cancelAllTouches();
+
+// When a finger last did something: now while one is down, 0 before the first.
+Nanos lastTouchTime();
 
 // The view that a finger there would touch; nil when no window takes it.
 UIView *touchTarget(CGPoint screenPoint);

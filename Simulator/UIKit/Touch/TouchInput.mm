@@ -66,13 +66,15 @@ std::vector<UIGestureRecognizer *> recognizersAround(UIView *view) {
     return result;
 }
 
+Nanos lastPhase = 0;
+
 // Only the touch that something happens to is in another phase than Stationary.
 void enterPhase(UITouch *touch, UITouchPhase phase) {
     for (UITouch *other : liveTouches())
         if (!state(other).lifted) state(other).phase = UITouchPhaseStationary;
     auto &mine = state(touch);
     mine.phase = phase;
-    mine.timestamp = Clock::shared().now();
+    mine.timestamp = lastPhase = Clock::shared().now();
     mine.lifted = phase == UITouchPhaseEnded || phase == UITouchPhaseCancelled;
 }
 
@@ -145,6 +147,12 @@ void cancelAllTouches() {
         for (UITouch *touch : touches)
             if (!state(touch).lifted) lift(touch, UITouchPhaseCancelled);
     }
+}
+
+Nanos lastTouchTime() {
+    for (UITouch *touch : liveTouches())
+        if (!state(touch).lifted) return Clock::shared().now();
+    return lastPhase;
 }
 
 UIView *touchTarget(CGPoint screenPoint) { return hitTest(screenPoint).view; }
