@@ -8,6 +8,7 @@
 #include "UIKit/StatusBar/StatusBarData.hpp"
 #include "UIKit/StatusBar/StatusBarState.h"
 #include "UIKit/UIKit+Further.h"
+#include "UIKit/Touch/TouchInput.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIStatusBar.h>
@@ -177,4 +178,23 @@ TEST(StatusBarLayout, StandsItemsFromTheEdgesInwards) {
     };
     for (const auto &layout : cases)
         EXPECT_EQ(sim::layOutStatusBar(layout.slots, 320), layout.lefts) << layout.name;
+}
+
+TEST(StatusBar, GoesWhereAnApplicationDoesWithoutIt) {
+    auto options = harness::applications();
+    options.applications[2].statusBar = false; // org.example.1
+    harness::boot(harness::profile("iPhone 6"), options);
+    UIWindow *window = [[UIApplication sharedApplication] statusBarWindow];
+    auto isTouched = [=] { return [sim::touchTarget({187, 10}) window] == window; };
+    EXPECT_TRUE(isTouched());
+    sim::openApplication("org.example.1");
+    harness::wait(1);
+    EXPECT_EQ(sim::presented([window layer]).opacity, 0);
+    EXPECT_FALSE(isTouched()) << "the application has its touches";
+    EXPECT_FALSE([[UIApplication sharedApplication] isStatusBarHidden])
+        << "the home screen's own is not hidden";
+    sim::openApplication("org.example.2");
+    harness::wait(1);
+    EXPECT_EQ(sim::presented([window layer]).opacity, 1);
+    EXPECT_TRUE(isTouched());
 }

@@ -15,6 +15,21 @@ phone:settle()
 expect_eq(phone:foreground(), "x.one", "run brings to the front")
 expect_eq(phone:switcher()[1], "x.one", "and to the front of the switcher")
 
+phone = phone_with { apps = { { id = "x.film", status_bar = false }, { id = "x.text" } }, passcode = true }
+local function shows()
+  phone:settle()
+  return phone:find { window = "statusbar", class = "UIStatusBar", visible = true } ~= nil
+end
+for _, step in ipairs { { "home", true, function() end }, { "a film", false, function() phone:run("x.film") end },
+  { "a text", true, function() phone:run("x.text") end }, { "a film again", false, function() phone:run("x.film") end },
+  { "the switcher over it", true, function() phone:home_twice() end },
+  { "the film once more", false, function() phone:home_twice() end },
+  { "the lock screen over it", true, function() phone:lock() phone:lock() end },
+  { "unlocked", false, function() phone:unlock() end }, { "left", true, function() phone:home() end } } do
+  step[3]()
+  expect_eq(shows(), step[2], "the status bar shows: " .. step[1])
+end
+
 expect_eq(#phone_with { apps = {} }:all { class = "SBIconView", visible = true }, 0, "no applications, no icons")
 local default = phone_with { language = "it" }
 expect(default:find { text = "Impostazioni" }, "names are in the device's language")
