@@ -1,8 +1,12 @@
 // Proves in which order pages hear of coming and going, how modal pages cover others, and how all of it
 // turns.
 #include "Pages.h"
+
+#include "Runtime/Process/Device.hpp"
+#include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Controllers/Rotation.h"
 #include "UIKit/UIKit+Further.h"
+#include "UIKit/Navigation/NavigationState.h"
 
 using namespace harness;
 
@@ -46,6 +50,84 @@ TEST(Navigation, TheBarShowsTheTitleAndTheWayBack) {
     tapAt({30, 42});
     waitFor(1);
     EXPECT_EQ([[navigation viewControllers] count], 1u) << "a tap on the way back pops";
+}
+
+TEST(Navigation, TheBarLiesBelowTheStatusBarAndItsBackgroundBehindIt) {
+    struct {
+        const char *what;
+        CGSize size;
+        bool pad;
+        sim::Version version;
+        UIInterfaceOrientation orientation;
+        CGRect frame;
+    } const cases[] = {
+        {"a phone", {375, 667}, false, {8, 1}, UIInterfaceOrientationPortrait, {{0, 20}, {375, 44}}},
+        {"on its side", {320, 568}, false, {7, 1}, UIInterfaceOrientationLandscapeLeft, {{0, 20}, {568, 32}}},
+        {"where it has no status bar then",
+         {375, 667},
+         false,
+         {8, 1},
+         UIInterfaceOrientationLandscapeRight,
+         {{0, 0}, {667, 32}}},
+        {"a tablet", {768, 1024}, true, {8, 1}, UIInterfaceOrientationPortrait, {{0, 20}, {768, 44}}},
+        {"on its side",
+         {768, 1024},
+         true,
+         {7, 0},
+         UIInterfaceOrientationLandscapeLeft,
+         {{0, 20}, {1024, 44}}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        sim::device().width = c.size.width;
+        sim::device().height = c.size.height;
+        sim::device().pad = c.pad;
+        sim::device().version = c.version;
+        UINavigationController *navigation = showNavigation(makePage("A"));
+        [[navigation topViewController].navigationItem
+            setRightBarButtonItem:[[[UIBarButtonItem alloc] initWithTitle:@"Done"
+                                                                    style:UIBarButtonItemStyleBordered
+                                                                   target:nil
+                                                                   action:nullptr] autorelease]];
+        sim::fillInterface([navigation view].window);
+        sim::turnInterface(c.orientation);
+        waitFor(1);
+        UINavigationBar *bar = [navigation navigationBar];
+        EXPECT_TRUE(CGRectEqualToRect([bar frame], c.frame));
+        UIView *behind = [[bar subviews] objectAtIndex:0];
+        CGRect covered = [behind convertRect:[behind bounds] toView:[navigation view]];
+        EXPECT_TRUE(CGRectEqualToRect(covered, CGRectMake(0, 0, c.frame.size.width, CGRectGetMaxY(c.frame))));
+        UIView *button = viewsOf(bar, objc_getClass("UINavigationButton")).at(0);
+        CGRect place = [button convertRect:[button bounds] toView:[navigation view]];
+        EXPECT_EQ(CGRectGetMidY(place), CGRectGetMidY(c.frame));
+        sim::turnInterface(UIInterfaceOrientationPortrait);
+        [[navigation view].window setHidden:YES];
+        sim::setRole([navigation view].window, sim::WindowRole::overlay);
+        waitFor(1);
+    }
+}
+
+TEST(Navigation, SaysTheWayBackInTheDevicesLanguage) {
+    struct {
+        const char *language, *back, *settings;
+    } const cases[] = {{"en", "Back", "Settings"},
+                       {"it", "Indietro", "Impostazioni"},
+                       {"es", "Atrás", "Ajustes"},
+                       {"fr", "Back", "Settings"}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.language);
+        sim::device().language = c.language;
+        UIViewController *list = [[objc_getClass("PSUIPrefsListController") new] autorelease];
+        EXPECT_STREQ([[list title] UTF8String], c.settings);
+        for (const char *title : {"", "A title that is far too long for the way back"}) {
+            UINavigationController *navigation = showNavigation(makePage(title));
+            [navigation pushViewController:makePage("A title that wants the room") animated:NO];
+            waitFor(1);
+            auto *way = static_cast<UINavigationItemButtonView *>(
+                viewsOf([navigation navigationBar], [UINavigationItemButtonView class]).at(0));
+            EXPECT_STREQ([[way title] UTF8String], c.back);
+        }
+    }
 }
 
 TEST(Navigation, APageFindsItsViewInItsSizeWhenItAppears) {

@@ -2,6 +2,7 @@
 
 #include "PreferenceEntries.h"
 #include "StockRows.h"
+#include "UIKit/Text/SystemTexts.hpp"
 
 #include "Preferences/Lists/PSListController+Further.h"
 #include "Preferences/Specifiers/PSSpecifier+Further.h"
@@ -23,7 +24,7 @@ RootListState &state(PSUIPrefsListController *list) {
 @implementation PSUIPrefsListController
 
 - (instancetype)init {
-    if ((self = [super init])) [self setTitle:@"Settings"];
+    if ((self = [super init])) [self setTitle:[NSString stringWithUTF8String:sim::systemTexts().settings]];
     return self;
 }
 

@@ -3,6 +3,7 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
 #include "UIKit/UIKit+Further.h"
+#include "UIKit/Text/SystemTexts.hpp"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIImageView.h>
@@ -142,7 +143,7 @@ BackState &state(UINavigationItemButtonView *view) {
 }
 
 - (void)shorten {
-    [state(self).label setText:@"Back"];
+    [state(self).label setText:[NSString stringWithUTF8String:sim::systemTexts().back]];
     [state(self).label sizeToFit];
 }
 

@@ -36,7 +36,7 @@
 }
 - (instancetype)initWithTitle:(NSString *)title;
 - (NSString *)title;
-// Calls itself "Back", for lack of room.
+// Calls itself "Back" in the device's language, for lack of room.
 - (void)shorten;
 @end
 
@@ -46,7 +46,7 @@ namespace sim {
 void setBar(UINavigationItem *item, UINavigationBar *bar);
 void setBar(UIBarButtonItem *item, UINavigationBar *bar);
 
-// The height of a navigation bar without the status bar that it reaches behind.
+// Lower on a phone that is held across. (Inferred: on the largest one too.)
 CGFloat navigationBarHeight();
 
 } // namespace sim

@@ -5,6 +5,7 @@
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Pixels.hpp"
 #include "UIKit/UIKit+Further.h"
+#include "UIKit/Text/SystemTexts.hpp"
 #include "UIKit/Views/ViewState.h"
 #include "UINavigationController+Further.h"
 
@@ -55,13 +56,6 @@ _UIBackdropViewSettings *lightMaterial() {
     return settings;
 }
 
-// The row that content stands in: the bar without what lies behind the status bar.
-CGRect row(UINavigationBar *bar) {
-    CGRect bounds = [bar bounds];
-    CGFloat height = std::min(sim::navigationBarHeight(), bounds.size.height);
-    return CGRectMake(0, bounds.size.height - height, bounds.size.width, height);
-}
-
 void place(UIView *view, CGFloat x, CGFloat width, CGRect row) {
     [view setFrame:CGRectMake(x, row.origin.y, width, row.size.height)];
     [view layoutIfNeeded];
@@ -91,7 +85,7 @@ void layOut(const Content &content, CGRect row) {
         place(content.left, from, width, row);
         from += width + kGap;
     } else if (content.back) {
-        // The title gives way to the side for it. What does not fit even so is called "Back".
+        // The title gives way to the side for it. What does not fit even so has a shorter name.
         CGFloat title = content.title ? [content.title bounds].size.width : 0;
         CGFloat room = std::max<CGFloat>(to - title - kGap - kBackMargin, 0);
         if (widthOf(content.back, row) > room)
@@ -105,7 +99,7 @@ void layOut(const Content &content, CGRect row) {
 
 NSString *backTitle(UINavigationItem *item) {
     if (NSString *own = [[item backBarButtonItem] title]) return own;
-    return [[item title] length] ? [item title] : @"Back";
+    return [[item title] length] ? [item title] : [NSString stringWithUTF8String:sim::systemTexts().back];
 }
 
 Content makeContent(UINavigationBar *bar) {
@@ -185,7 +179,7 @@ CGFloat navigationBarHeight() {
     if (!(self = [super initWithFrame:frame])) return nil;
     auto &mine = state(self);
     mine.material = [[[_UIBackdropView alloc] initWithFrame:[self bounds]
-                                    autosizesToFitSuperview:YES
+                                    autosizesToFitSuperview:NO
                                                    settings:lightMaterial()] autorelease];
     [mine.material setUserInteractionEnabled:NO];
     [self addSubview:mine.material];
@@ -242,7 +236,14 @@ CGFloat navigationBarHeight() {
         removeContent(mine.content);
         mine.content = makeContent(self);
     }
-    layOut(mine.content, row(self));
+    layOut(mine.content, bounds);
+}
+
+// What lies behind the bar reaches up behind the status bar.
+- (void)setFrame:(CGRect)frame {
+    [super setFrame:frame];
+    [state(self).material
+        setFrame:CGRectMake(0, -frame.origin.y, frame.size.width, frame.origin.y + frame.size.height)];
 }
 
 @end

@@ -49,7 +49,7 @@ void fitUnderBar(UINavigationController *controller, UIViewController *page) {
         scroll = [inside objectAtIndex:0];
     if (!scroll) return;
     UIEdgeInsets inset = [scroll contentInset];
-    CGFloat top = [state(controller).bar frame].size.height;
+    CGFloat top = CGRectGetMaxY([state(controller).bar frame]);
     if (inset.top == top) return;
     bool atTop = [scroll contentOffset].y <= -inset.top;
     inset.top = top;
@@ -163,8 +163,8 @@ void show(UINavigationController *controller, UIViewController *from, bool forwa
 
 - (void)placeBar {
     auto &mine = state(self);
-    CGFloat height = statusBarHeight() + sim::navigationBarHeight();
-    [mine.bar setFrame:CGRectMake(0, 0, [[self view] bounds].size.width, height)];
+    CGFloat width = [[self view] bounds].size.width;
+    [mine.bar setFrame:CGRectMake(0, statusBarHeight(), width, sim::navigationBarHeight())];
 }
 
 - (void)viewDidLayoutSubviews {
