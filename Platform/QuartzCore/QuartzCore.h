@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QuartzCore/CAAnimation.h>
+#include <QuartzCore/CADisplayLink.h>
 #include <QuartzCore/CAGradientLayer.h>
 #include <QuartzCore/CALayer.h>
 #include <QuartzCore/CAShapeLayer.h>

@@ -1,6 +1,8 @@
-// Proves that a finger on a scroll view holds back the timers of the default run-loop mode and no others
-// (documented), from its touch to its lifting and not while the content runs out (inferred).
+// Proves that a finger on a scroll view holds back the timers and display links of the default run-loop mode
+// and no others (documented), from its touch to its lifting and not while the content runs out (inferred).
 #include "ScrollStage.h"
+
+#include <QuartzCore/QuartzCore.h>
 
 #include <algorithm>
 
@@ -127,6 +129,58 @@ TEST(RunLoopModes, LateTimersFireAtOnceWhenTheFingerLiftsInTheOrderInWhichTheyWe
     EXPECT_EQ(takeNotes(), Lines{"often"});
     waitFor(0.2);
     EXPECT_EQ(takeNotes(), Lines{"moved"});
+}
+
+TEST(RunLoopModes, DecideWhichDisplayLinksGoOnUnderAFinger) {
+    WithoutDelegate stage;
+    auto add = [](const std::string &name, NSString *mode) {
+        CADisplayLink *link = [CADisplayLink displayLinkWithTarget:clockwork(name) selector:@selector(tick:)];
+        [link addToRunLoop:[NSRunLoop mainRunLoop] forMode:mode];
+        return link;
+    };
+    add("default", NSDefaultRunLoopMode);
+    CADisplayLink *common = add("common", NSRunLoopCommonModes), *half = add("half", NSRunLoopCommonModes);
+    [half setFrameInterval:2];
+    CADisplayLink *paused = add("paused", NSRunLoopCommonModes);
+    [paused setPaused:YES];
+    struct {
+        const char *what;
+        void (*act)();
+        long plain, common, half; // calls in half a second of 30 frames
+    } const steps[] = {
+        {"untouched", [] {}, 30, 30, 15},
+        {"a finger rests",
+         [] {
+             down({200, 100});
+         },
+         0, 30, 15},
+        {"it lifts", [] { up(); }, 30, 30, 15},
+    };
+    for (const auto &step : steps) {
+        SCOPED_TRACE(step.what);
+        step.act();
+        waitFor(0.5);
+        auto heard = takeNotes();
+        EXPECT_EQ(count(heard, "default"), step.plain);
+        EXPECT_EQ(count(heard, "common"), step.common);
+        EXPECT_EQ(count(heard, "half"), step.half);
+        EXPECT_EQ(count(heard, "paused"), 0);
+        EXPECT_EQ([common timestamp], now());
+    }
+    [common removeFromRunLoop:[NSRunLoop mainRunLoop] forMode:NSRunLoopCommonModes];
+    NSUInteger held = [half retainCount];
+    [half retain];
+    @autoreleasepool {
+        [half invalidate];
+    }
+    waitFor(0.5);
+    auto heard = takeNotes();
+    EXPECT_EQ(count(heard, "common") + count(heard, "half"), 0);
+    EXPECT_EQ([half retainCount], held) << "the run loop has let it go";
+    [half addToRunLoop:[NSRunLoop mainRunLoop] forMode:NSRunLoopCommonModes];
+    waitFor(0.5);
+    EXPECT_EQ(count(takeNotes(), "half"), 0) << "invalidated once and for all";
+    [half release];
 }
 
 TEST(RunLoopModes, EndWithTheTouchHoweverItEnds) {
