@@ -5,8 +5,8 @@
 #include "Runtime/Process/Device.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Controllers/Rotation.h"
-#include "UIKit/UIKit+Further.h"
 #include "UIKit/Navigation/NavigationState.h"
+#include "UIKit/UIKit+Further.h"
 
 using namespace harness;
 

@@ -2,6 +2,7 @@
 // were cancelled, gestures that have begun are cancelled and others fail, and what the fingers do after that
 // is nothing.
 #include "Fingers.h"
+#include "UIKit/UIKit+Further.h"
 
 #include "UIKit/Touch/RecognizerState.h"
 #include "UIKit/Touch/TouchInput.h"

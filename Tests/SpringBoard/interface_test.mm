@@ -1,6 +1,7 @@
 // Proves which way the interface lies on which device and version, whatever is in front (known), and that the
 // device's orientation is told to those who ask for it whether the interface turns or not (documented).
 #include "Harness.h"
+#include "UIKit/UIKit+Further.h"
 
 #include "SpringBoard/System/Interface.h"
 
@@ -61,7 +62,7 @@ const Case kCases[] = {
 
 class EachInterface : public testing::TestWithParam<Case> {
 protected:
-    static sim::HomeScreenOptions options() {
+    static sim::SharedOptions options() {
         auto result = harness::applications();
         result.interfaceTurns = GetParam().turns;
         return result;

@@ -2,6 +2,8 @@
 // or the screen goes dark, and after 8 seconds without a touch (known; that the switcher ends it is
 // inferred).
 #include "Fingers.h"
+#include "SpringBoard/Services/LAActivator+Further.h"
+#include "UIKit/UIKit+Further.h"
 
 #include "SpringBoard/System/Interface.h"
 #include "UIKit/Touch/TouchInput.h"

@@ -7,8 +7,8 @@
 #include "UIKit/Images/ImageState.h"
 #include "UIKit/StatusBar/StatusBarData.hpp"
 #include "UIKit/StatusBar/StatusBarState.h"
-#include "UIKit/UIKit+Further.h"
 #include "UIKit/Touch/TouchInput.h"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIStatusBar.h>

@@ -8,9 +8,9 @@
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
-#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Panel/CloseMarks.h"
 #include "Tweak/Panel/Drags.h"
 #include "Tweak/Panel/PromptButton.h"
@@ -79,7 +79,7 @@ void placeContent(BOOL prompting) {
 }
 
 void fadeAnswers(CGFloat alpha, NSTimeInterval duration, NSTimeInterval delay) {
-    [UIView animateTouchablyFor:duration
+    [UIView animateWithDuration:duration
                           delay:delay
                         options:UIViewAnimationOptionAllowUserInteraction
                      animations:^{

@@ -1,8 +1,8 @@
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Support/UIView+Touchable.h"
+#include "Tweak/Core/Tags.h"
 #include "Tweak/StatusBar/Replacements.h"
 #include "Tweak/StatusBar/StatusBar.h"
 

@@ -1,8 +1,8 @@
 #include "ApplicationState.h"
 
 #include "Runtime/Process/Device.hpp"
-#include "UIDevice+Further.h"
 #include "Runtime/Time/Clock.hpp"
+#include "UIDevice+Further.h"
 
 #include <UIKit/UIDevice.h>
 

@@ -2,8 +2,8 @@
 
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
-#include "UIKit/UIKit+Further.h"
 #include "UIKit/Text/SystemTexts.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
 #include <UIKit/UIImageView.h>

@@ -4,8 +4,8 @@
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Pixels.hpp"
-#include "UIKit/UIKit+Further.h"
 #include "UIKit/Text/SystemTexts.hpp"
+#include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 #include "UINavigationController+Further.h"
 
