@@ -5,6 +5,7 @@
 #include "Probe/Declared.h"
 #include "Probe/Motion/Motion.h"
 #include "Probe/Question.h"
+#include "Probe/Watching/Watching.h"
 
 #include <Substrate/CydiaSubstrate.h>
 #include <UIKit/UIKit.h>
@@ -20,9 +21,11 @@ constexpr NSTimeInterval kRest = 5, kMotion = 8, kCalls = 2;
 
 void (*launch)(id, SEL, id);
 NSMutableDictionary *values; // {question: answer}
+BOOL newAnswers;             // since the file was written
 
 void launched(id self, SEL selector, id application) {
     launch(self, selector, application);
+    watchLaunch();
     PendixProbe *prober = [PendixProbe new]; // lives as long as the process
     [prober performSelector:@selector(look) withObject:nil afterDelay:kRest];
 }
@@ -45,6 +48,13 @@ void startMotions() {
         if (may) motion.start();
 }
 
+void startWatching() {
+    BOOL may = mayAsk(@"watching");
+    for (const char *name : watchedQuestions())
+        [values setObject:may ? unanswered() : endedTheHomeScreen() forKey:text(name)];
+    if (may) watchPerson();
+}
+
 NSDictionary *report() {
     NSMutableDictionary *result = [NSMutableDictionary dictionary];
     [result setObject:[NSNumber numberWithInt:kFormat] forKey:@"format"];
@@ -65,7 +75,9 @@ void startAfterLaunch() {
 
 void answerLater(const char *name, id answer) {
     NSString *key = text(name);
-    if ([unanswered() isEqual:[values objectForKey:key]]) [values setObject:answer forKey:key];
+    if (![unanswered() isEqual:[values objectForKey:key]]) return;
+    [values setObject:answer forKey:key];
+    newAnswers = YES;
 }
 
 } // namespace probe
@@ -89,8 +101,10 @@ using namespace probe;
 
 - (void)write {
     endMotions();
+    startWatching();
     askedEverything();
     hasNewCalls();
+    newAnswers = NO;
     [report() writeToFile:kFile atomically:YES];
     [NSTimer scheduledTimerWithTimeInterval:kCalls
                                      target:self
@@ -100,7 +114,10 @@ using namespace probe;
 }
 
 - (void)writeNewCalls {
-    if (hasNewCalls()) [report() writeToFile:kFile atomically:YES];
+    BOOL calls = hasNewCalls();
+    if (!calls && !newAnswers) return;
+    newAnswers = NO;
+    [report() writeToFile:kFile atomically:YES];
 }
 
 @end

@@ -68,6 +68,56 @@ void touchesWithOption() {
     touchesWhileMoving("animation.touches.found_with_option", UIViewAnimationOptionAllowUserInteraction);
 }
 
+// Whether `view` takes touches in its middle half a second after `animate` was called.
+void touchesDuring(const char *name, UIView *container, UIView *view, void (^animate)(void)) {
+    container.frame = CGRectMake(0, 0, 300, 40);
+    animate();
+    CGPoint middle = CGPointMake(view.bounds.size.width / 2, view.bounds.size.height / 2);
+    after(kHalf, ^{
+        CGPoint place = [view convertPoint:middle toView:container];
+        answerLater(name, flag([container hitTest:place withEvent:nil] == view));
+    });
+}
+
+UIView *newPart(UIView *container) {
+    UIView *view = [[[UIView alloc] initWithFrame:CGRectMake(0, 0, 20, 20)] autorelease];
+    [container addSubview:view];
+    return view;
+}
+
+void animateFor(NSTimeInterval duration, NSTimeInterval delay, UIViewAnimationOptions options,
+                void (^animations)(void)) {
+    [UIView animateWithDuration:duration delay:delay options:options animations:animations completion:nil];
+}
+
+void touchesWhileFading() {
+    UIView *container = newStage(), *view = newPart(container);
+    view.alpha = 0;
+    touchesDuring("animation.touches.fading", container, view,
+                  ^{ animateFor(1, 0, kLinear, ^{ view.alpha = 1; }); });
+}
+
+void touchesWhileDelayed() {
+    UIView *container = newStage(), *view = newPart(container);
+    touchesDuring("animation.touches.delayed", container, view,
+                  ^{ animateFor(1, 2, kLinear, ^{ view.alpha = 0.5; }); });
+}
+
+void touchesOfHeldView() {
+    UIView *container = newStage(), *moving = newPart(container), *held = newPart(moving);
+    touchesDuring("animation.touches.held_view", container, held,
+                  ^{ animateFor(1, 0, kLinear, ^{ moving.center = CGPointMake(210, 10); }); });
+}
+
+// A block that allows touches holds one that does not.
+void touchesOfInnerBlock() {
+    UIView *container = newStage(), *view = newPart(container);
+    touchesDuring("animation.touches.inner_block", container, view, ^{
+        animateFor(1, 0, UIViewAnimationOptionAllowUserInteraction,
+                   ^{ animateFor(1, 0, kLinear, ^{ view.alpha = 0.5; }); });
+    });
+}
+
 } // namespace
 
 std::span<const Motion> animationMotions() {
@@ -75,7 +125,11 @@ std::span<const Motion> animationMotions() {
                                  {"animation.windowless.at_once", outsideEveryWindow},
                                  {"animation.unchanged.time", withoutChange},
                                  {"animation.touches.found", touchesWithoutOption},
-                                 {"animation.touches.found_with_option", touchesWithOption}};
+                                 {"animation.touches.found_with_option", touchesWithOption},
+                                 {"animation.touches.fading", touchesWhileFading},
+                                 {"animation.touches.delayed", touchesWhileDelayed},
+                                 {"animation.touches.held_view", touchesOfHeldView},
+                                 {"animation.touches.inner_block", touchesOfInnerBlock}};
     return all;
 }
 

@@ -21,9 +21,21 @@
                                    selector:(SEL)selector
                                    userInfo:(id)userInfo
                                     repeats:(BOOL)repeats;
++ (NSTimer *)timerWithTimeInterval:(NSTimeInterval)interval
+                            target:(id)target
+                          selector:(SEL)selector
+                          userInfo:(id)userInfo
+                           repeats:(BOOL)repeats;
 - (void)fire;
 - (void)invalidate;
 - (BOOL)isValid;
+@end
+
+@interface NSRunLoop : NSObject
++ (NSRunLoop *)mainRunLoop;
++ (NSRunLoop *)currentRunLoop;
+- (NSString *)currentMode;
+- (void)addTimer:(NSTimer *)timer forMode:(NSString *)mode;
 @end
 
 @interface NSNotification : NSObject

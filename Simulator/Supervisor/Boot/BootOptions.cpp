@@ -53,6 +53,7 @@ std::vector<ApplicationSpec> readStock(std::string_view json, const std::string 
         application.name = names[names.has(language) ? language : kDefaultLanguage].string();
         if (entry.has("folder")) application.folder = entry["folder"].string();
         application.dock = entry.has("dock") && entry["dock"].boolean();
+        application.statusBar = !entry.has("status_bar") || entry["status_bar"].boolean();
         result.push_back(std::move(application));
     }
     return result;

@@ -25,8 +25,9 @@ struct BootOptions : SharedOptions {
 };
 
 // Throws BootError with a text for the script's author. `stockApplications` is the text of the JSON file of
-// those that a device has when the table names none, [{"id", "name": {language: text}, "folder", "dock"}]; a
-// name that an application lacks is taken from it as well. Throws ValueError when that text is broken.
+// those that a device has when the table names none, [{"id", "name": {language: text}, "folder", "dock",
+// "status_bar"}]; a name that an application lacks is taken from it as well. Throws ValueError when that text
+// is broken.
 BootOptions readBootOptions(const Value &table, std::string_view stockApplications);
 
 // "2015-03-01 10:20:30" as seconds since 1970; nothing for a moment that does not exist.
