@@ -32,6 +32,7 @@ enum {
 @property (nonatomic) BOOL cancelsTouchesInView;
 - (void)requireGestureRecognizerToFail:(UIGestureRecognizer *)other;
 - (CGPoint)locationInView:(UIView *)view;
+@property (nonatomic) BOOL delaysTouchesEnded;
 @end
 
 @protocol UIGestureRecognizerDelegate <NSObject>

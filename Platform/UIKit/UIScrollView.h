@@ -37,4 +37,5 @@
 - (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated;
 - (BOOL)touchesShouldBegin:(NSSet *)touches withEvent:(UIEvent *)event inContentView:(UIView *)view;
 - (BOOL)touchesShouldCancelInContentView:(UIView *)view;
+@property (nonatomic, readonly, getter=isTracking) BOOL tracking;
 @end

@@ -122,5 +122,6 @@ for _, case in ipairs{ { "along the strip", -90, 0 }, { "up and down", 0, 30 } }
   phone:up()
   phone:wait(1 / 60)
   local drag = phone:counters().settings_reads - idle
-  expect(drag >= 0 and drag <= 1, case[1] .. ": " .. drag .. " reads for a drag of sixty moves")
+  -- The poll stands still while the strip follows a finger.
+  expect(drag <= 1, case[1] .. ": " .. drag .. " reads for a drag of sixty moves")
 end

@@ -5,7 +5,6 @@
 
 @interface UIGestureRecognizer (Further)
 @property (nonatomic) BOOL delaysTouchesBegan;
-@property (nonatomic) BOOL delaysTouchesEnded;
 - (NSUInteger)numberOfTouches;
 @end
 

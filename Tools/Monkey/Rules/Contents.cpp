@@ -86,6 +86,13 @@ void checkTexts(const Moment &moment, const Scene &scene, Findings &findings) {
     if (scene.emptyText == "(null)") findings.push_back("an empty panel says \"(null)\"");
 }
 
+// What a panel took off that was open when its badge came is listed again with the badge's next change.
+BadgeMemory withUnlisted(const Memory &memory) {
+    BadgeMemory badges = memory.scene.badges;
+    badges.unsure.insert(memory.unlisted.begin(), memory.unlisted.end());
+    return badges;
+}
+
 // It opened under this event, and nothing else happened that would change what it lists.
 bool justOpened(const Moment &moment, const std::optional<Scene> &scene) {
     if (!scene || !moment.before || sceneOf(*moment.before) || moment.settingsChanged) return false;
@@ -101,7 +108,7 @@ void checkContents(const Moment &moment, Memory &memory, Findings &findings) {
     if (isOn(moment.settings, "badge"))
         checkRunning(moment, *scene, findings);
     else
-        checkBadged(moment, memory.scene.badges, *scene, findings);
+        checkBadged(moment, withUnlisted(memory), *scene, findings);
     checkTexts(moment, *scene, findings);
 }
 

@@ -6,6 +6,5 @@
 @interface UIScrollView (Further)
 @property (nonatomic) UIEdgeInsets contentInset;
 @property (nonatomic) BOOL alwaysBounceHorizontal;
-@property (nonatomic, readonly, getter=isTracking) BOOL tracking;
 @property (nonatomic, readonly) UIPanGestureRecognizer *panGestureRecognizer;
 @end
