@@ -1,3 +1,4 @@
+// Calls at each frame of the screen, in the run-loop modes that it is added for.
 #pragma once
 
 #include <QuartzCore/CAAnimation.h>
