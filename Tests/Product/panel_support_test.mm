@@ -136,6 +136,8 @@ TEST_F(PanelSupport, ADimBandSweepsAcrossUntilStopped) {
     }
     [view stopShimmering];
     EXPECT_GT(dimmest(frame).second, 97);
+    window.hidden = YES;
+    [window release];
 }
 
 TEST_F(PanelSupport, CardsShowTheFirstPortraitThatCanBeShown) {

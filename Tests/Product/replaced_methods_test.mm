@@ -136,7 +136,7 @@ TEST_P(GlyphPace, IsThePanelsOnlyWhileItWaitsForAFinger) {
         pace = duration;
     };
     PKFingerprintGlyphView *glyph =
-        [[objc_getClass("PKFingerprintGlyphView") alloc] initWithFrame:CGRectZero];
+        [[[objc_getClass("PKFingerprintGlyphView") alloc] initWithFrame:CGRectZero] autorelease];
     auto draws = [&] {
         [glyph _setProgress:1 withDuration:kTold forShapeLayerAtIndex:0];
         return pace;

@@ -31,7 +31,7 @@ class Applications(unittest.TestCase):
         self.assertEqual(len(set(IDENTIFIERS)), 24)
         for application in APPLICATIONS:
             self.assertEqual(set(application["name"]), {"en", "it", "es"}, application)
-            self.assertLessEqual(set(application), {"id", "name", "folder", "dock"}, application)
+            self.assertLessEqual(set(application), {"id", "name", "folder", "dock", "status_bar"}, application)
             self.assertFalse("dock" in application and "folder" in application, application)
 
     def test_the_dock_and_the_folder(self):
