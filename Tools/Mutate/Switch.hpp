@@ -24,8 +24,6 @@ struct Switch {
     unsigned char *passed = nullptr;
 
     Switch() {
-        constexpr long kReadWrite = 2, kEnd = 2, kReadAndWrite = 1 | 2,
-                       kShared = 1; // of open, lseek and mmap
         static char text[1 << 16];
         if (!read("/proc/self/environ", text)) return;
         const char *number = value(text, "MUTANT=");
@@ -48,15 +46,19 @@ struct Switch {
     }
 
 private:
-    static constexpr long kNoFolder = -100; // paths are whole
+    // Of openat, lseek and mmap. Paths are whole.
+    static constexpr long kNoFolder = -100, kReadWrite = 2, kEnd = 2, kReadAndWrite = 1 | 2, kShared = 1;
 
     template <unsigned long size>
     static bool read(const char *path, char (&text)[size]) {
         long descriptor = syscall(SYS_openat, kNoFolder, path, 0L, 0L);
         if (descriptor < 0) return false;
         unsigned long length = 0;
-        for (long got = 1; got > 0 && length<size - 2; length += got> 0 ? static_cast<unsigned long>(got) : 0)
-            got = syscall(SYS_read, descriptor, text + length, size - 2 - length);
+        while (length + 2 < size) {
+            long got = syscall(SYS_read, descriptor, text + length, size - 2 - length);
+            if (got <= 0) break;
+            length += static_cast<unsigned long>(got);
+        }
         syscall(SYS_close, descriptor);
         text[length] = text[length + 1] = 0;
         return true;

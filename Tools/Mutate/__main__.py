@@ -1,11 +1,14 @@
 """Plants faults into the product's sources, one at a time, and tells which of them no test notices: see docs/mutation.md."""
 
 import argparse
-import hashlib
+import os
 import pathlib
+import re
+import signal
 import sys
 
-import equivalent
+import suite
+from choice import chosen, unseen
 from plan import Plan, jobs_here
 from report import Report, found_share, only, show_list
 from trial import Record, Trial
@@ -27,30 +30,33 @@ def command_line():
     parser.add_argument("--only", type=int, metavar="NUMBER", help="one fault of the list, with the output of its tests")
     parser.add_argument("--resume", type=pathlib.Path, metavar="FILE", help="keep what is known there, and go on from it")
     parser.add_argument("--least", type=float, default=0, metavar="PERCENT", help="fail when fewer are found")
+    parser.add_argument("--leave-out", metavar="REGEX", help="tests that are not tried: 'faults|settings_files' are the long ones")
     return parser.parse_args()
 
 
-def chosen(faults, folders, seed, count):
-    """By the words of each, so that a change elsewhere leaves the choice as it is."""
-    folders = [folder.rstrip("/") + "/" for folder in folders]
-    some = [fault for fault in faults if not folders or fault.file.startswith(tuple(folders)) or fault.file + "/" in folders]
-    return sorted(some, key=lambda fault: hashlib.sha256(f"{seed} {fault.key}".encode()).digest())[:count]
+def stop(*_):
+    suite.end_all()
+    os._exit(2)
 
 
 def main():
     arguments = command_line()
+    for end in (signal.SIGINT, signal.SIGTERM):
+        signal.signal(end, stop)
     plan = Plan(ROOT, arguments.jobs, lambda text: print(f"== {text}", file=sys.stderr, flush=True))
     faults = plan.plant()
-    named = equivalent.read(EQUIVALENT, faults)
+    named = unseen(EQUIVALENT, faults)
     some = chosen(faults, arguments.folders, arguments.seed, len(faults) if arguments.list else arguments.count)
     if arguments.list:
         return show_list(sorted(some, key=lambda fault: fault.number), named)
     plan.build()
     tests, monkey = plan.try_without(arguments.monkey)
+    if arguments.leave_out:
+        tests = {test: run for test, run in tests.items() if not re.search(arguments.leave_out, test.name)}
     if arguments.only is not None:
         return only(next(fault for fault in faults if fault.number == arguments.only), tests, monkey)
     report = Report(ROOT, named, bool(arguments.monkey_alone and monkey))
-    record = Record(arguments.resume, plan.identity())
+    record = Record(arguments.resume, f"{plan.identity()} {arguments.leave_out}")
     trial = Trial(tests, monkey, record, arguments.monkey_alone)
     trying = [fault for fault in some if fault.key not in named]
     verdicts = trial.run(trying, arguments.jobs, report.tell)

@@ -1,7 +1,6 @@
 """All faults that can be planted into some sources: walks the syntax tree of each unit."""
 
 import collections
-import concurrent.futures
 import pathlib
 
 from clang.cindex import CursorKind as Kind
@@ -16,7 +15,8 @@ from syntax import FUNCTIONS, extent, parse
 
 SHOWN = 160  # characters of the code that a fault tells of
 FIXED_PARENTS = (Kind.ENUM_CONSTANT_DECL, Kind.STATIC_ASSERT, Kind.ALIGNED_ATTR)
-SCOPES = (Kind.NAMESPACE, Kind.TRANSLATION_UNIT, Kind.STRUCT_DECL, Kind.CLASS_DECL, Kind.LINKAGE_SPEC)
+TYPES = (Kind.STRUCT_DECL, Kind.CLASS_DECL)
+SCOPES = (Kind.NAMESPACE, Kind.TRANSLATION_UNIT, Kind.LINKAGE_SPEC, *TYPES)
 
 
 def shortened(code):
@@ -64,6 +64,8 @@ class Walk:
     def visit(self, place, node, parent, fixed):
         if node.kind in FUNCTIONS:
             place = Place(place.source, node.spelling)
+        elif node.kind in TYPES:
+            place = Place(place.source, node.spelling)
         elif node.kind == Kind.VAR_DECL:
             place = self.variable(place, node)
         fixed = fixed or self.is_fixed(place, node, parent)
@@ -99,7 +101,7 @@ class Walk:
         outside = node.semantic_parent is not None and node.semantic_parent.kind in SCOPES
         if not keyword and not outside:
             return place
-        member = outside and node.semantic_parent.kind in (Kind.STRUCT_DECL, Kind.CLASS_DECL)
+        member = outside and node.semantic_parent.kind in TYPES
         span = extent(keyword) if keyword else None
         self.constants[place.source.name, at] = Constant(
             place.source.name, start, end, span, ("inline const" if member else "const") if keyword else "")

@@ -2,7 +2,7 @@
 
 from clang.cindex import CursorKind as Kind
 
-from faults import TRUTH, VALUE, Change
+from faults import DECLARED, TRUTH, VALUE, Change
 from syntax import INTEGERS, bare, extent, for_condition, is_number, operator_of
 
 OPPOSITE = {"==": "!=", "!=": "==", "<": ">=", ">=": "<", ">": "<=", "<=": ">"}
@@ -43,6 +43,14 @@ def with_operator(place, node, other):
     return f"{place.code(left)} {other} {place.code(right)}"
 
 
+def declared(place, node):
+    """if (View *view = …): what is asked is what has been declared."""
+    children = list(node.get_children())
+    if node.kind == Kind.IF_STMT and children[0].kind == Kind.VAR_DECL:
+        end, name = extent(children[0])[1], children[0].spelling
+        yield place.fault("flip", children[0], f"!{name}", [Change(end, end, DECLARED, name)])
+
+
 def flipped(place, node):
     for condition in conditions(place, node):
         if not is_condition(place, bare(condition)):
@@ -81,4 +89,5 @@ def operated(place, node):
 
 def faults(place, node):
     yield from flipped(place, node)
+    yield from declared(place, node)
     yield from operated(place, node)

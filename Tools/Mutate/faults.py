@@ -2,12 +2,13 @@
 
 import dataclasses
 
-STATEMENT, VALUE, TRUTH = "statement", "value", "truth"
+STATEMENT, VALUE, TRUTH, DECLARED = "statement", "value", "truth", "declared"
 
 
 @dataclasses.dataclass(frozen=True)
 class Change:
-    """Stands in the source at [start, end); `text` replaces it when the fault is on. A truth becomes a bool."""
+    """Stands in the source at [start, end); `text` replaces it when the fault is on. A truth becomes a bool;
+    what is declared in a condition, whose name the text is, is asked behind its declaration."""
     start: int
     end: int
     form: str

@@ -102,7 +102,7 @@ class Plan:
             runs = dict(zip(tests, self.measure(tests)))
             minute = monkey.minute(self.tree.build, seconds, self.measure, self.jobs) if seconds else {}
             known = kept.put(wanted, (runs, minute))
-        return tuple(self.usable(runs) for runs in known)
+        return tuple(self.usable(runs) if runs else {} for runs in known)
 
     def identity(self):
         """What verdicts depend on."""
@@ -113,6 +113,8 @@ class Plan:
             if not run.passed:
                 self.say(f"left out, for it fails without a fault: {test.name}")
         some = {test: run for test, run in runs.items() if run.passed and run.faults}
+        if not some:
+            raise SystemExit("no run passes any fault: the copy does not work")
         return dict(sorted(some.items(), key=lambda entry: entry[1].processor))
 
 

@@ -3,7 +3,7 @@
 import collections
 import dataclasses
 
-from faults import STATEMENT, TRUTH
+from faults import DECLARED, STATEMENT, TRUTH
 from source import on_one_line
 
 KEYWORD, USE = "keyword", "use"
@@ -28,6 +28,8 @@ def parts(edit):
         return f"{{ if (::mutation::on({number})) {{ {text} }} else {{ ", " } }"
     if edit.form == TRUTH:
         return f"(::mutation::on({number}) ? {text} : !!(", "))"
+    if edit.form == DECLARED:
+        return f"; ::mutation::on({number}) ? !{text} : !!{text}", ""
     if edit.form == USE:
         return f"(::mutation::pass({text}), ", ")"
     return f"(::mutation::on({number}) ? ({text}) : (", "))"

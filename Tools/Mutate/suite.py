@@ -12,7 +12,9 @@ import time
 
 MEMORY = 4 << 30  # bytes of data that one process may take: a fault may ask for more and more
 BESIDES = 20      # seconds that a run may take besides ten times what it took without a fault
-MONKEY = "monkey"
+MONKEY = "monkey"  # how the names of the tests begin that are runs of the monkey or prove it
+
+running = set()  # processes, each the head of a group
 
 
 @dataclasses.dataclass(frozen=True)
@@ -21,8 +23,7 @@ class Test:
     command: tuple
     folder: str
     environment: tuple = ()
-    passes: tuple = ()  # expressions one of which the output of a test that passes holds, if there are any
-    labels: tuple = ()
+    expected: tuple = ()  # expressions one of which the output of a test that passes holds, if there are any
 
 
 @dataclasses.dataclass
@@ -35,8 +36,21 @@ class Run:
     faults: frozenset = frozenset()  # whose places were passed
 
 
+def end_all():
+    """Ends what runs, with all that it has started."""
+    for process in list(running):
+        end_group(process)
+
+
+def end_group(process):
+    try:
+        os.killpg(process, signal.SIGKILL)
+    except ProcessLookupError:
+        pass
+
+
 def tests_of(build, root):
-    """Every test but the monkey's own runs. What looks at the sources looks at those of the project."""
+    """Every test but the monkey's. What looks at the sources looks at those of the project."""
     listing = subprocess.run(["ctest", "--test-dir", str(build), "--show-only=json-v1"], stdout=subprocess.PIPE, check=True)
     tree, found = str(build.parent.parent), []
     for test in json.loads(listing.stdout)["tests"]:
@@ -45,9 +59,8 @@ def tests_of(build, root):
             continue
         command = tuple(str(root) if word == tree else word for word in test["command"])
         found.append(Test(test["name"], command, properties.get("WORKING_DIRECTORY", str(build)),
-                          tuple(properties.get("ENVIRONMENT", ())), tuple(properties.get("PASS_REGULAR_EXPRESSION", ())),
-                          tuple(properties.get("LABELS", ()))))
-    return [test for test in found if MONKEY not in test.labels]
+                          tuple(properties.get("ENVIRONMENT", ())), tuple(properties.get("PASS_REGULAR_EXPRESSION", ()))))
+    return [test for test in found if not test.name.startswith(MONKEY)]
 
 
 def in_scratch(command, scratch):
@@ -71,14 +84,11 @@ def wait(process, limit):
             break
         if not hung and time.monotonic() > end:
             hung = True
-            os.killpg(process.pid, signal.SIGKILL)
+            end_group(process.pid)
         time.sleep(pause)
         pause = min(pause * 1.5, 0.1)
     process.returncode = os.waitstatus_to_exitcode(status)
-    try:
-        os.killpg(process.pid, signal.SIGKILL)
-    except ProcessLookupError:
-        pass
+    end_group(process.pid)
     return usage, hung
 
 
@@ -99,9 +109,11 @@ def run(test, fault=None, count=0, limit=3600.0):
         with output_file.open("wb") as output:
             process = subprocess.Popen(command, cwd=test.folder, env=environment, stdin=subprocess.DEVNULL, stdout=output,
                                        stderr=subprocess.STDOUT, start_new_session=True)
+            running.add(process.pid)
             usage, hung = wait(process, limit)
+            running.discard(process.pid)
         text = output_file.read_text(errors="replace")
-        good = any(re.search(one, text) for one in test.passes) if test.passes else process.returncode == 0
+        good = any(re.search(one, text) for one in test.expected) if test.expected else process.returncode == 0
         marks = passed_file.read_bytes() if count else b""
         return Run(good and not hung, time.monotonic() - start, usage.ru_utime + usage.ru_stime, text, hung,
                    frozenset(number for number, mark in enumerate(marks) if mark))

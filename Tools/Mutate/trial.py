@@ -1,5 +1,6 @@
 """Switches faults on, one at a time, and tells which of them something finds."""
 
+import collections
 import concurrent.futures
 import dataclasses
 import json
@@ -27,15 +28,16 @@ def how(run):
     return lines[-1][:160] if lines else "it ends badly"
 
 
-def look(fault, runs):
-    """Tries every run that passes the fault's place until one fails, and passes again without the fault."""
-    tried = 0
-    for test, without in runs.items():
-        if fault.number not in without.faults:
-            continue
+def look(fault, runs, lucky):
+    """Tries every run that passes the fault's place until one fails, and passes again without the fault. The quick ones
+    come first, and those that have found others in the same file; `lucky` counts these."""
+    tried, luck = 0, lucky.setdefault(fault.file, collections.Counter())
+    passing = [(test, without) for test, without in runs.items() if fault.number in without.faults]
+    for test, without in sorted(passing, key=lambda one: one[1].processor / (1 + 5 * luck[one[0].name])):
         tried += 1
         run = suite.run(test, fault=fault.number, limit=limit_of(without))
         if not run.passed and suite.run(test, limit=limit_of(without)).passed:
+            luck[test.name] += 1
             return Verdict(test.name, how(run), tried)
     return Verdict("", "" if tried else "nothing passes it", tried)
 
@@ -73,15 +75,16 @@ class Trial:
 
     def __init__(self, tests, monkey, record, alone):
         self.tests, self.monkey, self.record, self.alone = tests, monkey, record, alone
+        self.lucky = {}
 
     def of(self, fault):
         """(what the tests say, what the monkey says or None when it was not asked)"""
-        by_tests = self.record.get(fault, "tests", lambda: look(fault, self.tests))
+        by_tests = self.record.get(fault, "tests", lambda: look(fault, self.tests, self.lucky))
         if by_tests.by and not self.alone:
             return by_tests, None
         if not self.monkey:
             return by_tests, None
-        return by_tests, self.record.get(fault, "monkey", lambda: look(fault, self.monkey))
+        return by_tests, self.record.get(fault, "monkey", lambda: look(fault, self.monkey, self.lucky))
 
     def run(self, faults, jobs, tell):
         """Calls `tell` with each fault and its two verdicts as they come; gives {fault's number: verdicts}."""
