@@ -108,7 +108,11 @@ inline bool on(int number) {
     return state().on == number;
 }
 
-// For a constant whose faults lie in its definition: this is where it is used.
+// The same in the definition of a constant, which every process comes to: its place is passed where it is
+// used.
+inline bool defined(int number) { return state().on == number; }
+
+// Such a use.
 template <typename... Numbers>
 void pass(long first, Numbers... others) {
     pass(first);

@@ -18,21 +18,22 @@ class Edit:
     form: str
     text: str
     owner: object
+    asks: str = "on"
     inside: list = dataclasses.field(default_factory=list)
 
 
 def parts(edit):
     """What is written before and after the code that stays."""
-    number, text = edit.owner, edit.text
+    asked, text = f"::mutation::{edit.asks}({edit.owner})", edit.text
     if edit.form == STATEMENT:
-        return f"{{ if (::mutation::on({number})) {{ {text} }} else {{ ", " } }"
+        return f"{{ if ({asked}) {{ {text} }} else {{ ", " } }"
     if edit.form == TRUTH:
-        return f"(::mutation::on({number}) ? {text} : !!(", "))"
+        return f"({asked} ? {text} : !!(", "))"
     if edit.form == DECLARED:
-        return f"; ::mutation::on({number}) ? !{text} : !!{text}", ""
+        return f"; {asked} ? !{text} : !!{text}", ""
     if edit.form == USE:
         return f"(::mutation::pass({text}), ", ")"
-    return f"(::mutation::on({number}) ? ({text}) : (", "))"
+    return f"({asked} ? ({text}) : (", "))"
 
 
 def nested(edits):
@@ -115,7 +116,8 @@ class Planting:
     def edits(self, name):
         for fault in self.faults[name]:
             for change in fault.changes:
-                yield Edit(change.start, change.end, change.form, on_one_line(change.text), fault.number)
+                asks = "on" if fault.constant < 0 else "defined"
+                yield Edit(change.start, change.end, change.form, on_one_line(change.text), fault.number, asks)
         keywords = {constant.keyword: (key, constant) for key, constant in self.found.constants.items()
                     if constant.file == name and constant.keyword and self.passed[key] and not constant.fixed}
         for keyword, (key, constant) in keywords.items():

@@ -4,6 +4,7 @@ import collections
 import concurrent.futures
 import dataclasses
 import json
+import re
 
 import suite
 
@@ -20,12 +21,15 @@ def limit_of(without):
     return 10 * without.seconds + suite.BESIDES
 
 
+COMPLAINT = re.compile(r"fail|error|wanted|expect|assert|crash|abort|SIG[A-Z]{3}", re.IGNORECASE)
+
+
 def how(run):
-    """The last line that tells of something."""
+    """The first line that complains of something."""
     if run.hung:
         return "it does not end"
     lines = [line.strip() for line in run.output.splitlines() if line.strip()]
-    return lines[-1][:160] if lines else "it ends badly"
+    return next(filter(COMPLAINT.search, lines), lines[-1] if lines else "it ends badly")[:200]
 
 
 def look(fault, runs, lucky):

@@ -4,7 +4,7 @@
 @interface Lamp : NSObject {
     NSString *_name;
 }
-@property(nonatomic, copy) NSString *name;
+@property (nonatomic, copy) NSString *name;
 - (BOOL)shineFrom:(double)start to:(double)end;
 @end
 

@@ -4,6 +4,8 @@
 
 enum class Way { left, right, up };
 
+constexpr const char *kLeft = "left"; // used where nothing comes
+
 static int slots[example::kSlots] = {1, 2, 3};
 
 static void swap(int &left, int &right) {
@@ -16,13 +18,16 @@ static example::Size sized(double width, double height) { return {width, height}
 
 static const char *name(Way way) {
     switch (way) {
-    case Way::left: return "left";
+    case Way::left:
+        return kLeft;
     case Way::right:
-        if (slots[0] > 1) return "swapped";
+        if (slots[0] > 1)
+            return "swapped";
         else
             slots[0] += 10;
         break;
-    default: break;
+    default:
+        break;
     }
     return slots[0] == 11 ? "raised" : "other";
 }

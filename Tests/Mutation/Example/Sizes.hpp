@@ -5,7 +5,8 @@ namespace example {
 
 inline constexpr int kSlots = 3;      // a bound: cannot be switched
 inline constexpr double kStep = 1.5;  // can
-constexpr double kTwoSteps = kStep * 2;
+inline constexpr double kTwice = 2.0; // used by another constant only
+constexpr double kTwoSteps = kStep * kTwice;
 
 struct Size {
     double width = 0, height = 0;
