@@ -62,6 +62,8 @@ class Compiling:
         pending = dict(self.units)
         while pending:
             self.planted = plant(list(self.faults.values()), self.found)
+            for edit in [edit for planted in self.planted.values() for edit in planted.refused]:
+                self.leave_out(edit)
             work = [(self.tree.folder / name, words, self.tree.folder) for name, words in pending.items()]
             with concurrent.futures.ProcessPoolExecutor(jobs) as pool:
                 results = dict(zip(pending, pool.map(errors, work)))

@@ -74,15 +74,27 @@ def in_scratch(command, scratch):
     return words
 
 
+def is_stopped(process):
+    """Whether somebody holds it up, as one does who needs the machine for a while."""
+    try:
+        return pathlib.Path(f"/proc/{process}/stat").read_text().rpartition(")")[2].split()[0] == "T"
+    except OSError:
+        return False
+
+
 def wait(process, limit):
-    """Waits so many seconds at the most; ends the process and all it has started. Gives what it used, and whether
-    it had to be ended."""
-    end, pause, hung = time.monotonic() + limit, 0.002, False
+    """Waits so many seconds at the most, not counting those in which it was stopped; ends the process and all it has
+    started. Gives what it used, and whether it had to be ended."""
+    left, before, pause, hung = limit, time.monotonic(), 0.002, False
     while True:
         done, status, usage = os.wait4(process.pid, os.WNOHANG)
         if done:
             break
-        if not hung and time.monotonic() > end:
+        now = time.monotonic()
+        if not is_stopped(process.pid):
+            left -= now - before
+        before = now
+        if not hung and left < 0:
             hung = True
             end_group(process.pid)
         time.sleep(pause)
