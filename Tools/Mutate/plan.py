@@ -15,7 +15,8 @@ from planting import Planting
 from syntax import units_of
 from tree import FOLDERS, HEADER, Tree, files_of, sources_of, write
 
-RECORD = 8  # the form of what is kept
+RECORD = 1  # the form of what is kept
+NOT_MEASURED = ("docs/", "scripts/", "Tools/Mutate/", "Tests/Mutation/")
 
 
 def digest(paths, *more):
@@ -93,7 +94,7 @@ class Plan:
     def try_without(self, seconds):
         """{test: its run without a fault} for the tests that pass at least one place, quickest first, and the same for
         the monkey, whose runs take so many seconds of processor time together."""
-        wanted = digest([path for name, path in files_of(self.tree.folder).items() if not name.startswith("docs/")], seconds)
+        wanted = digest(self.measured_files(), seconds)
         kept = Kept(self.folder / "without.pickle")
         known = kept.get(wanted)
         if known is None:
@@ -106,7 +107,10 @@ class Plan:
 
     def identity(self):
         """What verdicts depend on."""
-        return digest([path for name, path in files_of(self.tree.folder).items() if not name.startswith("docs/")])
+        return digest(self.measured_files())
+
+    def measured_files(self):
+        return [path for name, path in files_of(self.tree.folder).items() if not name.startswith(NOT_MEASURED)]
 
     def usable(self, runs):
         for test, run in runs.items():

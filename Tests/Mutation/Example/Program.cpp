@@ -8,7 +8,7 @@ constexpr const char *kLeft = "left"; // used where nothing comes
 
 static int slots[example::kSlots] = {1, 2, 3};
 
-static void swap(int &left, int &right) {
+static void trade(int &left, int &right) {
     int kept = left;
     left = right;
     right = kept;
@@ -35,8 +35,11 @@ static const char *name(Way way) {
 int main() {
     for (int i = 0; i < example::kSlots; ++i) printf("%d\n", slots[i]);
     printf("%s %s\n", name(Way::right), name(Way::right));
-    swap(slots[0], slots[1]);
+    trade(slots[0], slots[1]);
     printf("%g %g\n", example::area(sized(2, 3)), example::kTwoSteps);
     bool ends = slots[0] == 2 && slots[1] == 11;
-    printf(ends ? "ends\n" : "goes on\n");
+    if (!ends)
+        printf("goes on\n");
+    else
+        printf("%g\n", [](double value) { return value * 2; }(1.5));
 }
