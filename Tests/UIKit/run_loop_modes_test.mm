@@ -133,9 +133,11 @@ TEST(RunLoopModes, LateTimersFireAtOnceWhenTheFingerLiftsInTheOrderInWhichTheyWe
 
 TEST(RunLoopModes, DecideWhichDisplayLinksGoOnUnderAFinger) {
     WithoutDelegate stage;
-    auto add = [](const std::string &name, NSString *mode) {
+    std::vector<CADisplayLink *> links;
+    auto add = [&](const std::string &name, NSString *mode) {
         CADisplayLink *link = [CADisplayLink displayLinkWithTarget:clockwork(name) selector:@selector(tick:)];
         [link addToRunLoop:[NSRunLoop mainRunLoop] forMode:mode];
+        links.push_back(link);
         return link;
     };
     add("default", NSDefaultRunLoopMode);
@@ -181,6 +183,7 @@ TEST(RunLoopModes, DecideWhichDisplayLinksGoOnUnderAFinger) {
     waitFor(0.5);
     EXPECT_EQ(count(takeNotes(), "half"), 0) << "invalidated once and for all";
     [half release];
+    for (CADisplayLink *link : links) [link invalidate];
 }
 
 TEST(RunLoopModes, EndWithTheTouchHoweverItEnds) {
