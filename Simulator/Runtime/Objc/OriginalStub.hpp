@@ -1,5 +1,5 @@
 // Small machine-code stubs in front of implementations of methods, so that whoever put one there hears of
-// each run. x86-64, System V calling convention: every argument register is kept.
+// each run. Every argument register is kept: of x86-64 or aarch64, by the System V conventions.
 #pragma once
 
 #include <functional>
