@@ -74,6 +74,9 @@ function M.enter(phone, digits)
   phone:settle()
 end
 function M.button(phone) return M.part(phone, "keypad", -2) end
+function M.touch_id_button(phone)
+  return phone:find{ parent = M.face_view(phone, "keypad"), class = "UIButton", tag = 0 }
+end
 function M.title(phone, face) return M.part(phone, face, -1).text end
 
 -- The digits that the dots hold, and which of the dots are filled.

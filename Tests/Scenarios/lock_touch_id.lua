@@ -52,8 +52,7 @@ press(phone, "finger", 3)
 phone:finger(3)
 phone:settle()
 expect_eq(L.shown(phone), "keypad", "nor on the keypad")
-phone:tap(phone:find{ parent = L.face_view(phone, "keypad"), text = "Touch ID", class = "UIButton" } or
-  phone:find{ parent = L.face_view(phone, "keypad"), class = "UIButton", tag = 0 })
+phone:tap(L.touch_id_button(phone))
 phone:settle()
 phone:finger(3)
 phone:settle()
@@ -64,7 +63,7 @@ L.open(phone)
 phone:finger(3)
 phone:settle()
 expect_eq(L.shown(phone), "keypad", "with the setting off the keypad comes first and no finger counts")
-phone:tap(phone:find{ parent = L.face_view(phone, "keypad"), class = "UIButton", tag = 0 })
+phone:tap(L.touch_id_button(phone))
 phone:settle()
 expect_eq(L.shown(phone), "finger", "but its button leads to the Touch ID face")
 phone:finger(3)
@@ -117,6 +116,63 @@ phone:settle()
 phone:finger(3)
 phone:settle()
 expect_eq({ L.shown(phone), unlocked(phone) }, { "ask", 0 }, "a finger does not count behind the ask face")
+
+-- The keypad chosen while the question still leaves: it stays chosen, and a finger no longer counts.
+phone = L.boot_locked{ touchid = true, ask = true }
+L.open(phone)
+phone:tap(L.part(phone, "ask", -2))
+phone:wait(0.35)
+expect(L.face_view(phone, "ask") ~= nil, "the question is on its way")
+local passcode = L.part(phone, "finger", 3).screen
+phone:tap{ passcode.x + passcode.w / 2, passcode.y + 3 } -- what the question has uncovered of it
+phone:settle()
+phone:finger(3)
+phone:settle()
+expect_eq({ L.shown(phone), unlocked(phone) }, { "keypad", 0 }, "the keypad was chosen")
+expect_eq(L.panel(phone).h, L.face_view(phone, "keypad").h, "and is whole")
+phone:tap(L.touch_id_button(phone))
+phone:settle()
+phone:finger(3)
+phone:settle()
+expect_eq(L.shown(phone), "list", "until the finger is chosen again")
+
+-- A button that is held as the panel closes does nothing: the panel goes on closing, and the next one, whose question
+-- has not been passed, is left alone.
+for _, case in ipairs{
+  { "ask", { touchid = true, ask = true }, function(p) return L.part(p, "ask", -2) end },
+  { "finger", { touchid = true }, function(p) return L.part(p, "finger", 3) end },
+  { "keypad", { touchid = false }, function(p) return L.touch_id_button(p) end },
+  { "keypad", { touchid = false }, function(p) return L.button(p) end },
+} do
+  local face, settings, button = table.unpack(case)
+  for _, again in ipairs{ false, true } do
+    phone = L.boot_locked(settings)
+    L.open(phone)
+    expect_eq(L.shown(phone), face, "the face with the button")
+    phone:down(button(phone))
+    phone:activator()
+    phone:wait(0.1)
+    if again then
+      phone:set("ask", true)
+      phone:activator()
+    end
+    phone:up()
+    if again then
+      phone:settle()
+      phone:finger(3)
+      phone:settle()
+      expect_eq({ L.shown(phone), unlocked(phone) }, { "ask", 0 }, face .. ": the next panel still asks")
+      phone:tap(L.part(phone, "ask", -2))
+      phone:settle()
+      expect_eq(L.shown(phone), settings.touchid and "finger" or "keypad", face .. ": before its own face")
+    else
+      expect_eq({ L.panel(phone).w, L.panel(phone).h }, { 1, 1 }, face .. ": it goes on closing")
+      phone:settle()
+      expect(not L.is_open(phone), face .. ": and is gone")
+    end
+    L.no_harm(phone)
+  end
+end
 
 -- The glyph draws at the panel's pace.
 for fast, seconds in pairs{ [false] = 0.5, [true] = 0.125 } do

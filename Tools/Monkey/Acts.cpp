@@ -7,7 +7,7 @@ namespace {
 const std::vector<Act> &allActs() {
     static const std::vector<Act> acts = [] {
         std::vector<Act> result;
-        for (auto family : {timeActs(), touchActs(), fingerActs(), homeScreenActs(), lockActs(),
+        for (auto family : {timeActs(), touchActs(), fingerActs(), homeScreenActs(), lockActs(), unlockActs(),
                             settingsActs(), paneActs()})
             result.insert(result.end(), family.begin(), family.end());
         return result;
@@ -24,6 +24,11 @@ int share(const Act &act, const Hand &hand) {
 
 Event chooseEvent(Hand &hand) {
     hand.refresh();
+    while (!hand.plan.empty()) {
+        auto step = std::move(hand.plan.front());
+        hand.plan.pop_front();
+        if (std::string line = step(hand); !line.empty()) return {"what was planned", std::move(line)};
+    }
     int sum = 0;
     for (const auto &act : allActs()) sum += share(act, hand);
     auto place = static_cast<int>(hand.random.below(static_cast<uint64_t>(sum)));

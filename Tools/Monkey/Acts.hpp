@@ -22,6 +22,7 @@ std::span<const Act> touchActs();
 std::span<const Act> fingerActs(); // several fingers, and fingers that stay
 std::span<const Act> homeScreenActs();
 std::span<const Act> lockActs();
+std::span<const Act> unlockActs(); // of the panel's own lock
 std::span<const Act> settingsActs();
 std::span<const Act> paneActs();
 
@@ -30,7 +31,7 @@ struct Event {
     std::string line;
 };
 
-// The next thing to do, after a look.
+// The next thing to do, after a look: what was planned, or what chance chooses.
 Event chooseEvent(Hand &hand);
 
 // The names of all acts, in order.

@@ -4,6 +4,8 @@
 #include "Random.hpp"
 #include "Snapshot.hpp"
 
+#include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -25,6 +27,8 @@ struct Hand {
     Snapshot snapshot;
     double width = 0, height = 0; // of the screen as the device is held
     std::map<int, Place> fingers; // those that are down, and where
+    // What follows on the line before, each by what is to be seen then; an empty line is left out.
+    std::deque<std::function<std::string(Hand &)>> plan;
     bool dark = false, locked = false;
     bool enabled = true;       // the extension, as far as the settings file was written from here
     bool settingsOpen = false; // the Settings application

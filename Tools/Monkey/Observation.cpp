@@ -40,7 +40,6 @@ ExtensionState readState(const Value &variables) {
     ExtensionState state;
     const std::pair<const char *, bool *> flags[] = {{"isShow", &state.isShow},
                                                      {"isEditing", &state.isEditing},
-                                                     {"needPasscode", &state.needPasscode},
                                                      {"locked", &state.locked},
                                                      {"needToPulse", &state.needToPulse}};
     for (const auto &[name, flag] : flags) *flag = variables[name].boolean();
@@ -111,7 +110,7 @@ Observation readObservation(const Value &answer) {
 
 Object watchArguments() {
     Object flags;
-    for (const char *name : {"isShow", "isEditing", "needPasscode", "locked", "needToPulse"})
+    for (const char *name : {"isShow", "isEditing", "locked", "needToPulse"})
         flags.emplace(name, symbolOf(name));
     return Object{{"flags", flags},
                   {"lists", Object{{"datas", symbolOf("datas")}}},

@@ -64,7 +64,7 @@ struct SeenBadge {
 
 // The extension's own variables.
 struct ExtensionState {
-    bool isShow = false, isEditing = false, needPasscode = false, locked = false, needToPulse = false;
+    bool isShow = false, isEditing = false, locked = false, needToPulse = false;
     std::vector<std::string> datas;
 };
 

@@ -33,6 +33,7 @@ inline BOOL lastReachability = NO; // the Reachability state then
 inline BOOL isShow = NO;        // the panel is shown; a new build is refused meanwhile
 inline BOOL needPasscode = NO;  // the panel must be unlocked before use
 inline BOOL requireFinger = NO; // the fingerprint sensor's events count
+inline unsigned lockRound = 0;  // goes up with each opening and whatever else arms the lock (Lock/Entry.h)
 inline float gheight = 0;       // the panel's height while its list shows
 inline float lastGheight = 0;   // the same with cards; 0 without
 inline float lastHeight = 0;    // with the Touch ID face

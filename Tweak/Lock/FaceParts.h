@@ -28,6 +28,12 @@ void layoutKeypad(BOOL sensor);
 // A lock face of the panel by its tag, nil when it is not there.
 UIView *lockFace(NSInteger tag);
 
+// Whether the face is the shown panel's: what is touched while the panel closes does nothing.
+BOOL isShown(UIView *face);
+
+// Whether the panel was built for a finger, or has been switched to it, and not to the keypad.
+BOOL fingerFaceIsChosen();
+
 void setX(UIView *view, CGFloat x);
 
 } // namespace pendix

@@ -1,6 +1,7 @@
 #include "Tweak/Lock/FaceParts.h"
 
 #include "Tweak/Core/PanelViews.h"
+#include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 
@@ -44,6 +45,13 @@ UIButton *addFaceButton(UIView *face, const LockFacesInput &input, CGRect frame,
 }
 
 UIView *lockFace(NSInteger tag) { return subviewWithTag(contentView(), tag); }
+
+BOOL isShown(UIView *face) { return isShow && face.window; }
+
+BOOL fingerFaceIsChosen() {
+    UIView *finger = lockFace(tags::fingerFace);
+    return finger && finger.frame.origin.x == 0;
+}
 
 void setX(UIView *view, CGFloat x) {
     CGRect frame = view.frame;

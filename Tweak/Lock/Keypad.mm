@@ -1,13 +1,14 @@
 // Entering a code, and what a wrong one looks like.
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/Scheme.h"
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/Sounds.h"
+#include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Lock/CodeEntry.hpp"
+#include "Tweak/Lock/Entry.h"
 #include "Tweak/Lock/FaceParts.h"
 #include "Tweak/Lock/Lock.h"
 #include "Tweak/Lock/Passcode.h"
@@ -72,13 +73,14 @@ void enter(SpringBoard *springBoard, UIView *keypad, int digit, UIColor *ink) {
     const std::optional<int> place = dotToFill(filledDots(keypad));
     if (!place) return;
     const bool completes = *place == kCodeLength - 1;
+    const Entry code;
     UIView *dot = dotAt(keypad, *place);
     dot.layer.name = [NSString stringWithFormat:@"%d", digit];
     if (*place == 0) setTitle(deleteButton(keypad), @"delete");
     [UIView animateWithDuration:animationDuration(kDotChange)
         animations:^{ dot.backgroundColor = ink; }
         completion:^(BOOL) {
-            if (completes) compareCode(springBoard, keypad);
+            if (completes && code.counts()) compareCode(springBoard, keypad);
         }];
 }
 
@@ -91,7 +93,8 @@ void clearDot(UIView *dot) {
 
 void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
     UIView *key = recognizer.view, *keypad = key.superview;
-    UIColor *ink = currentScheme().ink;
+    if (!isShown(keypad)) return;
+    UIColor *ink = ((UILabel *)subviewWithTag(keypad, tags::faceTitle)).textColor; // as it was built
     AudioServicesPlaySystemSound(sounds::keyClick);
     flash(key, ink);
     [deleteButton(keypad) setTitleColor:ink forState:UIControlStateNormal];
@@ -100,6 +103,7 @@ void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer
 
 void added::dismisPendixUIorDelete(SpringBoard *self, SEL, UIButton *button) {
     UIView *keypad = button.superview;
+    if (!isShown(keypad)) return;
     const std::optional<int> place = dotToClear(filledDots(keypad));
     if (!place) {
         [self dismisPendixUI];

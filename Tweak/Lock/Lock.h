@@ -8,8 +8,13 @@
 
 namespace pendix {
 
-// At each opening: decides by the setting `where` whether this one must pass the lock.
+// At each opening: decides by the setting `where` whether this one must pass the lock. Nothing that was
+// entered before counts any more.
 void armLock();
+
+// The display goes off: arms the lock where the setting `where` says so, and then takes back what was
+// entered.
+void armLockInTheDark();
 
 // Whether this opening must pass it: armed, the lock is on and there is a passcode.
 BOOL isLocked();

@@ -31,7 +31,14 @@ void cover(UIView *content) {
 void armLock() {
     BOOL passcodeLocked =
         [(SBUserAgent *)[objc_getClass("SBUserAgent") sharedUserAgent] deviceIsPasscodeLocked];
+    ++lockRound;
     needPasscode = armedAtOpening(currentWhere(), needPasscode, passcodeLocked);
+}
+
+void armLockInTheDark() {
+    if (![@"everyoff" isEqual:setting(keys::lockMoment)]) return;
+    ++lockRound;
+    needPasscode = YES;
 }
 
 BOOL isLocked() { return needPasscode && isOn(keys::lockEnabled) && isPasscode(setting(keys::passcode)); }

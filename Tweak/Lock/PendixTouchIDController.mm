@@ -6,6 +6,7 @@
 #include "Tweak/Core/Support/UIView+Shimmer.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
+#include "Tweak/Lock/Entry.h"
 #include "Tweak/Lock/FaceParts.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
 
@@ -37,7 +38,10 @@ UIView *fingerFace() { return pendix::lockFace(pendix::tags::fingerFace); }
 
 - (void)done {
     pendix::requireFinger = NO;
-    void (^unlock)(void) = ^{ [pendix::Spring unlockPendix:pendix::tags::fingerFace]; };
+    const pendix::Entry finger;
+    void (^unlock)(void) = ^{
+        if (finger.counts()) [pendix::Spring unlockPendix:pendix::tags::fingerFace];
+    };
     if (PKGlyphView *glyph = [self fingerPrint]) {
         [glyph setState:kTicked animated:YES completionHandler:unlock];
     } else {

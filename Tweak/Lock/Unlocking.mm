@@ -1,8 +1,6 @@
 // From one lock face to the next, and from the last one to the list.
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
-#include "Tweak/Core/SettingKeys.h"
-#include "Tweak/Core/Settings.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
@@ -29,12 +27,18 @@ void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSid
                      }];
 }
 
-// Cards stand higher than the strip that was built behind the lock.
+// Whether a button may change the face: not while the panel closes, and not behind a question, for then it is
+// one of an earlier panel that a finger still held.
+BOOL takesChoice() {
+    UIView *ask = lockFace(tags::askFace);
+    return isShow && (!ask || ask.frame.origin.y != 0);
+}
+
+// Cards stand higher than the strip that was built behind the lock. Whether there are any was decided then.
 BOOL raiseCards() {
-    if (!isOn(keys::cards)) return NO;
-    NSArray *items = itemViews();
-    for (UIView *item in items) setY(item, 0);
-    if ([items count] != 0) gheight = lastGheight;
+    if (lastGheight == 0) return NO;
+    for (UIView *item in itemViews()) setY(item, 0);
+    gheight = lastGheight;
     return YES;
 }
 
@@ -62,11 +66,11 @@ void showList(SpringBoard *springBoard, int page, BOOL cards) {
 
 } // namespace
 
-void added::unlockTap(SpringBoard *self, SEL, UIButton *button) {
+void added::unlockTap(SpringBoard *, SEL, UIButton *button) {
     UIView *ask = button.superview;
+    if (!isShown(ask)) return;
     UIView *keypad = lockFace(tags::keypadFace), *finger = lockFace(tags::fingerFace), *panel = panelView();
-    const BOOL usesFinger = [self hasTouchID] && isOn(keys::unlocksByFinger);
-    const CGFloat height = usesFinger ? lastHeight : lastHeight1;
+    const CGFloat height = fingerFaceIsChosen() ? lastHeight : lastHeight1;
     const CGRect frame = frameWithHeight(panel, height);
     [UIView animateWithDuration:animationDuration(kLeaveAsk)
         animations:^{
@@ -76,18 +80,21 @@ void added::unlockTap(SpringBoard *self, SEL, UIButton *button) {
             finger.alpha = 1;
         }
         completion:^(BOOL) {
-            // Closed meanwhile: a panel that is open by now has an ask face of its own.
-            if (isShow && ask.window && usesFinger) requireFinger = YES;
+            // Closed meanwhile: a panel that is open by now has an ask face of its own. And the keypad may
+            // have been chosen, by a button that the question had uncovered.
+            if (isShown(ask) && fingerFaceIsChosen()) requireFinger = YES;
             [ask removeFromSuperview];
         }];
 }
 
 void added::usePasscode(SpringBoard *, SEL) {
+    if (!takesChoice()) return;
     requireFinger = NO;
     changeFace(tags::keypadFace, lastHeight1, tags::fingerFace, 1);
 }
 
 void added::useTochID(SpringBoard *, SEL) {
+    if (!takesChoice()) return;
     requireFinger = YES;
     changeFace(tags::fingerFace, lastHeight, tags::keypadFace, -1);
 }

@@ -22,7 +22,7 @@ void goDark() {
     if (needToPulse || (followsBadges() && isOn(keys::pulses))) [Spring removePulse];
     [openThisApp release];
     openThisApp = @"";
-    if ([@"everyoff" isEqual:setting(keys::lockMoment)]) needPasscode = YES;
+    armLockInTheDark();
     if (isShow) [Spring dismisPendixUI];
 }
 

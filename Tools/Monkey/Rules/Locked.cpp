@@ -1,4 +1,4 @@
-// Nothing of an application shows while the panel is locked.
+// Nothing of an application shows while the panel is locked, and no lock stands where none is to be passed.
 #include "Names.hpp"
 #include "Rules.hpp"
 
@@ -7,14 +7,6 @@
 namespace sim {
 
 namespace {
-
-bool showsFace(const SeenWindow &window, size_t content) {
-    for (int64_t face : {names::askFace, names::fingerFace, names::keypadFace}) {
-        size_t view = window.child(content, face);
-        if (view != SeenWindow::npos && window.views[view].seen) return true;
-    }
-    return false;
-}
 
 std::string described(const SeenView &view) {
     std::string text = view.type;
@@ -43,10 +35,9 @@ bool shows(const SeenView &view) {
                          view.type == "UIImageView" || view.type == "UILabel");
 }
 
-void checkPanel(const SeenWindow &window, size_t panel, bool guarded, Findings &findings) {
+void checkList(const SeenWindow &window, size_t panel, Findings &findings) {
     size_t content = window.child(panel, names::content);
     if (content == SeenWindow::npos) return;
-    if (!guarded && !showsFace(window, content)) return;
     auto children = window.childrenOf(content);
     auto strip =
         std::ranges::find_if(children, [&](size_t view) { return window.views[view].type == names::strip; });
@@ -63,14 +54,17 @@ void checkPanel(const SeenWindow &window, size_t panel, bool guarded, Findings &
 } // namespace
 
 void checkLocked(const Moment &moment, Memory &memory, Findings &findings) {
-    // One that the display's turning off closes, and arms again, may still be on its way from the face to the
-    // list.
-    if (memory.unlocked) return;
-    bool guarded = memory.guarded;
-    if (!guarded && !moment.now.extension.needPasscode) return;
+    memory.lock.follow(moment);
+    const Sure guarded = memory.lock.guarded();
+    const PanelSight sight = sightOf(moment.now);
+    // A face that makes way for the list moves.
+    const bool face = sight.resting && sight.face();
+    if (guarded == Sure::no && sight.open() && face)
+        findings.push_back("the panel asks for a code or a finger and nothing has locked it");
+    if (guarded != Sure::yes && !face) return;
     for (const auto &window : moment.now.overlays)
         for (size_t view : window.childrenOf(0))
-            if (window.views[view].tag == names::panel) checkPanel(window, view, guarded, findings);
+            if (window.views[view].tag == names::panel) checkList(window, view, findings);
 }
 
 } // namespace sim

@@ -1,6 +1,8 @@
 // What the rules remember from one event to the next. All of it begins anew with the home screen.
 #pragma once
 
+#include "LockModel.hpp"
+
 #include <cstdint>
 #include <optional>
 #include <set>
@@ -28,10 +30,8 @@ struct Memory {
     // The panel, by the log. Times are virtual, in nanoseconds.
     bool shown = false;
     int64_t closedAt = INT64_MIN / 2; // when it was asked to close last
-    // Whether its lock is to be passed at the next opening; nothing when that cannot be told.
-    std::optional<bool> armed = false;
-    bool guarded = false;  // the panel that is shown has not been unlocked
-    bool unlocked = false; // it has, or the one that was shown last; an opening begins anew
+
+    LockModel lock; // not by the log
 
     // Applications that have a badge and rightly are not listed.
     std::set<std::string> unlisted;

@@ -13,7 +13,6 @@ constexpr const char *strip = "NewUIScrollView"; // the class of the view that h
 // Lines of the log.
 constexpr const char *opening = "<Pendix> Loading Pendix UI!";
 constexpr const char *closing = "<Pendix> Pendix's UI dismissing!";
-constexpr const char *unlocked = "<Pendix> Pendix UI unlocked!";
 constexpr const char *pulsing = "<Pendix> Pulsing!";
 constexpr const char *noItem = "<Pendix> Error while showing UI!";
 

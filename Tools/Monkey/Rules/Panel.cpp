@@ -1,7 +1,6 @@
 // The panel's coming and going, that there is one at most, and that nothing of it stays behind.
 #include "Names.hpp"
 #include "Rules.hpp"
-#include "Settings.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -12,64 +11,22 @@ namespace {
 
 int64_t momentOf(const Value &event) { return std::llround(event["t"].number() * 1e9); }
 
-// Whether an opening now must be unlocked; nothing when the settings do not say.
-std::optional<bool> armedAtOpening(const Moment &moment, std::optional<bool> before) {
-    if (moment.settingsChanged) return std::nullopt;
-    const Value &where = moment.settings["where"];
-    if (where.isNull()) return true;
-    if (!where.isString()) return std::nullopt;
-    if (where.string().empty() || where.string() == "every") return true;
-    if (where.string() != "lockscreen") return before;
-    bool lockedBefore = moment.before ? moment.before->passcodeLocked : moment.now.passcodeLocked;
-    if (lockedBefore != moment.now.passcodeLocked) return std::nullopt;
-    return lockedBefore;
-}
-
-bool hasLock(const Value &settings) {
-    return isOn(settings, "pass") && settings["password"].isString() &&
-           !settings["password"].string().empty();
-}
-
-void open(const Moment &moment, Memory &memory) {
-    if (memory.shown) return;
-    memory.shown = true;
-    memory.unlocked = false;
-    memory.armed = armedAtOpening(moment, memory.armed);
-    memory.guarded = memory.armed.value_or(false) && !moment.settingsChanged && hasLock(moment.settings);
-}
-
-void goDark(const Moment &moment, Memory &memory) {
-    if (moment.settingsChanged) {
-        memory.armed = std::nullopt;
-    } else if (moment.settings["where"] == Value("everyoff")) {
-        memory.armed = true;
-    }
-}
-
 } // namespace
 
 void followPanel(const Moment &moment, Memory &memory) {
     for (const auto &event : moment.events) {
-        const std::string &kind = event["kind"].string();
-        if (kind == "original" && event["selector"] == Value("_handleDisplayTurnedOff"))
-            goDark(moment, memory);
-        if (kind != "log") continue;
+        if (event["kind"] != Value("log")) continue;
         const std::string &line = event["text"].string();
         if (line == names::opening) {
-            open(moment, memory);
+            memory.shown = true;
         } else if (line == names::closing) {
             memory.shown = false;
             memory.closedAt = momentOf(event);
-        } else if (line == names::unlocked) {
-            memory.armed = false;
-            memory.guarded = false;
-            memory.unlocked = true;
         }
     }
     if (memory.shown == moment.now.extension.isShow) return;
     memory.shown = moment.now.extension.isShow;
     memory.closedAt = moment.to;
-    memory.guarded = false;
 }
 
 void checkOnePanel(const Moment &moment, Memory &, Findings &findings) {

@@ -39,7 +39,7 @@ struct Rule {
 // In the order in which they are checked; followPanel() goes before them.
 std::span<const Rule> rules();
 
-// Keeps what `memory` knows of the panel and of its lock up to date.
+// Keeps what `memory` knows of the panel up to date.
 void followPanel(const Moment &moment, Memory &memory);
 
 void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);

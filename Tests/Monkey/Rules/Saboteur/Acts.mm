@@ -5,6 +5,11 @@
 
 #include <math.h>
 
+// What the extension adds to it.
+@interface SpringBoard (Sabotage)
+- (void)unlockPendix:(int)page;
+@end
+
 namespace saboteur {
 
 namespace {
@@ -48,6 +53,12 @@ void showName() {
     label.text = @"Mail";
     [panel() addSubview:label];
 }
+
+void unlock() {
+    constexpr int kKeypad = 46;
+    [springBoard() unlockPendix:kKeypad];
+}
+void armLock() { variable<BOOL>("_ZN6pendix12needPasscodeE") = YES; }
 
 void doubleEntry() { [badgeList() addObject:[badgeList() objectAtIndex:0]]; }
 void forgetEntry() { [badgeList() removeAllObjects]; }
@@ -109,6 +120,8 @@ std::span<const Act> acts() {
                                {"keep backdrop", keepBackdrop},
                                {"show list", showList},
                                {"show name", showName},
+                               {"unlock", unlock},
+                               {"arm lock", armLock},
                                {"double entry", doubleEntry},
                                {"forget entry", forgetEntry},
                                {"double item", doubleItem},
