@@ -5,7 +5,8 @@ The comment lines at the start of the script say what is wanted:
   -- exit: N          the exit status (0)
   -- stdout: TEXT     a part of the standard output; several in this order
   -- stderr: TEXT     the same of the standard error; without any, nothing may come there
-In them, {here} stands for the script's path.
+In them, {here} stands for the script's path and {name} for its last part: Lua itself shortens a path of more than 59
+characters where it names a place.
 """
 
 import pathlib
@@ -13,6 +14,10 @@ import re
 import shlex
 import subprocess
 import sys
+
+
+def named(text, script):
+    return text.replace("{here}", str(script)).replace("{name}", script.name)
 
 
 def wanted(script):
@@ -23,7 +28,7 @@ def wanted(script):
             break
         match = re.match(r"-- (options|exit|stdout|stderr): (.*)", line)
         if match:
-            given.setdefault(match[1], []).append(match[2].replace("{here}", str(script)))
+            given.setdefault(match[1], []).append(named(match[2], script))
     found.update(given)
     return found
 

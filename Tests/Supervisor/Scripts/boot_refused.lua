@@ -1,6 +1,7 @@
 -- A boot that is wrong ends the script with its own exit status, unless the script catches it.
 -- exit: 2
--- stderr: error: {here}:10: boot: unknown option 'devise'; did you mean 'device'?
+-- stderr: error:
+-- stderr: {name}:11: boot: unknown option 'devise'; did you mean 'device'?
 local held, problem = pcall(boot, { device = "iPhone 4", ios = "8.3" })
 expect(not held and problem:find("never was an iPhone 4 with iOS 8.3", 1, true), tostring(problem))
 held, problem = pcall(boot, { apps = { { id = print } } })

@@ -1,8 +1,9 @@
 -- An error that nobody catches ends the script, with the calls that led to it.
 -- exit: 1
--- stderr: error: {here}:7: broken on purpose
+-- stderr: error:
+-- stderr: {name}:8: broken on purpose
 -- stderr: stack traceback:
--- stderr: {here}:9: in
+-- stderr: {name}:10: in
 local function helper()
   error("broken on purpose")
 end
