@@ -10,8 +10,8 @@ namespace sim {
 
 namespace {
 
-// Tags: cancel on the keypad and unlock under the question; the way from the Touch ID face to the keypad, which
-// is the tag of the panel itself as well.
+// Tags: cancel on the keypad and unlock under the question; the way from the Touch ID face to the keypad,
+// which is the tag of the panel itself as well.
 constexpr int64_t kFaceButton = -2, kPasscodeButton = 3;
 
 int codeWeight(const Hand &hand) {
@@ -21,7 +21,7 @@ bool hasSensor(const Hand &hand) { return hand.phone.device().options().profile-
 int matchWeight(const Hand &hand) {
     return hasSensor(hand) && hand.snapshot.panelOpen() && !hand.dark && !hand.snapshot.key('1') ? 5 : 0;
 }
-int breakInWeight(const Hand &hand) { return hand.dark || !hand.fingers.empty() ? 0 : 3; }
+int breakInWeight(const Hand &hand) { return hand.dark || !hand.fingers.empty() ? 0 : 4; }
 
 // The one in the settings file, if its digits can be typed.
 std::string rightCode(Hand &hand) {
@@ -146,7 +146,7 @@ std::string match(Hand &hand) {
 std::string breakIn(Hand &hand) {
     const Object lock{{"pass", true},
                       {"password", hand.random.pick(codes())},
-                      {"where", hand.random.pick({"everyoff", "every", "lockscreen"})},
+                      {"where", hand.random.pick({"everyoff", "everyoff", "every", "every", "lockscreen"})},
                       {"touchid", hand.random.percent(50)},
                       {"ask", hand.random.percent(25)}};
     planDark(hand);

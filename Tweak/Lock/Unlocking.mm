@@ -28,7 +28,8 @@ void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSid
                      }];
 }
 
-// A button may still be held that belonged to a panel before this one, and tells nothing of it.
+// Whether a button may change the face: not while the panel closes, and not behind a question, for then it is
+// one of an earlier panel that a finger still held.
 BOOL takesChoice() {
     UIView *ask = lockFace(tags::askFace);
     return isShow && (!ask || ask.frame.origin.y != 0);
@@ -81,7 +82,7 @@ void added::unlockTap(SpringBoard *, SEL, UIButton *button) {
         }
         completion:^(BOOL) {
             // Closed meanwhile: a panel that is open by now has an ask face of its own. And the keypad may
-            // have been chosen, which lay under the question's edge already.
+            // have been chosen, by a button that the question had uncovered.
             if (isShown(ask) && fingerFaceIsChosen()) requireFinger = YES;
             [ask removeFromSuperview];
         }];

@@ -1,6 +1,7 @@
-// A fingerprint elsewhere in the system draws at its own pace, but for as long as the panel waits for a
-// finger.
+// The fingerprint glyph shimmers until a finger fails. And one elsewhere in the system draws at its own pace,
+// but for as long as the panel waits for a finger.
 #include "Tweak/Core/State.h"
+#include "Tweak/Lock/PendixTouchIDController.h"
 #include "Tweak/Lock/SpringBoard+Lock.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Start/HookTable.h"
@@ -11,7 +12,7 @@
 
 namespace {
 
-class GlyphPace : public testing::Test {
+class Glyph : public testing::Test {
 protected:
     void SetUp() override {
         sim::Device device = harness::profile("iPhone 6");
@@ -54,7 +55,19 @@ protected:
     harness::Sandbox sandbox;
 };
 
-TEST_F(GlyphPace, ChangesOnlyWhileThePanelWaitsForAFinger) {
+TEST_F(Glyph, ShimmersUntilAFingerFails) {
+    toggle();
+    harness::wait(1);
+    PKGlyphView *glyph = [[PendixTouchIDController sharedInstance] fingerPrint];
+    for (unsigned event : {1u, 9u, 10u, 0u}) {
+        sim::sendFingerEvent(event);
+        EXPECT_NE(glyph.layer.mask, nil) << event;
+    }
+    sim::sendFingerEvent(5);
+    EXPECT_EQ(glyph.layer.mask, nil);
+}
+
+TEST_F(Glyph, KeepsItsPaceElsewhereUnlessThePanelWaits) {
     constexpr double kOwn = 2, kPanels = 0.5;
     EXPECT_EQ(seconds(), kOwn) << "no panel has been open";
     toggle();
