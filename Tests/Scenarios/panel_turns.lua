@@ -128,3 +128,38 @@ for _, after in ipairs{ 0.1, 0.3 } do
   P.closed(phone)
   P.no_harm(phone)
 end
+-- A phone whose home screen stays upright: the panel turns to the eye, the logo stays on the indicator, and what is
+-- touched is what is seen.
+for _, ios in ipairs{ "7.1", "8.1" } do
+  local phone = P.boot({}, { ios = ios })
+  for _, orientation in ipairs{ 3, 4, 2, 1 } do
+    local what = ios .. ", upright, the device turned to " .. orientation
+    local at = phone:indicator()
+    phone:rotate(orientation)
+    phone:settle()
+    local i = phone:indicator()
+    expect_eq({ i.x, i.y, i.w, i.h }, { at.x, at.y, at.w, at.h }, what .. ": the indicator stays")
+    P.open(phone)
+    local logo, panel = P.top(phone, P.tag.logo), P.panel(phone).screen
+    for _, key in ipairs{ "x", "y", "w", "h" } do
+      expect_near(logo.screen[key], at[key], 0.01, what .. ": the logo lies on it: " .. key)
+    end
+    local sides = orientation > 2 and { 110, 256 } or { 256, 110 }
+    expect_near(panel.w, sides[1], 0.01, what .. ": the panel lies along the upper edge as it is held: width")
+    expect_near(panel.h, sides[2], 0.01, what .. ": and height")
+    expect(panel.x >= 0 and panel.y >= 0 and panel.x + panel.w <= 320 and panel.y + panel.h <= 568, what .. ": on the screen")
+    phone:activator()
+    phone:wait(0.49)
+    local point = P.panel(phone).screen
+    expect(math.abs(point.x - at.x - at.w / 2) < at.w and math.abs(point.y - at.y - at.h / 2) < at.h,
+      what .. ": it shrinks into the indicator")
+    phone:settle()
+    P.open(phone)
+    phone:tap(P.items(phone)[2])
+    phone:settle()
+    expect_eq(phone:foreground(), P.app(2), what .. ": an item opens its application")
+    phone:home()
+    phone:settle()
+  end
+  P.no_harm(phone)
+end
