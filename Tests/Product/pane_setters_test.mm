@@ -136,7 +136,7 @@ TEST_F(PaneSetters, KeepApplicationsApart) {
     EXPECT_EQ([page(@"org.example.2") getValue:hide], nil) << "a text is no entry";
     [page(@"org.example.2") setValue:on forSpecifier:harness::switchRow(@"No Mark on Icon")];
     EXPECT_FALSE(pendix::hide_per(@"org.example.2"));
-    EXPECT_TRUE(pendix::badge_per(@"org.example.2"));
+    EXPECT_TRUE(pendix::badge_per(@"org.example.2", pendix::readSettings()));
     [page(nil) setValue:on forSpecifier:hide];
     EXPECT_EQ([pendix::readSettings() count], 2u) << "a page without a title stores nothing";
 }

@@ -9,8 +9,8 @@ namespace {
 
 BOOL boolOf(id value) { return [value respondsToSelector:@selector(boolValue)] ? [value boolValue] : NO; }
 
-BOOL isOnFor(NSString *identifier, NSString *key) {
-    id entry = identifier ? setting(identifier) : nil;
+BOOL isOnFor(NSString *identifier, NSString *key, NSDictionary *settings) {
+    id entry = identifier ? [settings objectForKey:identifier] : nil;
     return [entry respondsToSelector:@selector(objectForKey:)] &&
            boolOf([(NSDictionary *)entry objectForKey:key]);
 }
@@ -22,6 +22,8 @@ NSDictionary *readSettings() { return [NSDictionary dictionaryWithContentsOfFile
 id setting(NSString *key) { return [readSettings() objectForKey:key]; }
 
 BOOL isOn(NSString *key) { return boolOf(setting(key)); }
+
+BOOL isOn(NSString *key, NSDictionary *settings) { return boolOf([settings objectForKey:key]); }
 
 NSString *textSetting(NSString *key) {
     id value = setting(key);
@@ -61,13 +63,21 @@ UIColor *colorFrom(NSString *name) {
     return [UIColor redColor];
 }
 
-UIColor *color(NSString *key, NSString *defaultName) {
-    NSDictionary *settings = readSettings();
+UIColor *color(NSString *key, NSString *defaultName) { return color(key, defaultName, readSettings()); }
+
+UIColor *color(NSString *key, NSString *defaultName, NSDictionary *settings) {
     const BOOL missing = !settings && ![[NSFileManager defaultManager] fileExistsAtPath:names::settingsFile];
     return colorFrom(missing ? defaultName : [settings objectForKey:key]);
 }
 
-BOOL hide_per(NSString *identifier) { return isOnFor(identifier, keys::appHidden); }
-BOOL badge_per(NSString *identifier) { return isOnFor(identifier, keys::appWithoutMark); }
+BOOL hide_per(NSString *identifier) { return hide_per(identifier, identifier ? readSettings() : nil); }
+
+BOOL hide_per(NSString *identifier, NSDictionary *settings) {
+    return isOnFor(identifier, keys::appHidden, settings);
+}
+
+BOOL badge_per(NSString *identifier, NSDictionary *settings) {
+    return isOnFor(identifier, keys::appWithoutMark, settings);
+}
 
 } // namespace pendix

@@ -97,7 +97,7 @@ BOOL hasEmptyText() {
 void showEmptyText(BOOL running) {
     if (!strip() || [itemViews() count] != 0 || hasEmptyText()) return;
     UILabel *label = addEmptyText(strip(), running, currentScheme().ink);
-    indicatorFollowsBadges();
+    indicatorFollowsBadges(readSettings());
     label.alpha = 0;
     [UIView animateWithDuration:animationDuration(kStep) animations:^{ label.alpha = 1.0; }];
 }

@@ -83,7 +83,7 @@ void added::prepareUI(SpringBoard *self, SEL, UIStatusBarItemView *item) {
     }
     openPanel(build);
     // Last, for it may take the item away.
-    if (build.count == 0) indicatorFollowsBadges();
+    if (build.count == 0) indicatorFollowsBadges(readSettings());
 }
 
 } // namespace pendix

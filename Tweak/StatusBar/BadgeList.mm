@@ -20,8 +20,8 @@ BOOL isNews(NSString *identifier, NSInteger badge) {
 
 // Puts the application at the head of the list, or takes it off. One that is listed keeps its place unless it
 // `moves`.
-void list(NSString *identifier, BOOL hasBadge, BOOL moves) {
-    const BOOL listed = hasBadge && !hide_per(identifier);
+void list(NSString *identifier, BOOL hasBadge, BOOL moves, NSDictionary *settings) {
+    const BOOL listed = hasBadge && !hide_per(identifier, settings);
     if (listed && !moves && [datas containsObject:identifier]) return;
     [datas removeObject:identifier];
     if (listed) [datas insertObject:identifier atIndex:0];
@@ -30,7 +30,7 @@ void list(NSString *identifier, BOOL hasBadge, BOOL moves) {
 // A folder draws one badge for all that it holds, so each application in it is looked at, and with news they
 // go to the head together: those with the news first, the others in the order that they have. One whose badge
 // is gone stays listed: only a badge of its own on the home screen takes an application off.
-void listFolder(SBFolderIcon *folderIcon) {
+void listFolder(SBFolderIcon *folderIcon, NSDictionary *settings) {
     if (![folderIcon respondsToSelector:@selector(folder)]) return;
     NSMutableArray *head = [NSMutableArray array], *others = [NSMutableArray array];
     BOOL news = NO;
@@ -48,13 +48,13 @@ void listFolder(SBFolderIcon *folderIcon) {
         if ([others containsObject:identifier]) [head addObject:identifier];
     [others removeObjectsInArray:head];
     [head addObjectsFromArray:others];
-    for (NSUInteger i = [head count]; i > 0; --i) list([head objectAtIndex:i - 1], YES, news);
+    for (NSUInteger i = [head count]; i > 0; --i) list([head objectAtIndex:i - 1], YES, news, settings);
 }
 
-void listIcon(SBIcon *icon) {
+void listIcon(SBIcon *icon, NSDictionary *settings) {
     NSString *identifier = [icon nodeIdentifier];
     const NSInteger badge = [icon badgeValue];
-    if (identifier) list(identifier, badge != 0, isNews(identifier, badge));
+    if (identifier) list(identifier, badge != 0, isNews(identifier, badge), settings);
 }
 
 } // namespace
@@ -75,21 +75,24 @@ void hooked::resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image)
     SBIconView *iconView = (SBIconView *)self.superview;
     if (![iconView respondsToSelector:@selector(icon)]) return;
     SBIcon *icon = [iconView icon];
+    NSDictionary *settings = readSettings();
     if ([icon isFolderIcon]) {
-        listFolder((SBFolderIcon *)icon);
+        listFolder((SBFolderIcon *)icon, settings);
     } else if (icon) {
-        listIcon(icon);
+        listIcon(icon, settings);
     }
-    indicatorFollowsBadges();
+    indicatorFollowsBadges(settings);
 }
 
-BOOL added::checkBadges(SpringBoard *, SEL) {
-    if (locked || isOn(keys::runningMode)) return NO;
+BOOL badgesAreListed(NSDictionary *settings) {
+    if (locked || isOn(keys::runningMode, settings)) return NO;
     NSMutableArray *hidden = [NSMutableArray array];
     for (NSString *identifier in datas)
-        if (hide_per(identifier)) [hidden addObject:identifier];
+        if (hide_per(identifier, settings)) [hidden addObject:identifier];
     [datas removeObjectsInArray:hidden];
     return [datas count] != 0;
 }
+
+BOOL added::checkBadges(SpringBoard *, SEL) { return badgesAreListed(locked ? nil : readSettings()); }
 
 } // namespace pendix

@@ -22,6 +22,10 @@ NSString *const kMadeHidden = @"madeHidden";
 constexpr float kFade = 0.2f;     // seconds, when a badge changes and when the application opens
 constexpr float kFadeBack = 0.5f; // when the application is left
 
+BOOL hidesBadges(NSDictionary *settings) {
+    return isOn(keys::hidesBadges, settings) && isOn(keys::enabled, settings);
+}
+
 UIView *markOn(SBIconView *iconView) { return subviewWithTag(iconView, tags::iconMark); }
 
 void fade(UIView *mark, CGFloat alpha, float seconds) {
@@ -36,7 +40,7 @@ UIView *ownBadgeOn(SBIconView *iconView) {
     return nil;
 }
 
-void addMark(SBIconView *iconView) {
+void addMark(SBIconView *iconView, NSDictionary *settings) {
     SBIconImageView *iconImage = [iconView _iconImageView];
     UIImage *image = [UIImage imageWithContentsOfFile:names::supportFile(kMarkImage)];
     CGRect corner = iconImage.frame;
@@ -45,8 +49,8 @@ void addMark(SBIconView *iconView) {
                                                       image.size.width, image.size.height)];
     mark.image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
     // A folder has no image.
-    UIColor *own = isOn(keys::marksTakeIconColor) ? [[iconImage contentsImage] mergedColor] : nil;
-    mark.tintColor = own ? own : color(keys::markColor, @"red");
+    UIColor *own = isOn(keys::marksTakeIconColor, settings) ? [[iconImage contentsImage] mergedColor] : nil;
+    mark.tintColor = own ? own : color(keys::markColor, @"red", settings);
     mark.tag = tags::iconMark;
     [iconView addSubview:mark];
     [mark release];
@@ -70,7 +74,7 @@ UIView *markOfApplication(SBApplication *application) {
 // Badge views that are made while the settings are off stay as they are until they are made again.
 id hooked::initBadgeView(SBIconBadgeView *self, SEL _cmd) {
     SBIconBadgeView *view = original::initBadgeView(self, _cmd);
-    if (view && isOn(keys::hidesBadges) && isOn(keys::enabled)) {
+    if (view && hidesBadges(readSettings())) {
         view.hidden = YES;
         [view.layer setValue:[NSNumber numberWithBool:YES] forKey:kMadeHidden];
     }
@@ -82,16 +86,17 @@ void hooked::updateAccessoryView(SBIconView *self, SEL _cmd, BOOL animated) {
     if (![self respondsToSelector:@selector(icon)]) return;
     SBIcon *icon = [self icon];
     UIView *mark = markOn(self);
-    const BOOL excluded = badge_per([icon nodeIdentifier]);
-    const BOOL hides = isOn(keys::hidesBadges) && isOn(keys::enabled);
-    if (excluded || !hides || !isOn(keys::showsMarks)) {
+    NSDictionary *settings = readSettings();
+    const BOOL excluded = badge_per([icon nodeIdentifier], settings);
+    const BOOL hides = hidesBadges(settings);
+    if (excluded || !hides || !isOn(keys::showsMarks, settings)) {
         // What stood for the badge is gone, so the badge itself shows.
         if (mark || !hides) ownBadgeOn(self).hidden = NO;
         return [mark removeFromSuperview];
     }
     const BOOL hasBadge = [icon badgeValue] != 0;
     if (!mark && hasBadge) {
-        addMark(self);
+        addMark(self, settings);
         ownBadgeOn(self).hidden = YES;
     } else if (mark && hasBadge) {
         fade(mark, 1, kFade);

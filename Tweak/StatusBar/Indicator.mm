@@ -26,17 +26,18 @@ void startPulse() { [Spring makePulse:color(keys::pulseColor, @"clear")]; }
 
 BOOL mayPulse() { return isOn(keys::pulses) && !isOn(keys::hidesIndicator); }
 
-void indicatorFollowsBadges() {
-    if (locked || !isOn(keys::enabled)) return;
-    const BOOL running = isOn(keys::runningMode), hidden = isOn(keys::hidesIndicator);
+void indicatorFollowsBadges(NSDictionary *settings) {
+    if (locked || !isOn(keys::enabled, settings)) return;
+    const BOOL running = isOn(keys::runningMode, settings), hidden = isOn(keys::hidesIndicator, settings);
     if (hidden) hide();
     if (hidden || running) return;
-    showForBadges();
-    if (!isOn(keys::pulses)) {
-        if (needToPulse) [Spring removePulse];
-    } else if ([Spring checkBadges]) {
-        startPulse();
-    } else {
+    const BOOL onlyWithBadges = isOn(keys::hidesWithoutBadges, settings),
+               pulses = isOn(keys::pulses, settings);
+    const BOOL listed = (onlyWithBadges || pulses) && badgesAreListed(settings);
+    if (onlyWithBadges) statusbaritem.visible = listed;
+    if (pulses && listed) {
+        [Spring makePulse:color(keys::pulseColor, @"clear", settings)];
+    } else if (pulses || needToPulse) {
         [Spring removePulse];
     }
 }

@@ -58,8 +58,9 @@
 namespace pendix {
 
 // A home-screen badge was drawn, or the list of badges was tidied: hides by `hide`, which a launch does not
-// look at; where badges count, shows or hides by `hide_t`, and starts or ends the pulse.
-void indicatorFollowsBadges();
+// look at; where badges count, shows or hides by `hide_t`, and starts or ends the pulse. `settings` as the
+// file is now. Looks through the list once at most.
+void indicatorFollowsBadges(NSDictionary *settings);
 
 // The settings that move the indicator without a badge.
 struct WatchedSettings {
@@ -77,6 +78,9 @@ void indicatorWakes();
 
 // Whether the application's icon carries a badge; NO without an icon.
 BOOL carriesBadge(NSString *identifier);
+// What `checkBadges` tells, of settings that were read already: takes applications that are left out by now
+// off the list, and says whether any is left. NO while the display is off and in running mode.
+BOOL badgesAreListed(NSDictionary *settings);
 // There was nothing to list: what still carries a badge stays on the list, in its order, everything else
 // goes. The indicator does not follow by itself.
 void keepBadgedApplications();
