@@ -54,10 +54,10 @@ private:
                 throw std::runtime_error(name +
                                          " takes variable arguments, which the device passes differently");
             auto code = reinterpret_cast<IMP>(image_.at(method.implementation));
-            // The runtime keeps the types.
-            class_replaceMethod(target, sel_registerName(method.selector.c_str()),
-                                enteredFromHere(code, method.types.c_str(), name),
-                                strdup(method.types.c_str()));
+            SEL selector = sel_registerName(method.selector.c_str());
+            IMP entered = enteredFromHere(code, method.types.c_str(), name);
+            if (!class_addMethod(target, selector, entered, method.types.c_str()))
+                class_replaceMethod(target, selector, entered, method.types.c_str());
         }
     }
 
