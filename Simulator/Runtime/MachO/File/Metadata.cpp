@@ -9,7 +9,9 @@ namespace sim::macho {
 namespace {
 
 constexpr uint64_t kWord = 8, kClassSize = 40, kClassDataSize = 72, kCategorySize = 40, kStringSize = 32;
+constexpr size_t kMostClasses = 5000;
 constexpr std::string_view kClassPrefix = "_OBJC_CLASS_$_", kMetaclassPrefix = "_OBJC_METACLASS_$_";
+constexpr std::string_view kGlobalBlock = "__NSConcreteGlobalBlock";
 
 class Reader {
 public:
@@ -44,6 +46,7 @@ private:
     void readClass(uint64_t address);
     void readCategory(uint64_t address);
     void readString(uint64_t address);
+    void readBlock(uint64_t address);
     void each(std::string_view section, uint64_t size, const std::function<void(uint64_t)> &read) const;
 };
 
@@ -98,7 +101,7 @@ std::vector<Method> Reader::methods(uint64_t pointerAt) const {
 }
 
 std::vector<Variable> Reader::variables(uint64_t pointerAt) const {
-    constexpr uint32_t kPlainAlignment = ~0U, kLargestAlignment = 4;
+    constexpr uint32_t kPlainAlignment = ~0U, kLargestAlignment = 4, kLargestVariable = 1 << 20;
     std::vector<Variable> result;
     uint64_t at = pointer(pointerAt);
     if (!at) return result;
@@ -106,6 +109,7 @@ std::vector<Variable> Reader::variables(uint64_t pointerAt) const {
     for (; count; --count, entry += 4 * kWord) {
         uint32_t alignment = half(entry + 24);
         if (alignment == kPlainAlignment) alignment = 3;
+        if (half(entry + 28) > kLargestVariable) fail(entry + 28, "a variable of such a size");
         if (alignment > kLargestAlignment) fail(entry + 24, "an alignment of 2^" + std::to_string(alignment));
         uint64_t offsetAt = pointer(entry);
         const Segment *segment = file_.segmentOf(offsetAt, 4);
@@ -141,6 +145,7 @@ uint64_t Reader::classData(uint64_t classAddress) const {
 
 void Reader::readClass(uint64_t address) {
     if (!begun_.insert(address).second) return;
+    if (begun_.size() > kMostClasses) fail(address, "more classes than a library has");
     uint64_t metaclass = pointer(address), data = classData(address);
     if (!metaclass) fail(address, "a class without a metaclass");
     ClassRecord record{.address = address,
@@ -181,6 +186,16 @@ void Reader::readString(uint64_t address) {
     result_.strings.push_back({address, at, length});
 }
 
+void Reader::readBlock(uint64_t address) {
+    constexpr uint32_t kHasFunctions = 1 << 25, kHasTypes = 1 << 30;
+    uint32_t flags = half(address + kWord);
+    if (!(flags & kHasTypes) || flags & kHasFunctions) fail(address, "a block of an unknown form");
+    code(address + 2 * kWord);
+    uint64_t descriptor = pointer(address + 3 * kWord);
+    if (!descriptor) fail(address, "a block without its descriptor");
+    result_.blocks.push_back({address, text(descriptor + 2 * kWord)});
+}
+
 void Reader::each(std::string_view section, uint64_t size, const std::function<void(uint64_t)> &read) const {
     const Section *found = file_.section(section);
     if (!found) return;
@@ -204,6 +219,8 @@ Metadata Reader::read() {
     each("__objc_selrefs", kWord, [&](uint64_t at) { result_.selectors.push_back({at, text(at)}); });
     for (const char *section : {"__objc_classrefs", "__objc_superrefs"})
         each(section, kWord, [&](uint64_t at) { result_.classReferences.push_back({at, className(at)}); });
+    for (const auto &[address, binding] : bindings_)
+        if (binding.symbol == kGlobalBlock) readBlock(address);
     each("__mod_init_func", kWord, [&](uint64_t at) { result_.initializers.push_back(code(at)); });
 
     std::set<uint64_t> own;

@@ -51,6 +51,12 @@ struct SelectorReference {
     std::string name;
 };
 
+// A block that captures nothing and so lies in the file.
+struct GlobalBlock {
+    uint64_t address;
+    std::string types;
+};
+
 struct ClassReference {
     uint64_t address; // of the word that refers to the class, or to its metaclass
     ClassName target;
@@ -62,6 +68,7 @@ struct Metadata {
     std::vector<ConstantString> strings;
     std::vector<SelectorReference> selectors;
     std::vector<ClassReference> classReferences;
+    std::vector<GlobalBlock> blocks;
     std::vector<uint64_t> initializers;
 };
 

@@ -34,19 +34,18 @@ bool isDevices(const void *code) {
     return false;
 }
 
-void check(void *literal) {
-    auto *block = static_cast<Block *>(literal);
-    if (!isDevices(block->code)) return;
-    if (!(block->flags & kHasSignature)) throw std::runtime_error("a block that does not tell its types");
-    const auto *types = static_cast<const char *>(block->descriptor[block->flags & kHasCopyDispose ? 4 : 2]);
+void check(Block &block, const char *types) {
     IMP code =
-        enteredFromHere(reinterpret_cast<IMP>(block->code), types, std::string("a block ") + types, true);
-    block->code = reinterpret_cast<void *>(code);
+        enteredFromHere(reinterpret_cast<IMP>(block.code), types, std::string("a block ") + types, true);
+    block.code = reinterpret_cast<void *>(code);
 }
 
 void checkCopied(void *literal) {
+    auto &block = *static_cast<Block *>(literal);
+    if (!isDevices(block.code)) return;
+    if (!(block.flags & kHasSignature)) refuseCall("a block that does not tell its types");
     try {
-        check(literal);
+        check(block, static_cast<const char *>(block.descriptor[block.flags & kHasCopyDispose ? 4 : 2]));
     } catch (const std::exception &error) {
         refuseCall(error.what());
     }
@@ -54,11 +53,11 @@ void checkCopied(void *literal) {
 
 } // namespace
 
-void checkBlocks(const Image &image, const macho::Fixups &fixups) {
+void checkBlocks(const Image &image, const macho::Metadata &metadata) {
     images().emplace_back(image.begin(), image.size());
     onBlockCopied(checkCopied);
-    for (const auto &[address, binding] : fixups.bindings)
-        if (binding.symbol == "__NSConcreteGlobalBlock") check(image.at(address));
+    for (const auto &block : metadata.blocks)
+        check(*reinterpret_cast<Block *>(image.at(block.address)), block.types.c_str());
 }
 
 } // namespace sim

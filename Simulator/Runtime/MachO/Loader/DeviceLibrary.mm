@@ -81,7 +81,7 @@ void loadDeviceLibrary(const std::string &path) {
         auto &image = *new Image(file, fixups); // as long as the process
         bind(image, fixups);
         keepSymbols(image, file);
-        checkBlocks(image, fixups);
+        checkBlocks(image, metadata);
         registerMetadata(image, metadata);
         image.protect(file);
         addCodeForCrashes(path, image.begin(), image.size());
