@@ -16,6 +16,7 @@ import tempfile
 import time
 
 import body
+import refusals
 
 BUILD = body.ROOT / "build/dev"
 SIMULATOR = str(BUILD / "bin/pendix-sim")
@@ -23,10 +24,10 @@ SIMULATOR = str(BUILD / "bin/pendix-sim")
 # These do not run what the package holds: they load small libraries made for this machine, or test the program around.
 OTHER = {"scripting.troublemaker", "scripting.misfit", "command_line", "live_server", "monkey_runs"}
 # The monkey and the long tables of faults are for longer runs.
-LONG = ("monkey.", "faults.class", "faults.method", "faults.lookup", "faults.file", "faults.write", "settings_files.", "growth.")
+LONG = ("monkey.", "faults.class", "faults.method", "faults.lookup", "faults.file", "faults.write", "settings_files.", "growth.", "loader.mutated")
 # Not among the shortest: what is left takes a few minutes.
 QUICK = ("golden.", "scenario.badges", "scenario.indicator", "scenario.display", "scenario.launch_records", "scenario.marks",
-         "scenario.lock_keypad", "scenario.panel_closes", "scenario.pane_pages", "determinism", "same.tour")
+         "scenario.lock_keypad", "scenario.panel_closes", "scenario.pane_pages", "determinism", "same.tour", "loader.", "stage.")
 # Script, and the files that it writes.
 SAME = {"tour": "scenarios/tour.lua", "panel_gallery": "scenarios/panel_gallery.lua", "lock_gallery": "scenarios/lock_gallery.lua",
         "every_event": "Tests/Scenarios/lib_every_event.lua"}
@@ -91,6 +92,7 @@ def same_case(made, name, script):
 def cases(made):
     """Everything there is to run."""
     yield from (ctest_case(made, test) for test in listed_tests())
+    yield from (Case(name, run) for name, run in refusals.cases(made))
     yield from (same_case(made, name, script) for name, script in SAME.items())
 
 
@@ -109,7 +111,7 @@ def chosen(made, options):
         if options.pattern:
             wanted = re.search(options.pattern, case.name)
         elif options.quick:
-            wanted = case.name.startswith(QUICK)
+            wanted = case.name.startswith(QUICK) and not case.name.startswith(LONG)
         else:
             wanted = options.long or not case.name.startswith(LONG)
         if wanted:
@@ -129,7 +131,7 @@ def main(made, arguments):
     wanted = list(chosen(made, options))
     if not wanted:
         raise body.BodyError(f"no test's name holds '{options.pattern}'")
-    log = body.ROOT / "build/device-body/logs"
+    log = made.path.parent / "logs"
     shutil.rmtree(log, ignore_errors=True)
     log.mkdir(parents=True)
     failed = []

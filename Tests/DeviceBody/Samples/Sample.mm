@@ -130,7 +130,13 @@ static void run() {
 #endif
 }
 
-__attribute__((constructor)) static void initialize() {
+#ifdef NOTHING_RUNS
+__attribute__((used))
+#else
+__attribute__((constructor))
+#endif
+static void
+initialize() {
     @autoreleasepool {
         run();
     }

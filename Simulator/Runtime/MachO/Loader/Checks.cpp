@@ -67,7 +67,7 @@ void checkWord(uint64_t word, macho::Width width, Passing how, const char *name)
     ++counts().small[static_cast<size_t>(how)];
     if (isWhole(word, width)) return;
     std::ostringstream text;
-    text << name << ": 0x" << std::hex << static_cast<uint32_t>(word) << " among the "
+    text << name << ": " << static_cast<uint32_t>(word) << " among the "
          << kPassingNames[static_cast<size_t>(how)]
          << (width == macho::Width::truth ? " where 0 or 1 should be" : " where 16 bits should be");
     refuseCall(text.str());
