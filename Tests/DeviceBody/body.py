@@ -96,6 +96,12 @@ class Body:
         return total
 
 
+def changed(made, path, change):
+    """Another body at `path`, of the same parts; `change(root)` alters its installed files."""
+    package, build, processes, sysroot = made.facts["made of"]
+    return make(path, package, pathlib.Path(build), pathlib.Path(processes), sysroot, change)
+
+
 def unpack(package, to):
     result = subprocess.run(["dpkg-deb", "-x", package, to], capture_output=True, text=True, check=False)
     if result.returncode:
@@ -131,7 +137,8 @@ def make(path, package, build, processes, sysroot, change=None):
             change(root)
         add_programs(new, build, processes, sysroot, path / "counts")
         files = {file.relative_to(root).as_posix(): checksum(file) for file in root.rglob("*") if file.is_file()}
-        facts = {"package": pathlib.Path(package).name, "checksum": checksum(package), "files": files}
+        facts = {"package": pathlib.Path(package).name, "checksum": checksum(package), "files": files,
+                 "made of": [str(part) for part in (package, build, processes, sysroot)]}
         (new / "facts.json").write_text(json.dumps(facts, indent=1))
         if path.exists():
             shutil.rmtree(path)

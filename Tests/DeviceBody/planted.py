@@ -176,7 +176,7 @@ FAULTS = [
 ]
 
 
-def plant(path, package, processes, sysroot, change):
+def plant(path, made, change):
     def spoil(root):
         library = Library(root / body.LIBRARY)
         before = bytes(library.data)
@@ -185,7 +185,7 @@ def plant(path, package, processes, sysroot, change):
             raise ValueError("nothing was changed")
         library.write()
         shutil.copy(root / body.LIBRARY, root / body.BUNDLE)
-    return body.make(path, package, suite.BUILD, processes, sysroot, spoil)
+    return body.changed(made, path, spoil)
 
 
 def first_notice(spoilt, tests):
@@ -198,14 +198,14 @@ def first_notice(spoilt, tests):
     return None
 
 
-def run(package, processes, sysroot, only="", jobs=2):
+def run(made, only="", jobs=2):
     """Plants each in turn; prints a table."""
     missed = 0
 
     def one(fault):
         name, change, tests = fault
         with tempfile.TemporaryDirectory(prefix="planted-") as folder:
-            spoilt = plant(pathlib.Path(folder) / "body", package, processes, sysroot, change)
+            spoilt = plant(pathlib.Path(folder) / "body", made, change)
             return name, first_notice(spoilt, tests)
 
     chosen = [fault for fault in FAULTS if only in fault[0]]

@@ -135,6 +135,23 @@ def changed_stage(made, folder):
     return "nothing was noticed"
 
 
+def changed_text(made, folder):
+    """One byte of a text that the library logs: the bytes of the package are those that run."""
+    old, new = b"<Pendix> Loaded!", b"<Pendix> Loaded?"
+
+    def change(root):
+        library = root / body.LIBRARY
+        code, offset = body.arm64_slice(library)
+        data = library.read_bytes()
+        library.write_bytes(data[:offset] + code.replace(old, new, 1) + data[offset + len(code) :])
+
+    said = [subprocess.run([one.simulator, "run", HERE / "with_library.lua", "--out", folder, "--", folder / name],
+                           capture_output=True, text=True, check=False).stdout
+            for name, one in (("as_it_is", made), ("changed", body.changed(made, folder / "body", change)))]
+    texts = [text.decode() in output for output in said for text in (old, new)]
+    return "" if texts == [True, False, False, True] else "\n".join(said) or "nothing was logged"
+
+
 def cases(made):
     """(name, function of a folder that returns what is wrong)."""
     yield "loader.right", lambda folder: right(made, folder)
@@ -144,4 +161,5 @@ def cases(made):
         yield f"loader.{name}", lambda folder, name=name: broken(made, folder, name)
     yield "loader.mutated", lambda folder: mutated(made, folder)
     yield "stage.packages", lambda folder: bad_packages(made, folder)
+    yield "stage.changed_text", lambda folder: changed_text(made, folder)
     yield "stage.changed", lambda folder: changed_stage(made, folder)

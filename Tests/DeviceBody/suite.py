@@ -10,7 +10,6 @@ import os
 import pathlib
 import re
 import resource
-import shutil
 import subprocess
 import tempfile
 import time
@@ -132,8 +131,7 @@ def main(made, arguments):
     if not wanted:
         raise body.BodyError(f"no test's name holds '{options.pattern}'")
     log = made.path.parent / "logs"
-    shutil.rmtree(log, ignore_errors=True)
-    log.mkdir(parents=True)
+    log.mkdir(parents=True, exist_ok=True)
     failed = []
 
     def run(case):
