@@ -78,12 +78,13 @@ def selector(wrong, right):
 
 
 def text(right, wrong):
+    """Every copy of a text; the linker keeps one of each unit."""
     def change(library):
         section = library.macho.sections["__cstring"]
         old, new = b"\0" + right.encode() + b"\0", b"\0" + wrong.encode() + b"\0"
         start = library.base + section.offset
-        at = library.data.index(old, start, start + section.size)
-        library.data[at : at + len(old)] = new
+        end = start + section.size
+        library.data[start:end] = library.data[start:end].replace(old, new)
     return change
 
 

@@ -100,8 +100,8 @@ def run_case(case):
     with tempfile.TemporaryDirectory(prefix="device-body-") as folder:
         try:
             trouble = case.run(pathlib.Path(folder))
-        except OSError as error:
-            trouble = str(error)
+        except Exception as error:  # a fault of the test itself fails it
+            trouble = f"{type(error).__name__}: {error}"
     return trouble, time.monotonic() - start
 
 
