@@ -115,9 +115,10 @@ def unpack(package, to):
 def add_programs(path, build, processes, sysroot, report):
     (path / "bin").mkdir(parents=True)
     shutil.copy2(build / "bin/pendix-sim", path / "bin")
-    for name in ("platform", "page"):
+    for name in ("platform", "page", "Lua"):
         (path / "stage" / name).symlink_to(build / "stage" / name)
-    shutil.copy2(build / "stage/package.json", path / "stage")
+    for name in ("package.json", "settings.json"):
+        shutil.copy2(build / "stage" / name, path / "stage")
     for name in PROCESSES:
         program = path / "bin" / name
         program.write_text(starter(processes / name, sysroot, report))

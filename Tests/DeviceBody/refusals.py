@@ -56,7 +56,7 @@ def boot_with(made, folder, library):
     shutil.rmtree(folder / "root", ignore_errors=True)
     place.mkdir(parents=True)
     (place / "Sample.dylib").write_bytes(library)
-    shutil.copy(body.ROOT / "Tests/Device/Extensions/Filter.plist", place / "Sample.plist")
+    shutil.copy(body.ROOT / "Tests/Supervisor/Extensions/Filter.plist", place / "Sample.plist")
     done = made.run("run", HERE / "with_library.lua", "--out", folder, "--", folder / "root", capture_output=True, text=True)
     return done.stdout + done.stderr, done.returncode
 

@@ -29,7 +29,7 @@ QUICK = ("golden.", "scenario.badges", "scenario.indicator", "scenario.display",
          "scenario.lock_keypad", "scenario.panel_closes", "scenario.pane_pages", "determinism", "same.tour", "loader.", "stage.")
 # Script, and the files that it writes.
 SAME = {"tour": "scenarios/tour.lua", "panel_gallery": "scenarios/panel_gallery.lua", "lock_gallery": "scenarios/lock_gallery.lua",
-        "every_event": "Tests/Scenarios/lib_every_event.lua"}
+        "every_event": "Tests/DeviceBody/every_event.lua"}
 
 
 class Case:

@@ -1,6 +1,6 @@
 -- What happens and what stands on the screen while a panel is used in many ways, as text with every digit: for two
 -- bodies to be compared line by line. What a running interface would round away shows here.
-local P = dofile("lib_panel.lua")
+local P = require("panel")
 
 local function digits(value)
   if math.type(value) ~= "float" then return tostring(value) end
