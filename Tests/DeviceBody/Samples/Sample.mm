@@ -64,6 +64,19 @@ IMP method_getImplementation(Method method);
 }
 @end
 
+// On a class of the simulator's own: a method of instances that it has, and one of the class.
+@interface UIView (Sample)
++ (int)sampleOfClass;
+@end
+@implementation UIView (Sample)
++ (int)sampleOfClass {
+    return 7;
+}
+- (NSString *)description {
+    return @"<Sample> replaced by a category";
+}
+@end
+
 #ifdef SECOND_CLASS
 @interface UISlider : NSObject
 @end
@@ -89,6 +102,7 @@ __attribute__((used)) void (^sampleBlock)(BOOL) = ^(BOOL truth) {
 
 static void run() {
     [[SampleClass made] take:YES];
+    NSLog(@"%@, which adds %d", [[[UIView alloc] init] autorelease], [UIView sampleOfClass]);
 #ifdef MISSING_FUNCTION
     noSuchFunction();
 #endif

@@ -46,7 +46,8 @@ private:
         image_.write(string.address + 24, uint64_t{0});
     }
 
-    void addMethods(Class target, const std::vector<macho::Method> &methods) const {
+    // A category may bring a method that its class has; a new class has none yet.
+    void addMethods(Class target, const std::vector<macho::Method> &methods, bool mayReplace) const {
         for (const auto &method : methods) {
             std::string name = std::string(class_isMetaClass(target) ? "+[" : "-[") + class_getName(target) +
                                " " + method.selector + "]";
@@ -56,8 +57,10 @@ private:
             auto code = reinterpret_cast<IMP>(image_.at(method.implementation));
             SEL selector = sel_registerName(method.selector.c_str());
             IMP entered = enteredFromHere(code, method.types.c_str(), name);
-            if (!class_addMethod(target, selector, entered, method.types.c_str()))
-                class_replaceMethod(target, selector, entered, method.types.c_str());
+            if (class_addMethod(target, selector, entered, method.types.c_str())) continue;
+            if (!mayReplace || !class_getInstanceMethod(target, selector))
+                throw std::runtime_error("the runtime does not take " + name);
+            replaceMethod(target, selector, entered);
         }
     }
 
@@ -74,8 +77,8 @@ private:
             if (!class_addIvar(made, variable.name.c_str(), variable.size,
                                static_cast<uint8_t>(variable.alignment), variable.type.c_str()))
                 throw std::runtime_error(record.name + " cannot have a variable " + variable.name);
-        addMethods(made, record.methods.ofInstances);
-        addMethods(object_getClass(made), record.methods.ofClass);
+        addMethods(made, record.methods.ofInstances, false);
+        addMethods(object_getClass(made), record.methods.ofClass, false);
         addProtocols(made, record.protocols);
         objc_registerClassPair(made);
         for (const auto &variable : record.variables) {
@@ -89,8 +92,9 @@ private:
     void addCategory(const macho::CategoryRecord &category) const {
         Class target = classOf(category.target);
         finishConstruction(target);
-        addMethods(target, category.methods.ofInstances);
-        addMethods(object_getClass(target), category.methods.ofClass);
+        finishConstruction(object_getClass(target));
+        addMethods(target, category.methods.ofInstances, true);
+        addMethods(object_getClass(target), category.methods.ofClass, true);
         addProtocols(target, category.protocols);
     }
 };
