@@ -10,6 +10,7 @@ import json
 import os
 import pathlib
 import platform
+import shlex
 import shutil
 import subprocess
 import tempfile
@@ -47,10 +48,15 @@ def arm64_slice(path):
     raise BodyError(f"{path} has no arm64 slice: build the package with scripts/package")
 
 
+def emulated(program, sysroot):
+    """The command that runs a program for aarch64."""
+    return [str(program)] if is_native() else [EMULATOR, "-L", str(sysroot), str(program)]
+
+
 def starter(program, sysroot, report):
     """The program that the supervisor starts. Whoever wants to share the work of starting replaces this line."""
-    emulate = "" if is_native() else f"{EMULATOR} -L '{sysroot}' "
-    return f"#!/bin/sh\nexport SIM_LOADER_REPORT='{report}'\nexec {emulate}'{program}' \"$@\"\n"
+    command = shlex.join(emulated(program, sysroot))
+    return f"#!/bin/sh\nexport SIM_LOADER_REPORT={shlex.quote(str(report))}\nexec {command} \"$@\"\n"
 
 
 class Body:

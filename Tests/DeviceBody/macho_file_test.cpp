@@ -55,14 +55,17 @@ TEST(MachOFile, AWholeFileIsReadToItsEnd) {
     ASSERT_EQ(base.variables.size(), 2);
     EXPECT_EQ(base.variables[1].name, "_place");
     EXPECT_EQ(base.variables[1].size, 32);
+    EXPECT_EQ(base.variables[1].offset, 16);
     ASSERT_EQ(derived.methods.ofInstances.size(), 1);
     EXPECT_EQ(derived.methods.ofInstances[0].selector, "take:");
     EXPECT_EQ(symbolAt(file, derived.methods.ofInstances[0].implementation + 8), "-[SampleClass take:]");
-    ASSERT_EQ(metadata.categories.size(), 1);
+    ASSERT_EQ(metadata.categories.size(), 2);
     EXPECT_EQ(metadata.categories[0].target.name, "NSNumber");
+    ASSERT_EQ(metadata.categories[1].methods.ofClass.size(), 1);
+    EXPECT_EQ(metadata.categories[1].methods.ofClass[0].selector, "sampleOfClass");
     EXPECT_EQ(metadata.initializers.size(), 1);
     EXPECT_EQ(metadata.blocks.size(), 1);
-    EXPECT_THAT(foreignClasses(fixups), ElementsAre("NSNumber", "NSObject"));
+    EXPECT_THAT(foreignClasses(fixups), ElementsAre("NSNumber", "NSObject", "UIView"));
 }
 
 TEST(MachOFile, WhatIsBrokenIsNamedWithItsPlace) {

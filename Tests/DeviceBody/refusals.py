@@ -1,13 +1,16 @@
 """What the loader of a device's libraries refuses, and what it notices while their code runs: small libraries, each
 wrong in one way, installed beside the package's in a device folder."""
 
+import os
 import pathlib
-import random
 import shutil
 import subprocess
+import sys
 
 import body
-import samples
+import samples  # which adds the folder of the next one
+
+import macho
 
 HERE = pathlib.Path(__file__).resolve().parent
 FOLDER = "Library/MobileSubstrate/DynamicLibraries"
@@ -45,9 +48,24 @@ def other_processor(data):
     return data[:4] + (12).to_bytes(4, "little") + data[8:]
 
 
-BROKEN = {"cut": (cut, "the file is cut short"), "unknown_command": (unknown_command, "an unknown load command, 0x80000034"),
-          "other_processor": (other_processor, "not for arm64")}
-MUTATED = 24
+def moved_variable(data):
+    """Another offset than the one that the code of a class below NSObject was compiled with."""
+    file = macho.MachO(data)
+    for at in file.pointers("__objc_classlist"):
+        facts = file.pointer(file.pointer(at) + 32) & ~7
+        if file.string(file.pointer(facts + 24)) == "SampleBase":
+            slot = file.file_offset(file.pointer(file.pointer(facts + 48) + 8))
+            return data[:slot] + (24).to_bytes(4, "little") + data[slot + 4 :]
+    raise ValueError("there is no such class")
+
+
+BROKEN = {
+    "cut": (cut, "at 0x", "the file is cut short"),
+    "unknown_command": (unknown_command, "at 0x", "an unknown load command, 0x80000034"),
+    "other_processor": (other_processor, "at 0x", "not for arm64"),
+    "moved_variable": (moved_variable, "SampleBase has its variable _count at 8, and its code was compiled for 24"),
+}
+MUTATED = 2000
 
 
 def boot_with(made, folder, library):
@@ -77,24 +95,19 @@ def wrong(made, folder, macro):
 
 
 def broken(made, folder, name):
-    change, wanted = BROKEN[name]
+    change, *wanted = BROKEN[name]
     said, status = boot_with(made, folder, change(built(folder)))
-    return "" if status and "cannot load Sample.dylib: at 0x" in said and wanted in said else said or "nothing was noticed"
+    noticed = status and all(text in said for text in ("cannot load Sample.dylib: ", *wanted))
+    return "" if noticed else said or "nothing was noticed"
 
 
 def mutated(made, folder):
-    """Files with faults outside of their code, of which none runs: refused or loaded, and never a crash."""
-    whole = built(folder, "NOTHING_RUNS")
-    start = random.Random(7)
-    for number in range(MUTATED):
-        data = bytearray(whole)
-        for _ in range(3):
-            at = start.choice((start.randrange(32, 0x800), start.randrange(0x8000, len(data))))
-            data[at] ^= 1 << start.randrange(8)
-        said, status = boot_with(made, folder, bytes(data))
-        if status and "cannot load Sample.dylib: " not in said:
-            return f"file {number}: {said}"
-    return ""
+    """Broken copies of a library of which none runs, by the loader itself: refused or loaded, and never a crash."""
+    built(folder, "NOTHING_RUNS")
+    _, _, programs, sysroot = made.facts["made of"]
+    command = body.emulated(pathlib.Path(programs) / "loader_trial", sysroot)
+    done = subprocess.run([*command, folder / "Sample.dylib", folder, str(MUTATED)], capture_output=True, text=True, check=False)
+    return "" if done.returncode == 0 and f"of {MUTATED}\n" in done.stdout else done.stdout + done.stderr
 
 
 def bad_packages(made, folder):
@@ -122,6 +135,50 @@ def bad_packages(made, folder):
     return (refused(folder / "none.deb", "cannot be unpacked")
             or refused(packed("empty", pathlib.Path.unlink), "holds no")
             or refused(packed("thin", without_arm64), "has no arm64 slice"))
+
+
+def machine_without(folder, *missing, **instead):
+    """The environment of a machine that lacks those programs, has scripts in the place of others, and has fetched
+    nothing yet."""
+    programs = folder / "programs"
+    programs.mkdir()
+    for name, script in instead.items():
+        (programs / name.replace("_", "-")).write_text("#!/bin/sh\n" + script)
+        (programs / name.replace("_", "-")).chmod(0o755)
+    for place in os.environ["PATH"].split(os.pathsep):
+        for program in pathlib.Path(place).glob("*"):
+            if program.name not in missing and not (programs / program.name).exists():
+                (programs / program.name).symlink_to(program)
+    return {**os.environ, "PATH": str(programs), "XDG_CACHE_HOME": str(folder / "cache")}
+
+
+def unprepared(environment, *wanted):
+    """What device-body says on such a machine, and where: it stops, and says what to do."""
+    done = subprocess.run([sys.executable, body.ROOT / "scripts/device-body", "prepare"], env=environment, capture_output=True,
+                          text=True, check=False)
+    noticed = done.returncode == 2 and all(text in done.stderr for text in wanted)
+    return "" if noticed else done.stdout + done.stderr
+
+
+def no_emulator(folder):
+    environment = machine_without(folder, body.EMULATOR)
+    return unprepared(environment, "there is no qemu-aarch64-static: apt-get install qemu-user-static")
+
+
+def no_libraries(folder):
+    environment = machine_without(folder, apt_get="echo 'Temporary failure resolving' >&2; exit 100\n")
+    return unprepared(environment, "Temporary failure resolving", "The libraries for aarch64 could not be fetched",
+                      "call scripts/device-sysroot again when the network is back")
+
+
+def changed_archives(folder):
+    """An archive that is not what it was when it was fetched is not unpacked."""
+    environment = machine_without(folder, apt_get="exit 0\n")
+    archives = folder / "cache/pendix/aarch64/apt/archives"
+    archives.mkdir(parents=True)
+    (archives / "libc6.deb").write_text("another")
+    (archives.parent.parent / "archives.sha256").write_text(f"{'0' * 64}  ./libc6.deb\n")
+    return unprepared(environment, "are not what they were:", "./libc6.deb", "Remove them and call scripts/device-sysroot again")
 
 
 def changed_stage(made, folder):
@@ -164,3 +221,7 @@ def cases(made):
     yield "stage.packages", lambda folder: bad_packages(made, folder)
     yield "stage.changed_text", lambda folder: changed_text(made, folder)
     yield "stage.changed", lambda folder: changed_stage(made, folder)
+    if not body.is_native():
+        yield "stage.no_emulator", no_emulator
+        yield "stage.no_libraries", no_libraries
+        yield "stage.changed_archives", changed_archives

@@ -115,7 +115,8 @@ std::vector<Variable> Reader::variables(uint64_t pointerAt) const {
         const Segment *segment = file_.segmentOf(offsetAt, 4);
         if (offsetAt && (!segment || !segment->writable || offsetAt % 4))
             fail(entry, "an offset that cannot be set");
-        result.push_back({offsetAt, text(entry + 8), text(entry + 16), half(entry + 28), alignment});
+        result.push_back({offsetAt, offsetAt ? half(offsetAt) : 0, text(entry + 8), text(entry + 16),
+                          half(entry + 28), alignment});
     }
     return result;
 }

@@ -18,6 +18,7 @@ struct Method {
 
 struct Variable {
     uint64_t offsetAt; // where its offset is kept, 32 bits; 0: nowhere
+    uint32_t offset;   // what is kept there in the file: the offset that it was compiled with
     std::string name, type;
     uint32_t size, alignment; // the alignment as a power of two
 };

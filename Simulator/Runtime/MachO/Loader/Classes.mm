@@ -8,7 +8,9 @@
 #include "VariableArguments.hpp"
 
 #include <map>
+#include <set>
 #include <stdexcept>
+#include <string>
 
 namespace sim {
 
@@ -33,6 +35,7 @@ private:
     const Image &image_;
     const macho::Metadata &metadata_;
     std::map<uint64_t, Class> made_; // by the address of the class, and of its metaclass
+    std::set<Class> fixed_;          // those whose superclasses are the library's own up to NSObject
 
     Class classOf(const macho::ClassName &name) const {
         if (name.name.empty()) return made_.at(name.address);
@@ -81,10 +84,18 @@ private:
         addMethods(object_getClass(made), record.methods.ofClass, false);
         addProtocols(made, record.protocols);
         objc_registerClassPair(made);
+        // The compiler takes NSObject's size for granted: such a class's code may hold its offsets as numbers.
+        bool isFixed = record.superclass.name == "NSObject" || fixed_.contains(above);
         for (const auto &variable : record.variables) {
             ptrdiff_t offset = ivar_getOffset(class_getInstanceVariable(made, variable.name.c_str()));
-            if (variable.offsetAt) image_.write(variable.offsetAt, static_cast<int32_t>(offset));
+            if (!variable.offsetAt) continue;
+            if (isFixed && offset != variable.offset)
+                throw std::runtime_error(record.name + " has its variable " + variable.name + " at " +
+                                         std::to_string(offset) + ", and its code was compiled for " +
+                                         std::to_string(variable.offset));
+            image_.write(variable.offsetAt, static_cast<int32_t>(offset));
         }
+        if (isFixed) fixed_.insert(made);
         made_[record.address] = made;
         made_[record.metaclassAddress] = object_getClass(made);
     }
