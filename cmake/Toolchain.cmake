@@ -25,6 +25,14 @@ execute_process(
     COMMAND gcc -print-file-name=include
     OUTPUT_VARIABLE gcc_include
     OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+if(CMAKE_CROSSCOMPILING)
+    file(GLOB gcc_include ${CMAKE_SYSROOT}/usr/lib/gcc/*/*/include)
+endif()
+
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL aarch64)
+    # Calculates what the other processors do: a product is rounded before it is added, and characters have a sign.
+    add_compile_options(-ffp-contract=off -fsigned-char)
+endif()
 
 add_library(warnings INTERFACE)
 target_compile_options(warnings INTERFACE -Wall -Wextra -Werror)
@@ -37,7 +45,7 @@ target_compile_options(
         "$<$<COMPILE_LANGUAGE:OBJCXX>:-Wundeclared-selector;-Wstrict-selector-match;-Wobjc-missing-property-synthesis>"
         "$<$<COMPILE_LANGUAGE:OBJCXX>:SHELL:-idirafter ${gcc_include}>")
 target_include_directories(objective_cxx INTERFACE ${CMAKE_SOURCE_DIR}/Platform ${CMAKE_SOURCE_DIR}/Simulator/Runtime/Shim)
-target_include_directories(objective_cxx SYSTEM INTERFACE /usr/include/GNUstep)
+target_include_directories(objective_cxx SYSTEM INTERFACE ${CMAKE_SYSROOT}/usr/include/GNUstep)
 target_link_libraries(objective_cxx INTERFACE warnings gnustep-base objc)
 
 if(PENDIX_SANITIZE)

@@ -2,6 +2,7 @@
 
 #include "Requests.h"
 #include "Runtime/Files/Sandbox.hpp"
+#include "Runtime/MachO/DeviceLibrary.hpp"
 #include "Runtime/Objc/ClassLayout.hpp"
 #include "Runtime/Values/PropertyList.hpp"
 
@@ -40,6 +41,11 @@ bool selects(const Value &filter, const std::string &bundle, const std::string &
 void load(const fs::path &library) {
     // By its own name: backtraces and debuggers show it.
     std::string path = fs::canonical(library);
+    if (isDeviceLibrary(path)) try {
+            return loadDeviceLibrary(path);
+        } catch (const std::runtime_error &error) {
+            throw BadRequest("cannot load " + library.filename().string() + ": " + error.what());
+        }
     void *handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle) throw BadRequest("cannot load " + library.filename().string() + ": " + dlerror());
     for (const auto &problem : brokenLayouts(classesOf(path)))

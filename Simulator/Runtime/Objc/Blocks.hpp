@@ -12,4 +12,7 @@ void installBlocks();
 // Blocks on the heap: copied and not yet released.
 size_t liveBlocks();
 
+// Called with each block right after it was copied to the heap.
+void onBlockCopied(void (*observer)(void *block));
+
 } // namespace sim

@@ -46,6 +46,7 @@ struct Byref {
 };
 
 constinit std::atomic<size_t> live = 0; // blocks on the heap
+constinit void (*copied)(void *) = nullptr;
 
 int addReference(int &flags) { return __atomic_add_fetch(&flags, 1, __ATOMIC_RELAXED); }
 bool dropLastReference(int &flags) {
@@ -103,6 +104,7 @@ EXPORTED void *_Block_copy(const void *literal) {
     heap->isa = _NSConcreteMallocBlock;
     if (heap->flags & kHasCopyDispose) heap->descriptor->copy(heap, block);
     live.fetch_add(1, std::memory_order_relaxed);
+    if (copied) copied(heap);
     return heap;
 }
 
@@ -181,6 +183,8 @@ void installBlocks() {
     // A class is complete only once it has got a message.
     for (Class kind : {[SimStackBlock class], [SimMallocBlock class], [SimGlobalBlock class]}) [kind self];
 }
+
+void onBlockCopied(void (*observer)(void *block)) { copied = observer; }
 
 size_t liveBlocks() { return live.load(std::memory_order_relaxed); }
 

@@ -23,6 +23,46 @@ __attribute__((used, visibility("hidden"))) void simNoteOriginal(void *stub) {
 }
 void simOriginalEntry();
 
+#ifdef __aarch64__
+// Arrives with the stub in x17.
+__asm__(R"(
+    .text
+    .globl simOriginalEntry
+    .hidden simOriginalEntry
+    .type simOriginalEntry, %function
+simOriginalEntry:
+    .cfi_startproc
+    stp x29, x30, [sp, #-224]!
+    .cfi_def_cfa_offset 224
+    .cfi_offset x29, -224
+    .cfi_offset x30, -216
+    mov x29, sp
+    stp x0, x1, [sp, #16]
+    stp x2, x3, [sp, #32]
+    stp x4, x5, [sp, #48]
+    stp x6, x7, [sp, #64]
+    stp x8, x17, [sp, #80]
+    stp q0, q1, [sp, #96]
+    stp q2, q3, [sp, #128]
+    stp q4, q5, [sp, #160]
+    stp q6, q7, [sp, #192]
+    mov x0, x17
+    bl simNoteOriginal
+    ldp x0, x1, [sp, #16]
+    ldp x2, x3, [sp, #32]
+    ldp x4, x5, [sp, #48]
+    ldp x6, x7, [sp, #64]
+    ldp x8, x17, [sp, #80]
+    ldp q0, q1, [sp, #96]
+    ldp q2, q3, [sp, #128]
+    ldp q4, q5, [sp, #160]
+    ldp q6, q7, [sp, #192]
+    ldp x29, x30, [sp], #224
+    ldr x16, [x17]
+    br x16
+    .cfi_endproc
+)");
+#else
 // Arrives with the stub in r11 and the caller's stack: seven pushes and the stub's own make it aligned again.
 __asm__(R"(
     .text
@@ -67,6 +107,7 @@ simOriginalEntry:
     pop %rax
     jmp *(%r11)
 )");
+#endif
 
 } // extern "C"
 
@@ -74,7 +115,6 @@ namespace sim {
 
 namespace {
 
-// mov r11, stub; mov r10, entry; jmp r10
 constexpr size_t kThunkSize = 32;
 constexpr size_t kPageSize = 4096;
 
@@ -99,6 +139,21 @@ uint8_t *put(uint8_t *at, std::initializer_list<uint8_t> bytes, const void *addr
     return at + sizeof address;
 }
 
+void writeThunk(uint8_t *thunk, const Stub *stub) {
+    const auto *entry = reinterpret_cast<const void *>(&simOriginalEntry);
+#ifdef __aarch64__
+    // ldr x17, stub; ldr x16, entry; br x16; nop
+    const uint32_t code[] = {0x58000091, 0x580000b0, 0xd61f0200, 0xd503201f};
+    memcpy(thunk, code, sizeof code);
+    put(put(thunk + sizeof code, {}, stub), {}, entry);
+#else
+    // mov r11, stub; mov r10, entry; jmp r10
+    uint8_t *at = put(put(thunk, {0x49, 0xbb}, stub), {0x49, 0xba}, entry);
+    const uint8_t jump[] = {0x41, 0xff, 0xe2};
+    memcpy(at, jump, sizeof jump);
+#endif
+}
+
 std::map<void *, Stub> &stubsByThunk() {
     static auto &stubs = *new std::map<void *, Stub>; // the thunks hold their addresses
     return stubs;
@@ -114,10 +169,8 @@ void *behindStubs(void *implementation) {
 void *makeStub(void *target, std::function<void()> note) {
     uint8_t *thunk = nextThunk();
     Stub &stub = stubsByThunk()[thunk] = Stub{target, std::move(note)};
-    uint8_t *at = put(thunk, {0x49, 0xbb}, &stub);
-    at = put(at, {0x49, 0xba}, reinterpret_cast<const void *>(&simOriginalEntry));
-    const uint8_t jump[] = {0x41, 0xff, 0xe2};
-    memcpy(at, jump, sizeof jump);
+    writeThunk(thunk, &stub);
+    __builtin___clear_cache(reinterpret_cast<char *>(thunk), reinterpret_cast<char *>(thunk + kThunkSize));
     return thunk;
 }
 

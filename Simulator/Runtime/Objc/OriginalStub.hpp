@@ -1,5 +1,5 @@
-// Trampolines: machine-code stubs in front of implementations of methods, which report each call. x86-64,
-// System V calling convention: every argument register is kept.
+// Trampolines: machine-code stubs in front of implementations of methods, which report each call. x86-64 and
+// aarch64, System V calling conventions: every argument register is kept.
 #pragma once
 
 #include <functional>

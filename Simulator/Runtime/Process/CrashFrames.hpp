@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <sys/ucontext.h>
 
 namespace sim {
@@ -20,6 +21,9 @@ private:
 
 // Does in advance what is not async-signal-safe.
 void prepareFrames();
+
+// Code that no loader of this machine's knows: its frames are told by that path and offsets from `begin`.
+void addCodeForCrashes(const std::string &path, const void *begin, size_t size);
 
 // A line a frame of the code that was interrupted, "frame PATH+0xOFFSET", innermost first. Unwinding consumes
 // the context: it cannot be resumed.

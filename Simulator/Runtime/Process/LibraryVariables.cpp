@@ -1,5 +1,7 @@
 #include "LibraryVariables.hpp"
 
+#include "Runtime/MachO/DeviceLibrary.hpp"
+
 #include <elf.h>
 #include <fstream>
 #include <link.h>
@@ -60,6 +62,7 @@ int readLibrary(dl_phdr_info *info, size_t, void *context) {
 } // namespace
 
 void *libraryVariable(const std::string &symbol) {
+    if (void *place = deviceSymbol(symbol)) return place;
     static Table table;
     auto found = table.symbols.find(symbol);
     if (found == table.symbols.end()) {

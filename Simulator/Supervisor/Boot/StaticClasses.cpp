@@ -1,5 +1,7 @@
 #include "StaticClasses.hpp"
 
+#include "Runtime/MachO/File/Metadata.hpp"
+
 #include <algorithm>
 #include <cstring>
 #include <elf.h>
@@ -29,6 +31,8 @@ std::string_view text(const std::string &file, uint64_t at) {
 } // namespace
 
 std::vector<std::string> staticClasses(const std::string &file) {
+    std::span bytes(reinterpret_cast<const uint8_t *>(file.data()), file.size());
+    if (macho::isMachO(bytes)) return macho::foreignClasses(macho::readFixups(macho::File(bytes)));
     constexpr std::string_view kPrefix = "__objc_class_name_";
     auto header = record<Elf64_Ehdr>(file, 0, 0);
     if (memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 || header.e_ident[EI_CLASS] != ELFCLASS64)

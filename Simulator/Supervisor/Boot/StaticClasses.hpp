@@ -6,8 +6,9 @@
 
 namespace sim {
 
-// Names of the classes, sorted, that the 64-bit ELF library in `file` (its bytes) refers to by symbol and
-// does not define. Throws std::runtime_error when the bytes are no such library.
+// Names of the classes, sorted, that the library in `file` (its bytes), of this machine's kind or of a
+// device's, refers to by symbol and does not define. Throws std::runtime_error when the bytes are no such
+// library.
 std::vector<std::string> staticClasses(const std::string &file);
 
 } // namespace sim

@@ -1,5 +1,6 @@
 #include "CrashText.hpp"
 
+#include "Runtime/MachO/File/Symbols.hpp"
 #include "Runtime/Values/Symbolise.hpp"
 
 #include <regex>
@@ -8,7 +9,7 @@ namespace sim {
 
 std::string crashText(const std::string &report) {
     static const std::regex address("([^+])0x[0-9a-f]+");
-    return std::regex_replace(symbolise(report), address, "$010x…");
+    return std::regex_replace(symbolise(macho::nameFrames(report)), address, "$010x…");
 }
 
 std::string troublesOf(const Ending &ending, const std::string &who) {
