@@ -123,8 +123,10 @@ def add_programs(path, build, processes, sysroot, report):
     shutil.copy2(build / "bin/pendix-sim", path / "bin")
     for name in ("platform", "page", "Lua"):
         (path / "stage" / name).symlink_to(build / "stage" / name)
-    for name in ("package.json", "settings.json"):
-        shutil.copy2(build / "stage" / name, path / "stage")
+    shutil.copy2(build / "stage/settings.json", path / "stage")
+    # Of somebody's extension too, the phone's library.
+    manifest = json.loads((build / "stage/package.json").read_text())
+    (path / "stage/package.json").write_text(json.dumps(manifest | {"extension_build": "build/phone"}))
     for name in PROCESSES:
         program = path / "bin" / name
         program.write_text(starter(processes / name, sysroot, report))

@@ -2,6 +2,8 @@
 #include "Tools/Live/LiveSession.hpp"
 #include "Tools/Live/Shot.hpp"
 #include "Tools/Monkey/Monkey.hpp"
+#include "Extension.hpp"
+#include "Supervisor/Boot/Extensions.hpp"
 #include "Supervisor/Profiles/Profiles.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Supervisor/Script/Script.hpp"
@@ -28,7 +30,9 @@ struct CommandLine {
     std::string finding;                          // a script that the monkey wrote
     std::string boot;                             // JSON
     std::map<std::string, std::string> bootTexts; // single options of boot
-    std::vector<std::string> settings, badges, calls;
+    std::vector<std::string> settings, badges, calls, extensions;
+    std::string extension; // to make or to build
+    bool phone = false;    // builds it for one, too
     bool debugger = false;
 };
 
@@ -36,7 +40,8 @@ sim::DeviceSetup setupOf(const CommandLine &commandLine) {
     sim::Installation installation = sim::findInstallation();
     return {.installation = installation,
             .package = sim::readPackage(installation.manifest),
-            .debugger = commandLine.debugger};
+            .debugger = commandLine.debugger,
+            .extensions = sim::absolutePaths(commandLine.extensions, std::filesystem::current_path())};
 }
 
 sim::Value bootTable(const CommandLine &commandLine) {
@@ -56,7 +61,17 @@ sim::Value bootTable(const CommandLine &commandLine) {
     return table;
 }
 
+void addExtensions(CLI::App &command, CommandLine &commandLine) {
+    command
+        .add_option("--extension", commandLine.extensions,
+                    "Another extension for every device: a library, or a folder that was built (repeatable)")
+        ->type_name("PATH")
+        ->expected(1)
+        ->take_all();
+}
+
 void addBootOptions(CLI::App &command, CommandLine &commandLine) {
+    addExtensions(command, commandLine);
     command.add_option("--device", commandLine.bootTexts["device"],
                        "\"iPhone 6\"; pendix-sim profiles lists all");
     command.add_option("--ios", commandLine.bootTexts["ios"], "System version: 8.1");
@@ -107,6 +122,7 @@ CLI::App *addRun(CLI::App &program, CommandLine &commandLine) {
         ->check(CLI::ExistingFile);
     run->add_option("--out", commandLine.script.pictures, "Folder for pictures")->capture_default_str();
     run->add_option("--seed", commandLine.script.seed, "Seed of math.random")->capture_default_str();
+    addExtensions(*run, commandLine);
     run->add_flag("--gdb", commandLine.debugger, "Start the simulated processes under gdb in this terminal");
     run->footer(
         "What follows -- on the command line is in the script's global `args`.\n"
@@ -175,6 +191,20 @@ CLI::App *addMonkey(CLI::App &program, CommandLine &commandLine) {
     return monkey;
 }
 
+CLI::App *addNew(CLI::App &program, CommandLine &commandLine) {
+    auto *made = program.add_subcommand("new", "Make an extension to begin with: a hook, a filter and a test");
+    made->add_option("NAME", commandLine.extension, "Its name, and that of its folder")->required();
+    return made;
+}
+
+CLI::App *addBuild(CLI::App &program, CommandLine &commandLine) {
+    auto *build = program.add_subcommand("build", "Build an extension for the simulated devices");
+    build->add_option("DIR", commandLine.extension, "The folder of its sources")->required();
+    build->add_flag("--phone", commandLine.phone, "And the package for a phone");
+    build->footer("docs/extensions.md teaches more.");
+    return build;
+}
+
 sim::Outcome run(CLI::App &program, int count, char **arguments) {
     CommandLine commandLine;
     // What follows "--" is the script's own.
@@ -193,9 +223,17 @@ sim::Outcome run(CLI::App &program, int count, char **arguments) {
         ->type_name("FILE.lua");
     auto *shot = addShot(program, commandLine);
     auto *monkey = addMonkey(program, commandLine);
+    auto *made = addNew(program, commandLine);
+    auto *build = addBuild(program, commandLine);
     program.add_subcommand("profiles", "List the devices and their system versions");
     program.parse(static_cast<int>(own - arguments), arguments);
 
+    if (made->parsed()) sim::becomeExtensionTool({"new", commandLine.extension});
+    if (build->parsed()) {
+        std::vector<std::string> arguments{"build", commandLine.extension};
+        if (commandLine.phone) arguments.push_back("--phone");
+        sim::becomeExtensionTool(arguments);
+    }
     if (run->parsed()) return runScript(commandLine);
     if (live->parsed() || record->parsed()) return runLive(commandLine);
     if (shot->parsed()) return runShot(commandLine);

@@ -31,6 +31,8 @@
 + (instancetype)dictionary;
 // nil when the file is missing or holds no dictionary.
 + (instancetype)dictionaryWithContentsOfFile:(NSString *)path;
+// What @{…} becomes.
++ (instancetype)dictionaryWithObjects:(const id[])objects forKeys:(const id[])keys count:(NSUInteger)count;
 - (NSUInteger)count;
 - (id)objectForKey:(id)key;
 - (NSArray *)allKeys;

@@ -10,6 +10,12 @@
 + (NSNumber *)numberWithInt:(int)value;
 + (NSNumber *)numberWithFloat:(float)value;
 + (NSNumber *)numberWithDouble:(double)value;
++ (NSNumber *)numberWithChar:(char)value;
++ (NSNumber *)numberWithUnsignedInt:(unsigned)value;
++ (NSNumber *)numberWithLong:(long)value;
++ (NSNumber *)numberWithUnsignedLong:(unsigned long)value;
++ (NSNumber *)numberWithLongLong:(long long)value;
++ (NSNumber *)numberWithUnsignedLongLong:(unsigned long long)value;
 - (BOOL)boolValue;
 - (int)intValue;
 - (float)floatValue;

@@ -22,6 +22,19 @@ void endWithObserver(NSString *format, va_list arguments) {
     if (auto *end = NSGetUncaughtExceptionHandler()) end(exception);
 }
 
+// "<Thing: 0x55d2c0ffee>" names another address in every process; a run's log is to be that of the next.
+std::string withoutAddresses(std::string text) {
+    constexpr std::string_view kAddress = ": 0x";
+    for (size_t at = 0; (at = text.find(kAddress, at)) != text.npos; ++at) {
+        const size_t open = text.rfind('<', at),
+                     last = text.find_first_not_of("0123456789abcdef", at + kAddress.size());
+        if (open == text.npos || text.find_first_of(" >", open) < at || last == at + kAddress.size())
+            continue;
+        text.erase(at, std::min(last, text.size()) - at);
+    }
+    return text;
+}
+
 } // namespace
 
 INTERPOSED void NSLogv(NSString *format, va_list arguments) {
@@ -31,7 +44,7 @@ INTERPOSED void NSLogv(NSString *format, va_list arguments) {
         if (format) text = [[[NSString alloc] initWithFormat:format arguments:arguments] autorelease];
         // The log ends the line itself.
         if ([text hasSuffix:@"\n"]) text = [text substringToIndex:[text length] - 1];
-        sim::recordEvent("log", sim::Object{{"text", [text UTF8String]}});
+        sim::recordEvent("log", sim::Object{{"text", withoutAddresses([text UTF8String])}});
     }
 }
 

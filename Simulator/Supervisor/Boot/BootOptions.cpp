@@ -156,6 +156,7 @@ BootOptions readBootOptions(const Value &table, std::string_view stockApplicatio
     options.passcode = options.passcode || options.passcodeLocked;
     reader("apex", options.otherExtension);
     reader("root", options.root);
+    reader("extensions", options.extensions);
     reader.finish();
     return options;
 }

@@ -37,7 +37,8 @@ Package readPackage(const fs::path &manifest) {
                 .statusBarItem = content["status_bar_item"].string(),
                 .activatorListener = content["activator_listener"].string(),
                 .settingsEntry = content["settings_entry"].string(),
-                .otherExtensionList = content["other_extension_list"].string()};
+                .otherExtensionList = content["other_extension_list"].string(),
+                .extensionBuild = content["extension_build"].string()};
     } catch (const ValueError &error) {
         throw std::runtime_error(manifest.string() + ": " + error.what());
     }

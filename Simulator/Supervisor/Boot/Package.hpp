@@ -27,6 +27,7 @@ struct Package {
     std::string activatorListener;  // name
     std::string settingsEntry;      // of its page: the entry's file, without the extension, or its bundle
     std::string otherExtensionList; // the file by which the other extension is known; path on the device
+    std::string extensionBuild; // where the build of somebody's extension lies in the folder of its sources
 };
 
 // Throws std::runtime_error naming the file and what is wrong with it.

@@ -5,6 +5,7 @@
 #include "Interrupt.hpp"
 #include "Runtime/Values/Nanoseconds.hpp"
 #include "SettingsProcess.hpp"
+#include "Supervisor/Boot/Extensions.hpp"
 #include "Supervisor/Boot/StaticClasses.hpp"
 
 #include <algorithm>
@@ -45,9 +46,29 @@ void SimulatedDevice::prepareFiles() {
     }
     for (const auto &path : root_.install(setup_.installation.stageRoot, options_.missingFiles))
         warn("no installed file '" + path + "' to leave out");
+    installExtensions();
     if (options_.settings) settings_.write(*options_.settings);
     if (options_.settingsText) settings_.writeText(*options_.settingsText);
     if (options_.otherExtension) std::ofstream(root_.at(setup_.package.otherExtensionList)) << "/.\n";
+}
+
+// With others the processes load what is installed, so the package's own library must not be there when it is
+// not wanted.
+void SimulatedDevice::installExtensions() {
+    namespace fs = std::filesystem;
+    std::vector<std::string> all = setup_.extensions;
+    all.insert(all.end(), options_.extensions.begin(), options_.extensions.end());
+    if (all.empty()) return;
+    const fs::path own = root_.at(setup_.package.library), folder = own.parent_path();
+    if (!options_.extension) {
+        fs::remove(own);
+        fs::remove(fs::path(own).replace_extension(".plist"));
+    }
+    for (const auto &path : all)
+        for (const auto &[library, filter] : extensionFiles(path, setup_.package.extensionBuild))
+            for (const auto &file : {library, filter})
+                fs::copy_file(file, folder / file.filename(), fs::copy_options::overwrite_existing);
+    options_.extension = true;
 }
 
 ChildProcess::Setup SimulatedDevice::processSetup(const char *program) const {

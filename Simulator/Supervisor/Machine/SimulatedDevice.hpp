@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace sim {
 
@@ -16,6 +17,7 @@ struct DeviceSetup {
     Installation installation;
     Package package;
     bool debugger = false;
+    std::vector<std::string> extensions; // absolute paths, for every device; see BootOptions
 };
 
 class SettingsProcess;
@@ -55,6 +57,7 @@ public:
 
 private:
     void prepareFiles();
+    void installExtensions();
     void boot();
     void note(Value event);
     void recordCrash(const Ending &ending);

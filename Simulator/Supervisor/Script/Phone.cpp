@@ -1,6 +1,7 @@
 #include "Phone.hpp"
 
 #include "Conversion.hpp"
+#include "Supervisor/Boot/Extensions.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 
 #include <algorithm>
@@ -99,7 +100,9 @@ BootOptions readOptions(lua_State *lua, const Script &script, const char *functi
     try {
         Value table = toValue(lua, 1);
         std::string stock = readFile(script.setup().installation.platform / "applications.json");
-        return readBootOptions(table, stock);
+        BootOptions options = readBootOptions(table, stock);
+        options.extensions = absolutePaths(options.extensions, script.options().file.parent_path());
+        return options;
     } catch (const BootError &) {
         throw;
     } catch (const std::runtime_error &error) {
