@@ -105,7 +105,7 @@ def mutated(made, folder):
     """Broken copies of a library of which none runs, by the loader itself: refused or loaded, and never a crash."""
     built(folder, "NOTHING_RUNS")
     _, _, programs, sysroot = made.facts["made of"]
-    command = body.emulated(pathlib.Path(programs) / "loader_trial", sysroot)
+    command = body.emulated(pathlib.Path(programs) / body.TRIAL, sysroot)
     done = subprocess.run([*command, folder / "Sample.dylib", folder, str(MUTATED)], capture_output=True, text=True, check=False)
     return "" if done.returncode == 0 and f"of {MUTATED}\n" in done.stdout else done.stdout + done.stderr
 

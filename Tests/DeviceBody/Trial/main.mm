@@ -1,6 +1,6 @@
-// loader_trial FILE FOLDER COUNT: lets the loader take so many broken copies of a device's library, each in a process
-// of its own. Each must be refused with a reason or be loaded; prints how many were, and every one that was neither.
-// FOLDER takes the copies.
+// loader_trial FILE FOLDER COUNT: lets the loader take so many broken copies of a device's library, each in a
+// process of its own. Each must be refused with a reason or be loaded; prints how many were, and every one
+// that was neither. FOLDER takes the copies.
 #import <Foundation/Foundation.h>
 
 #include "MutatedFiles.hpp"
@@ -53,7 +53,8 @@ int main(int, char **arguments) {
         for (unsigned number = 0; number < count; ++number) {
             auto bytes = mutated(whole, number);
             std::ofstream(path, std::ios::binary)
-                .write(reinterpret_cast<const char *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+                .write(reinterpret_cast<const char *>(bytes.data()),
+                       static_cast<std::streamsize>(bytes.size()));
             int status = statusOf(path);
             loaded += WIFEXITED(status) && WEXITSTATUS(status) == kLoaded;
             refused += WIFEXITED(status) && WEXITSTATUS(status) == kRefused;

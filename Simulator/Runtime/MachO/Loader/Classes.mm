@@ -84,7 +84,8 @@ private:
         addMethods(object_getClass(made), record.methods.ofClass, false);
         addProtocols(made, record.protocols);
         objc_registerClassPair(made);
-        // The compiler takes NSObject's size for granted: such a class's code may hold its offsets as numbers.
+        // The compiler takes NSObject's size for granted: such a class's code may hold its offsets as
+        // numbers.
         bool isFixed = record.superclass.name == "NSObject" || fixed_.contains(above);
         for (const auto &variable : record.variables) {
             ptrdiff_t offset = ivar_getOffset(class_getInstanceVariable(made, variable.name.c_str()));
