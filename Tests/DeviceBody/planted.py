@@ -139,7 +139,7 @@ FAULTS = [
     ("a product in cellFrame", instruction("pendix::cellFrame", "product"), [EVENTS]),
     ("another sum in badgeFrame", instruction("pendix::badgeFrame", "sum", 2), [EVENTS, "golden.iPhone_6.badge"]),
     ("a sum in badgeFrame", instruction("pendix::badgeFrame", "sum"), [EVENTS, "golden.iPhone_6.badge", "scenario.panel_badges"]),
-    ("a product in dotsFrame", instruction("pendix::dotsFrame", "product"), [EVENTS, "golden.iPhone_6.paged"]),
+    ("a product in dotsFrame", instruction("pendix::dotsFrame", "product"), ["scenario.panel_pages"]),
     ("a choice in nextPulseStep", instruction("pendix::nextPulseStep", "choice"), [EVENTS, "scenario.pulse_starts_and_ends"]),
     ("a constant in the turning of hands", instruction("pendix::(anonymous namespace)::turn(", "constant"), ["scenario.panel_clock"]),
     ("a branch in isOn", instruction("pendix::isOn", "branch"), ["scenario.indicator_follows_settings"]),
