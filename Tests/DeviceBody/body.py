@@ -17,6 +17,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 PROCESSES = ("pendix-home", "pendix-settings")
+TRIAL = "loader_trial"
 LIBRARY = "Library/MobileSubstrate/DynamicLibraries/Pendix.dylib"
 BUNDLE = "Library/PreferenceBundles/PendixSettings.bundle/PendixSettings"
 EMULATOR = "qemu-aarch64-static"
@@ -31,8 +32,8 @@ def is_native():
     return platform.machine() == "aarch64"
 
 
-def checksum(path):
-    return hashlib.sha256(pathlib.Path(path).read_bytes()).hexdigest()
+def checksum(*paths):
+    return hashlib.sha256(b"".join(pathlib.Path(path).read_bytes() for path in paths)).hexdigest()
 
 
 def arm64_slice(path):

@@ -105,7 +105,7 @@ def mutated(made, folder):
     """Broken copies of a library of which none runs, by the loader itself: refused or loaded, and never a crash."""
     built(folder, "NOTHING_RUNS")
     _, _, programs, sysroot = made.facts["made of"]
-    command = body.emulated(pathlib.Path(programs) / "loader_trial", sysroot)
+    command = body.emulated(pathlib.Path(programs) / body.TRIAL, sysroot)
     done = subprocess.run([*command, folder / "Sample.dylib", folder, str(MUTATED)], capture_output=True, text=True, check=False)
     return "" if done.returncode == 0 and f"of {MUTATED}\n" in done.stdout else done.stdout + done.stderr
 
@@ -172,13 +172,16 @@ def no_libraries(folder):
 
 
 def changed_archives(folder):
-    """An archive that is not what it was when it was fetched is not unpacked."""
+    """An archive that is not what it was when it was fetched is not unpacked, nor is one that is broken left out."""
     environment = machine_without(folder, apt_get="exit 0\n")
     archives = folder / "cache/pendix/aarch64/apt/archives"
     archives.mkdir(parents=True)
     (archives / "libc6.deb").write_text("another")
-    (archives.parent.parent / "archives.sha256").write_text(f"{'0' * 64}  ./libc6.deb\n")
-    return unprepared(environment, "are not what they were:", "./libc6.deb", "Remove them and call scripts/device-sysroot again")
+    known = archives.parent.parent / "archives.sha256"
+    known.write_text(f"{'0' * 64}  ./libc6.deb\n")
+    changed = unprepared(environment, "are not what they were:", "./libc6.deb", "Remove them and call scripts/device-sysroot again")
+    known.unlink()
+    return changed or unprepared(environment, "libc6.deb cannot be unpacked: remove it and call scripts/device-sysroot again")
 
 
 def changed_stage(made, folder):
