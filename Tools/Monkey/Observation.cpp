@@ -24,7 +24,13 @@ SeenView readView(const Array &fields) {
             .text = textOr(fields[15]),
             .image = textOr(fields[16]),
             .recognizers = fields[17].integer(),
-            .moving = fields[18].boolean()};
+            .moving = fields[18].boolean(),
+            .alpha = fields[19].number(),
+            .background = textOr(fields[20]),
+            .radius = fields[21].number(),
+            .border = fields[22].number(),
+            .ink = textOr(fields[23]),
+            .font = fields[24].number()};
 }
 
 SeenWindow readWindow(const Value &answer) {

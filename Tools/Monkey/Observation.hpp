@@ -28,6 +28,12 @@ struct SeenView {
     std::string name, text, image;
     int64_t recognizers = 0;
     bool moving = false; // an animation of its own is under way
+    // How it is drawn at this moment. Colours are "#rrggbbaa", empty for none.
+    double alpha = 1;
+    std::string background;
+    double radius = 0, border = 0;
+    std::string ink; // of its text, else its tint
+    double font = 0; // points; 0 for what shows no text
 };
 
 struct SeenWindow {

@@ -13,7 +13,9 @@ void Watcher::meetHomeScreen() {
     SimulatedDevice &device = phone_.device();
     generation_ = device.generation();
     last_.reset();
+    const bool upright = memory_.scene.upright;
     memory_ = {};
+    memory_.scene.upright = upright;
     Value missing = device.ask("watch", watchArguments());
     if (!missing.array().empty())
         throw std::runtime_error("the extension has no variable '" + missing.array()[0].string() + "'");
@@ -57,6 +59,7 @@ std::vector<std::string> Watcher::look(const std::string &call) {
                   .settings = settings_,
                   .settingsChanged = changed,
                   .pane = pane || pane_,
+                  .device = device.options(),
                   .from = time_,
                   .to = device.now()};
     followPanel(moment, memory_);

@@ -18,4 +18,8 @@ Value snapshot(const std::vector<UIView *> &views);
 // image's name.
 Value imageOf(UIView *view);
 
+// How the view is drawn at this moment: [alpha, background or null, corner radius, border's width, the colour
+// of its text or its tint, the size of its font or 0].
+Array lookOf(UIView *view);
+
 } // namespace sim

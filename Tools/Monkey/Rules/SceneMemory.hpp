@@ -22,7 +22,7 @@ struct BadgeMemory {
 struct SceneMemory {
     BadgeMemory badges;
     std::set<int> fingers; // that stay down
-    bool upright = true;   // the device is held so, and has been since the home screen started
+    bool upright = true;   // the device is held so; a restart changes nothing in that
     bool mixed = false;    // settings changed while this panel was open, so that it is of two kinds
     std::vector<Area> places;
     int64_t steadySince = 0; // since when the panel's items have been at `places`, at every look; nanoseconds
