@@ -5,6 +5,7 @@
 #include "Tools/Monkey/Observation.hpp"
 #include "Memory.hpp"
 #include "Supervisor/Boot/BootOptions.hpp"
+#include "PaneSight.hpp"
 #include "Scene.hpp"
 
 #include <span>
@@ -22,6 +23,7 @@ struct Moment {
     bool settingsChanged;                   // it was written, or removed, meanwhile
     bool pane;                              // the Settings application was open at some time
     const BootOptions &device;
+    const std::optional<PaneSight> &paneBefore, &paneNow; // the Settings application
     int64_t from, to;                       // virtual time in nanoseconds
 
     // How many lines with this text came to the log.
@@ -67,5 +69,7 @@ void checkLayout(const Moment &moment, Memory &memory, Findings &findings);
 void checkConsequences(const Moment &moment, Memory &memory, Findings &findings);
 void checkFaces(const Moment &moment, Memory &memory, Findings &findings);
 void checkLooks(const Moment &moment, Memory &memory, Findings &findings);
+void checkPane(const Moment &moment, Memory &memory, Findings &findings);
+void checkPaneLooks(const Moment &moment, Memory &memory, Findings &findings);
 
 } // namespace sim
