@@ -81,6 +81,9 @@ void followPlace(const Moment &moment, SceneMemory &memory) {
 } // namespace
 
 void followScene(const Moment &moment, SceneMemory &memory) {
+    if (moment.restarted()) memory.asBooted = true;
+    else if (moment.settingsChanged) memory.asBooted = false;
+    if (moment.settingsChanged) memory.settingsAt = moment.to;
     followBadges(moment, memory.badges);
     followFingers(moment, memory.fingers);
     followPlace(moment, memory);

@@ -45,10 +45,23 @@ struct Judge {
         part(screen, "the screen's backdrop").seenAt(on("blur") ? 1 : 0);
         const char *const dim = on("back") ? "#00000003" : colours.light ? "#000000b3" : "#ffffffb3";
         part(0, "what dims the screen").on(dim);
-        if (!moment.now.itemPlace || !moment.now.itemVisible) return;
-        const Area &item = *moment.now.itemPlace;
+        if (moment.now.itemPlace && moment.now.itemVisible) place(panel, logo, bubble, *moment.now.itemPlace);
+    }
+
+    // By the indicator, unless the settings say where.
+    void place(size_t panel, size_t logo, size_t bubble, const Area &item) const {
         part(logo, "the logo").at(item.x, item.y, item.w, item.h);
         part(bubble, "the bubble").at(item.x - item.w / 2, item.y + 5, 2 * item.w, 2 * item.h + 10);
+        const Area &stands = view(panel).frame;
+        const double wide = moment.now.screenWidth, high = moment.now.screenHeight;
+        const std::string position =
+            on("rech") && moment.settings["position"].isString() ? moment.settings["position"].string() : "";
+        if (position == "middle") return void(part(panel, "the panel").at(kAny, (high - stands.h) / 2, kAny, kAny));
+        if (position == "bottom") return void(part(panel, "the panel").at(kAny, high - stands.h - wide / 10, kAny, kAny));
+        if (item.y != 0) return; // let down
+        part(panel, "the panel").at(kAny, item.h + 10, kAny, kAny);
+        const bool sticksOut = item.x + 1.5 * item.w >= stands.x + stands.w - 3;
+        part(bubble, "the bubble").seenAt(sticksOut ? 0 : 1);
     }
 
     void hand(size_t icon, int64_t tag, const char *name, double width, double length, const char *colour) const {
@@ -60,6 +73,9 @@ struct Judge {
 
     void badge(size_t at, const Area &icon) const {
         if (!view(at).seen) return;
+        bool number = false;
+        for (size_t inner : window.childrenOf(at)) number = number || view(inner).picture || (view(inner).seen && !view(inner).text.empty());
+        if (!number) missing("the number on a badge");
         const double w = view(at).frame.w;
         part(at, "a badge").at(icon.x + icon.w - w / 2 - 4, icon.y - kBadge / 2 + 4, w, kBadge).round(kBadge / 2);
         const bool round = view(at).name.size() == 1;
@@ -84,6 +100,9 @@ struct Judge {
         const Area &cell = view(at).frame;
         const double height = cards ? cell.w * moment.now.screenHeight / moment.now.screenWidth : cell.w;
         const Part drawn = part(icon, "the icon of " + identifier);
+        const double room = on("paging") ? stripHeight() - moment.now.iconHeight - 20
+                                         : (stripHeight() - moment.now.iconHeight - 10) / 2 + 5;
+        part(at, identifier).at(kAny, cards ? 0 : room, kAny, height - cell.w + moment.now.iconHeight + 5);
         drawn.at(0, 0, cell.w, height);
         if (cards) drawn.round(4).on(colours.light ? "#33333380" : "#cccccc80");
         for (size_t label : window.childrenOf(at))
@@ -99,6 +118,8 @@ struct Judge {
         }
     }
 
+    double stripHeight() const { return moment.now.iconHeight + 36 + (on("paging") ? 10 : 0); }
+
     void cardIcon(size_t item, double width, double height) const {
         size_t at = window.child(item, kCardIcon);
         if (at == SeenWindow::npos) return missing("the small icon of a card");
@@ -108,17 +129,27 @@ struct Judge {
     void strip(size_t at, const Area &panel) const {
         const double height = scene.question ? panel.h - 110 : panel.h;
         part(at, "the strip").at(0, scene.question ? 65 : 0, panel.w, height).seenAt(1);
+        double right = 0, first = 0;
         for (size_t child : window.childrenOf(at)) {
+            const Area &frame = view(child).frame;
+            if (!view(child).name.empty() && right == 0) first = frame.x;
+            if (!view(child).name.empty()) right = frame.x + frame.w;
             if (!view(child).name.empty()) item(child, scene.marks());
             if (view(child).type != "UILabel") continue;
             const char *const key = on("badge") ? "no_running_apps" : "no_badge";
             part(child, "what an empty panel says").in(colours.ink).sized(16).says(wording(moment.device.language, key))
                 .at(0, 0, panel.w, kAny);
         }
+        const double content = on("paging") ? static_cast<double>(scene.dots) * panel.w : right + first;
+        const double reach = content > panel.w ? content : panel.w + 1;
+        if (std::abs(view(at).contentWidth - reach) > 1.1 && !scene.items.empty())
+            findings.push_back("the strip reaches to " + std::to_string(view(at).contentWidth) + ", and " +
+                               std::to_string(reach) + " is right");
     }
 
     void dots(size_t at, double width) const {
         const auto dots = window.childrenOf(at);
+        if (dots.empty()) return; // the last application has gone
         const auto count = static_cast<double>(dots.size());
         const double step = count < 2 ? 16 : std::min(16.0, (width - 20) / (count - 1)), side = std::min(6.0, step * 0.75);
         const double row = (count - 1) * step + 20;
@@ -181,6 +212,7 @@ void checkLooks(const Moment &moment, Memory &memory, Findings &findings) {
                       findings};
     if (window.views[panel].frame.w <= 1) return;
     judge.surroundings(panel);
+    if (window.touchable != 9) findings.push_back("touches beside the panel do not come to it");
     if (!scene->face) judge.content(window.child(panel, names::content), window.views[panel].frame);
 }
 

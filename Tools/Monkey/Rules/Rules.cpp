@@ -23,7 +23,7 @@ std::span<const Rule> rules() {
         {"quiet", checkQuiet},           {"hooks", checkHooks},         {"geometry", checkGeometry},
         {"settings", checkSettingsFile}, {"contents", checkContents}, {"layout", checkLayout},
         {"acts", checkConsequences},     {"faces", checkFaces},         {"looks", checkLooks},
-        {"pages", checkPane},           {"page looks", checkPaneLooks},
+        {"face acts", checkFaceActs}, {"marks", checkMarks}, {"pages", checkPane},           {"page looks", checkPaneLooks},
     };
     return table;
 }

@@ -69,6 +69,8 @@ void checkLayout(const Moment &moment, Memory &memory, Findings &findings);
 void checkConsequences(const Moment &moment, Memory &memory, Findings &findings);
 void checkFaces(const Moment &moment, Memory &memory, Findings &findings);
 void checkLooks(const Moment &moment, Memory &memory, Findings &findings);
+void checkFaceActs(const Moment &moment, Memory &memory, Findings &findings);
+void checkMarks(const Moment &moment, Memory &memory, Findings &findings);
 void checkPane(const Moment &moment, Memory &memory, Findings &findings);
 void checkPaneLooks(const Moment &moment, Memory &memory, Findings &findings);
 
