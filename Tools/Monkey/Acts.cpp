@@ -8,7 +8,7 @@ const std::vector<Act> &allActs() {
     static const std::vector<Act> acts = [] {
         std::vector<Act> result;
         for (auto family : {timeActs(), touchActs(), fingerActs(), homeScreenActs(), lockActs(), unlockActs(),
-                            settingsActs(), paneActs(), examActs()})
+                            settingsActs(), paneActs(), paneTourActs(), examActs()})
             result.insert(result.end(), family.begin(), family.end());
         return result;
     }();

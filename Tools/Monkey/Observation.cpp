@@ -24,7 +24,16 @@ SeenView readView(const Array &fields) {
             .text = textOr(fields[15]),
             .image = textOr(fields[16]),
             .recognizers = fields[17].integer(),
-            .moving = fields[18].boolean()};
+            .moving = fields[18].boolean(),
+            .alpha = fields[19].number(),
+            .background = textOr(fields[20]),
+            .radius = fields[21].number(),
+            .border = fields[22].number(),
+            .ink = textOr(fields[23]),
+            .font = fields[24].number(),
+            .picture = fields[25].boolean(),
+            .scrolled = fields[26].number(),
+            .contentWidth = fields[27].number()};
 }
 
 SeenWindow readWindow(const Value &answer) {
@@ -93,7 +102,11 @@ Observation readObservation(const Value &answer) {
                         row[4].integer()};
     });
     seen.badges = list(answer["badges"], [](const Array &row) {
-        return SeenBadge{row[0].string(), row[1].integer(), row[2].boolean()};
+        SeenBadge badge{row[0].string(), row[1].integer(), row[2].boolean(), {}};
+        for (const Value &part : row[3].array())
+            badge.parts.push_back({part.array()[0].string(), part.array()[1].integer(), part.array()[2].number(),
+                                   textOr(part.array()[3])});
+        return badge;
     });
     seen.applications = list(answer["applications"], [](const Array &row) {
         return SeenApplication{row[0].string(), row[1].string(), row[2].boolean(), row[3].boolean()};
@@ -103,9 +116,11 @@ Observation readObservation(const Value &answer) {
     seen.iconWidth = answer["icon"].array()[0].number();
     seen.iconHeight = answer["icon"].array()[1].number();
     seen.screenLocked = answer["screen_locked"].boolean();
-    if (const Value &place = answer["item_place"]; !place.isNull())
-        seen.itemPlace = Area{place.array()[0].number(), place.array()[1].number(), place.array()[2].number(),
-                              place.array()[3].number()};
+    if (const Value &item = answer["item_place"]; !item.isNull()) {
+        const Array &fields = item.array();
+        seen.itemPlace = area(fields, 0);
+        seen.itemGlow = {fields[4].number(), fields[5].number(), fields[6].number(), textOr(fields[7])};
+    }
     seen.extension = readState(answer["variables"]);
     seen.itemPresent = answer["item"]["present"].boolean();
     seen.itemVisible = answer["item"]["visible"].boolean();

@@ -28,6 +28,14 @@ struct SeenView {
     std::string name, text, image;
     int64_t recognizers = 0;
     bool moving = false; // an animation of its own is under way
+    // How it is drawn at this moment. Colours are "#rrggbbaa", empty for none.
+    double alpha = 1;
+    std::string background;
+    double radius = 0, border = 0;
+    std::string ink; // of its text, else its tint
+    double font = 0; // points; 0 for what shows no text
+    bool picture = false;
+    double scrolled = 0, contentWidth = 0; // of what scrolls
 };
 
 struct SeenWindow {
@@ -56,11 +64,28 @@ struct SeenHook {
     int64_t state = 0, entered = 0, previous = 0;
 };
 
+// A view on an icon of the home screen.
+struct SeenMark {
+    std::string type;
+    int64_t tag = 0;
+    double alpha = 0; // 0 for what is hidden
+    std::string tint;
+};
+
 struct SeenBadge {
     std::string application;
     int64_t value = 0;
     bool inFolder = false;
-    bool operator==(const SeenBadge &) const = default;
+    std::vector<SeenMark> parts; // of its icon
+    bool operator==(const SeenBadge &other) const {
+        return application == other.application && value == other.value && inFolder == other.inFolder;
+    }
+};
+
+// The indicator's own drawing.
+struct SeenGlow {
+    double alpha = 1, opacity = 0, radius = 0;
+    std::string colour;
 };
 
 struct SeenApplication {
@@ -88,6 +113,7 @@ struct Observation {
     bool itemPresent = false, itemVisible = false;
     std::string itemImage;
     std::optional<Area> itemPlace; // of the indicator's view, upright; nothing without one
+    SeenGlow itemGlow;
     bool screenLocked = false;     // the lock screen is up
     double iconWidth = 0, iconHeight = 0; // of the home screen's icons
     bool display = true, passcodeLocked = false;

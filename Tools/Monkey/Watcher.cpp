@@ -13,7 +13,11 @@ void Watcher::meetHomeScreen() {
     SimulatedDevice &device = phone_.device();
     generation_ = device.generation();
     last_.reset();
-    memory_ = {};
+    // What a restart of the home screen does not change.
+    Memory kept;
+    kept.scene.upright = memory_.scene.upright;
+    kept.pane = std::move(memory_.pane);
+    memory_ = std::move(kept);
     Value missing = device.ask("watch", watchArguments());
     if (!missing.array().empty())
         throw std::runtime_error("the extension has no variable '" + missing.array()[0].string() + "'");
@@ -48,6 +52,7 @@ std::vector<std::string> Watcher::look(const std::string &call) {
     Value settingsBefore = settings_;
     bool changed = settingsChanged();
     bool pane = phone_.settings() != nullptr;
+    std::optional<PaneSight> paneNow = lookAtPane(phone_.settings());
     Moment moment{.before = last_ ? &*last_ : nullptr,
                   .now = seen,
                   .call = call,
@@ -57,6 +62,9 @@ std::vector<std::string> Watcher::look(const std::string &call) {
                   .settings = settings_,
                   .settingsChanged = changed,
                   .pane = pane || pane_,
+                  .device = device.options(),
+                  .paneBefore = lastPane_,
+                  .paneNow = paneNow,
                   .from = time_,
                   .to = device.now()};
     followPanel(moment, memory_);
@@ -71,6 +79,7 @@ std::vector<std::string> Watcher::look(const std::string &call) {
     events_ = device.events().size();
     time_ = moment.to;
     pane_ = pane;
+    lastPane_ = std::move(paneNow);
     last_ = std::move(seen);
     return findings;
 }

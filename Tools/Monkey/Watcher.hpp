@@ -35,6 +35,7 @@ private:
     std::string settingsState_;
     Value settings_;
     bool pane_ = false;
+    std::optional<PaneSight> lastPane_;
 };
 
 } // namespace sim

@@ -66,7 +66,6 @@ void followFingers(const Moment &moment, std::set<int> &fingers) {
 
 void followPlace(const Moment &moment, SceneMemory &memory) {
     int orientation = 1;
-    if (moment.restarted()) memory.upright = true;
     if (std::sscanf(moment.call.c_str(), "phone:rotate(%d)", &orientation) == 1) memory.upright = orientation == 1;
     std::vector<Area> places;
     std::optional<Scene> scene = sceneOf(moment.now);
@@ -82,9 +81,21 @@ void followPlace(const Moment &moment, SceneMemory &memory) {
 } // namespace
 
 void followScene(const Moment &moment, SceneMemory &memory) {
+    if (moment.restarted()) memory.asBooted = true;
+    else if (moment.settingsChanged) memory.asBooted = false;
+    if (moment.settingsChanged) memory.settingsAt = moment.to;
     followBadges(moment, memory.badges);
     followFingers(moment, memory.fingers);
     followPlace(moment, memory);
+}
+
+std::optional<Scene> sceneAtRest(const Moment &moment, const SceneMemory &memory) {
+    constexpr int64_t kRested = 300'000'000;
+    std::optional<Scene> scene = sceneOf(moment.now);
+    const bool still = scene && !scene->moving && moment.to - memory.steadySince >= kRested;
+    if (!still || memory.mixed || !memory.upright || !memory.fingers.empty() || !moment.now.display)
+        return std::nullopt;
+    return scene;
 }
 
 } // namespace sim

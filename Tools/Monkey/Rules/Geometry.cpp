@@ -61,7 +61,8 @@ void checkItems(const SeenWindow &window, size_t strip, Findings &findings) {
 // that has gone leaves it where it was.
 bool isInPlace(const Moment &moment, Memory &memory, const SeenWindow &window) {
     constexpr int64_t kFollowed = 300'000'000;
-    if (!memory.shown || isMoving(window)) {
+    // A finger that holds a scroll view keeps the follower's timer from firing.
+    if (!memory.shown || isMoving(window) || !memory.scene.fingers.empty()) {
         memory.restingSince.reset();
     } else if (!memory.restingSince) {
         memory.restingSince = moment.to;

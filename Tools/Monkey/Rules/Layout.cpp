@@ -77,11 +77,8 @@ void checkPanel(const Moment &moment, const Scene &scene, Findings &findings) {
 } // namespace
 
 void checkLayout(const Moment &moment, Memory &memory, Findings &findings) {
-    constexpr int64_t kRested = 300'000'000;
-    const SceneMemory &seen = memory.scene;
-    std::optional<Scene> scene = sceneOf(moment.now);
-    if (!scene || scene->face || scene->moving || seen.mixed || !seen.upright || !seen.fingers.empty()) return;
-    if (moment.to - seen.steadySince < kRested || !moment.now.display) return;
+    std::optional<Scene> scene = sceneAtRest(moment, memory.scene);
+    if (!scene || scene->face) return;
     checkPanel(moment, *scene, findings);
     checkItems(*scene, gridOf(moment, scene->panel.w), findings);
 }

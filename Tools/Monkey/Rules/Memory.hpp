@@ -27,6 +27,14 @@ struct TimerMemory {
     std::optional<int64_t> unwantedSince;  // since when nothing needs them
 };
 
+// The Settings application.
+struct PaneMemory {
+    bool mixed = false;               // somebody else changed the settings while it was open
+    std::optional<std::string> typed; // into the sheet that is there, as far as it is known
+    std::optional<std::string> newCode;
+    std::optional<std::string> colours; // the key of the setting whose colours are shown
+};
+
 struct Memory {
     SceneMemory scene, sceneBefore; // now, and as of the event before
 
@@ -53,6 +61,8 @@ struct Memory {
     std::optional<int64_t> crowdedSince; // since when there are many windows of one kind, at every look
 
     int64_t settingsWrites = 0;
+
+    PaneMemory pane;
 };
 
 } // namespace sim

@@ -22,7 +22,8 @@ std::span<const Rule> rules() {
         {"lists", checkLists},           {"indicator", checkIndicator}, {"timers", checkTimers},
         {"quiet", checkQuiet},           {"hooks", checkHooks},         {"geometry", checkGeometry},
         {"settings", checkSettingsFile}, {"contents", checkContents}, {"layout", checkLayout},
-        {"acts", checkConsequences},
+        {"acts", checkConsequences},     {"faces", checkFaces},         {"looks", checkLooks},
+        {"face acts", checkFaceActs}, {"marks", checkMarks}, {"pages", checkPane},           {"page looks", checkPaneLooks},
     };
     return table;
 }

@@ -4,6 +4,9 @@
 
 #include "Tools/Monkey/Observation.hpp"
 #include "Memory.hpp"
+#include "Supervisor/Boot/BootOptions.hpp"
+#include "PaneSight.hpp"
+#include "Scene.hpp"
 
 #include <span>
 
@@ -19,6 +22,8 @@ struct Moment {
     const Value &settingsBefore, &settings; // the settings file: an object, null when it is none
     bool settingsChanged;                   // it was written, or removed, meanwhile
     bool pane;                              // the Settings application was open at some time
+    const BootOptions &device;
+    const std::optional<PaneSight> &paneBefore, &paneNow; // the Settings application
     int64_t from, to;                       // virtual time in nanoseconds
 
     // How many lines with this text came to the log.
@@ -45,6 +50,10 @@ void followPanel(const Moment &moment, Memory &memory);
 // Keeps what `memory` knows of badges, fingers and the panel's place up to date.
 void followScene(const Moment &moment, SceneMemory &memory);
 
+// The panel when it has stood still for a while under nobody's finger, upright on a screen that is on, and as the settings
+// of now had it built; nothing otherwise.
+std::optional<Scene> sceneAtRest(const Moment &moment, const SceneMemory &memory);
+
 void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);
 void checkClosed(const Moment &moment, Memory &memory, Findings &findings);
 void checkLocked(const Moment &moment, Memory &memory, Findings &findings);
@@ -58,5 +67,11 @@ void checkSettingsFile(const Moment &moment, Memory &memory, Findings &findings)
 void checkContents(const Moment &moment, Memory &memory, Findings &findings);
 void checkLayout(const Moment &moment, Memory &memory, Findings &findings);
 void checkConsequences(const Moment &moment, Memory &memory, Findings &findings);
+void checkFaces(const Moment &moment, Memory &memory, Findings &findings);
+void checkLooks(const Moment &moment, Memory &memory, Findings &findings);
+void checkFaceActs(const Moment &moment, Memory &memory, Findings &findings);
+void checkMarks(const Moment &moment, Memory &memory, Findings &findings);
+void checkPane(const Moment &moment, Memory &memory, Findings &findings);
+void checkPaneLooks(const Moment &moment, Memory &memory, Findings &findings);
 
 } // namespace sim

@@ -22,8 +22,10 @@ struct BadgeMemory {
 struct SceneMemory {
     BadgeMemory badges;
     std::set<int> fingers; // that stay down
-    bool upright = true;   // the device is held so, and has been since the home screen started
+    bool upright = true;   // the device is held so; a restart changes nothing in that
     bool mixed = false;    // settings changed while this panel was open, so that it is of two kinds
+    bool asBooted = true;       // nobody changed the settings since the home screen started
+    int64_t settingsAt = 0;     // when they changed last, at a look
     std::vector<Area> places;
     int64_t steadySince = 0; // since when the panel's items have been at `places`, at every look; nanoseconds
 };

@@ -1,6 +1,7 @@
 #include "Process/Shared/Requests.h"
 #include "Process/Shared/Screen.h"
 #include "Process/Shared/ViewSearch.h"
+#include "Process/Shared/ViewSnapshot.h"
 #include "Runtime/Files/FoundationFiles.hpp"
 #include "Runtime/Objc/HookCounts.hpp"
 #include "Runtime/Time/Timers.hpp"
@@ -8,6 +9,7 @@
 #include "SpringBoard/Icons/Icons.h"
 #include "SpringBoard/Lock/LockState.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/Views/ViewState.h"
 #include "Variables.h"
 #include "WindowReport.h"
 
@@ -30,13 +32,25 @@ Value hooks() {
     return result;
 }
 
-// [identifier, count, whether a folder holds the icon]
+// What stands on an icon: [[class, tag, alpha, tint]]; alpha is 0 for what is hidden.
+Value partsOf(UIView *iconView) {
+    Array parts;
+    for (UIView *part in [iconView subviews]) {
+        const Array look = lookOf(part);
+        parts.push_back(Array{object_getClassName(part), static_cast<int64_t>([part tag]),
+                              [part isHidden] ? Value(0.0) : look[0], look[4]});
+    }
+    return parts;
+}
+
+// [identifier, count, whether a folder holds the icon, what stands on it]
 Value badges() {
     Array result;
     for (SBApplication *application : installedApplications()) {
         SBIcon *icon = findIcon(identifierOf(application));
         if (int64_t value = [icon badgeValue])
-            result.push_back(Array{record(application).identifier, value, state(icon).container != nil});
+            result.push_back(Array{record(application).identifier, value, state(icon).container != nil,
+                                   partsOf(visibleIconView(application))});
     }
     return result;
 }
@@ -57,12 +71,14 @@ Value switcher() {
     return Array(identifiers.begin(), identifiers.end());
 }
 
-// As it is seen at this moment, upright; null where the bar has no view for it.
+// As it is seen at this moment, upright, its alpha, and its shadow's opacity, radius and colour; null where the bar has no view for it.
 Value itemPlace(const std::string &identifier) {
     UIView *view = statusBarItemView(identifier);
     if (!view) return {};
     const CGRect frame = presentedOnScreen(view);
-    return Array{frame.origin.x, frame.origin.y, frame.size.width, frame.size.height};
+    const LayerProperties &model = state([view layer]).model;
+    return Array{frame.origin.x, frame.origin.y,    frame.size.width, frame.size.height,
+                 model.opacity,  model.shadowOpacity, model.shadowRadius, colorText(model.shadowColor)};
 }
 
 // {"item": identifier of a status-bar item}: all that there is to know about an overlay and its indicator at

@@ -17,6 +17,7 @@ Value windowCounts();
 //   6 x, 7 y, 8 width, 9 height of what it shows at this moment, in points of the upright screen
 //   10 x, 11 y, 12 width, 13 height of its frame (model)   14 name of its layer   15 text   16 image
 //   17 number of gesture recognisers   18 whether an animation of its own is under way that will end
+//   19 to 27 what lookOf() gives
 // "seen" is a part of it on the screen, inside every view that clips, through alphas above 0.01 all the way
 // up. "finite" is false when a number of its geometry or its alpha, model or presented, is none or infinite;
 // places are then given as 0.

@@ -73,6 +73,7 @@ void report(UIView *view, Surroundings around, Array &views) {
     fields.push_back(imageOf(view));
     fields.emplace_back(state(view).recognizers.size());
     fields.emplace_back(std::ranges::any_of(layer.animations, ends));
+    for (Value &look : lookOf(view)) fields.push_back(std::move(look));
     views.emplace_back(std::move(fields));
     if (now.masksToBounds) around.clip = CGRectIntersection(around.clip, place);
     ++around.depth;
