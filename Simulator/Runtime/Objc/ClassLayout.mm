@@ -28,12 +28,12 @@ const link_map *fileOf(const void *address) {
 
 const link_map *ownFile() { return fileOf(reinterpret_cast<const void *>(&fileOf)); }
 
-// The program's own file has no name in the linker's list.
+// Most files are known by their canonical path. The program's own has no name in the linker's list.
 const link_map *fileAt(const std::string &path) {
-    for (const link_map *file = _r_debug.r_map; file; file = file->l_next) {
-        const char *name = file == ownFile() ? "/proc/self/exe" : file->l_name;
-        if (canonical(name) == path) return file;
-    }
+    for (const link_map *file = _r_debug.r_map; file; file = file->l_next)
+        if (path == file->l_name) return file;
+    for (const link_map *file = _r_debug.r_map; file; file = file->l_next)
+        if (canonical(file == ownFile() ? "/proc/self/exe" : file->l_name) == path) return file;
     return nullptr;
 }
 

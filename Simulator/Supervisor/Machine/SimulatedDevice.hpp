@@ -16,6 +16,8 @@ struct DeviceSetup {
     Installation installation;
     Package package;
     bool debugger = false;
+    // Null: each process is started by itself.
+    std::shared_ptr<Nurseries> nurseries = std::make_shared<Nurseries>();
 };
 
 class SettingsProcess;
