@@ -2,13 +2,18 @@
 // Descriptors.hpp names.
 #import <Foundation/Foundation.h>
 
+#include "Process/Shared/Nursery.hpp"
 #include "Process/Shared/ProcessStart.h"
 #include "Process/Shared/Session.hpp"
+#include "Render/Renderer.hpp"
 #include "Runtime/Process/Crash.hpp"
 #include "Supervisor/Protocol/Descriptors.hpp"
 
 int main() {
+    size_t threads = sim::threadCount();
     sim::startProcess();
+    render::prepare();
+    sim::bearProcesses(threads);
     sim::installCrashHandler(sim::kCrashDescriptor);
     @autoreleasepool {
         sim::serve();

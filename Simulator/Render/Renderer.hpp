@@ -8,6 +8,10 @@
 
 namespace render {
 
+// Loads what the first picture and the first text would load; only earlier. A font that is missing is missed
+// when it is used.
+void prepare();
+
 class Renderer {
 public:
     // Throws std::runtime_error when the fonts are not installed.

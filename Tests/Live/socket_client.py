@@ -30,10 +30,14 @@ class Live:
         self.process.stderr.close()
 
     def child(self, name):
-        """The number of the process of that name that it started last."""
-        children = pathlib.Path(f"/proc/{self.process.pid}/task").glob("*/children")
-        numbers = [int(number) for file in children for number in file.read_text().split()]
-        return max(number for number in numbers if pathlib.Path(f"/proc/{number}/comm").read_text().strip() == name)
+        """The number of the process of that name that it started last, by itself or through another."""
+        def below(process):
+            for file in pathlib.Path(f"/proc/{process}/task").glob("*/children"):
+                for child in file.read_text().split():
+                    yield int(child)
+                    yield from below(child)
+        return max(number for number in below(self.process.pid)
+                   if pathlib.Path(f"/proc/{number}/comm").read_text().strip() == name)
 
     def end(self):
         """Ends it in order; gives its exit status and what it said on its error stream."""

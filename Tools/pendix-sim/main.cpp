@@ -33,15 +33,18 @@ struct CommandLine {
     std::vector<std::string> settings, badges, calls, extensions;
     std::string extension; // to make or to build
     bool phone = false;    // builds it for one, too
-    bool debugger = false;
+    bool debugger = false, fresh = false;
 };
 
 sim::DeviceSetup setupOf(const CommandLine &commandLine) {
     sim::Installation installation = sim::findInstallation();
-    return {.installation = installation,
-            .package = sim::readPackage(installation.manifest),
-            .debugger = commandLine.debugger,
-            .extensions = sim::absolutePaths(commandLine.extensions, std::filesystem::current_path())};
+    sim::DeviceSetup setup{
+        .installation = installation,
+        .package = sim::readPackage(installation.manifest),
+        .debugger = commandLine.debugger,
+        .extensions = sim::absolutePaths(commandLine.extensions, std::filesystem::current_path())};
+    if (commandLine.fresh) setup.nurseries = nullptr;
+    return setup;
 }
 
 sim::Value bootTable(const CommandLine &commandLine) {
@@ -70,8 +73,17 @@ void addExtensions(CLI::App &command, CommandLine &commandLine) {
         ->take_all();
 }
 
+void addFresh(CLI::App &command, CommandLine &commandLine) {
+    command
+        .add_flag("--fresh", commandLine.fresh,
+                  "Start each simulated process by itself instead of forking one that is prepared; the same "
+                  "comes of it, later")
+        ->envname("PENDIX_SIM_FRESH");
+}
+
 void addBootOptions(CLI::App &command, CommandLine &commandLine) {
     addExtensions(command, commandLine);
+    addFresh(command, commandLine);
     command.add_option("--device", commandLine.bootTexts["device"],
                        "\"iPhone 6\"; pendix-sim profiles lists all");
     command.add_option("--ios", commandLine.bootTexts["ios"], "System version: 8.1");
@@ -124,6 +136,7 @@ CLI::App *addRun(CLI::App &program, CommandLine &commandLine) {
     run->add_option("--seed", commandLine.script.seed, "Seed of math.random")->capture_default_str();
     addExtensions(*run, commandLine);
     run->add_flag("--gdb", commandLine.debugger, "Start the simulated processes under gdb in this terminal");
+    addFresh(*run, commandLine);
     run->footer(
         "What follows -- on the command line is in the script's global `args`.\n"
         "Exits with 0 when every expectation held, 1 when one failed, 2 when the call or a boot was wrong.");

@@ -5,8 +5,8 @@
 
 namespace sim {
 
-// Sets up the sandbox, the device, the clock and the seams to the system, and leaves the process with the
-// classes and methods of the device's system version.
+// Sets up the sandbox, the device and the clock, and leaves the process with the classes and methods of the
+// device's system version.
 void bootDevice(const BootMessage &message);
 
 } // namespace sim

@@ -75,9 +75,6 @@ void bootDevice(const BootMessage &message) {
     setPlatformFolder(message.platform);
     setDevice(message.device);
     setTime(message);
-    installTimers();
-    installRunLoop();
-    installPropertyLists();
     watchFile(message.countedFile);
     onRespringRequest(askForRespring);
     applyAvailability(device().version);

@@ -3,8 +3,8 @@
 
 namespace sim {
 
-// Blocks, the count of live objects, Foundation's own singletons, and what becomes of exceptions. Once, first
-// in main.
+// Blocks, the count of live objects, Foundation's own singletons, what becomes of exceptions, and the seams
+// to the clock and to property lists: all that is the same for every device. Once, first in main.
 void startProcess();
 
 } // namespace sim

@@ -3,6 +3,7 @@
 #include "ClassLayout.hpp"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include <algorithm>
 #include <climits>
@@ -18,15 +19,30 @@ std::string canonical(const char *path) {
     return path && realpath(path, resolved) ? resolved : "";
 }
 
-template <typename Predicate>
-std::vector<Class> classesWhere(Predicate belongs) {
+// The loaded file that the address lies in; null for what was made at run time. Unlike dladdr() it looks for
+// no symbol, of which each file has thousands.
+const link_map *fileOf(const void *address) {
+    dl_find_object found;
+    return _dl_find_object(const_cast<void *>(address), &found) == 0 ? found.dlfo_link_map : nullptr;
+}
+
+const link_map *ownFile() { return fileOf(reinterpret_cast<const void *>(&fileOf)); }
+
+// Most files are known by their canonical path. The program's own has no name in the linker's list.
+const link_map *fileAt(const std::string &path) {
+    for (const link_map *file = _r_debug.r_map; file; file = file->l_next)
+        if (path == file->l_name) return file;
+    for (const link_map *file = _r_debug.r_map; file; file = file->l_next)
+        if (canonical(file == ownFile() ? "/proc/self/exe" : file->l_name) == path) return file;
+    return nullptr;
+}
+
+std::vector<Class> classesIn(const link_map *file) {
+    if (!file) return {};
     std::vector<Class> all(static_cast<size_t>(objc_getClassList(nullptr, 0)));
     objc_getClassList(all.data(), static_cast<int>(all.size()));
-    std::erase_if(all, [&](Class candidate) {
-        Dl_info where;
-        // Classes made at run time lie in no file.
-        return !dladdr(reinterpret_cast<const void *>(candidate), &where) || !belongs(where);
-    });
+    std::erase_if(all,
+                  [&](Class candidate) { return fileOf(reinterpret_cast<const void *>(candidate)) != file; });
     std::sort(all.begin(), all.end(),
               [](Class a, Class b) { return strcmp(class_getName(a), class_getName(b)) < 0; });
     return all;
@@ -57,15 +73,10 @@ size_t contentEnd(Class owner) {
 
 std::vector<Class> classesOf(const std::string &libraryPath) {
     std::string wanted = canonical(libraryPath.c_str());
-    if (wanted.empty()) return {};
-    return classesWhere([&](const Dl_info &where) { return canonical(where.dli_fname) == wanted; });
+    return wanted.empty() ? std::vector<Class>() : classesIn(fileAt(wanted));
 }
 
-std::vector<Class> classesOfProgram() {
-    Dl_info own;
-    dladdr(reinterpret_cast<const void *>(&classesOfProgram), &own);
-    return classesWhere([&](const Dl_info &where) { return where.dli_fbase == own.dli_fbase; });
-}
+std::vector<Class> classesOfProgram() { return classesIn(ownFile()); }
 
 std::vector<std::string> brokenLayouts(std::span<const Class> classes) {
     std::vector<std::string> sentences;

@@ -1,15 +1,15 @@
-// A simulated process as the supervisor holds it: started, talked to, and looked after when it dies.
+// A simulated process as the supervisor holds it: started or forked, talked to, and looked after when it
+// dies.
 #pragma once
 
+#include "Nursery.hpp"
 #include "Render/Bitmap.hpp"
 #include "Supervisor/Protocol/Channel.hpp"
 #include "Supervisor/Protocol/PictureMemory.hpp"
 #include "Supervisor/Protocol/SharedTime.hpp"
 
-#include <filesystem>
 #include <memory>
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 namespace sim {
@@ -30,10 +30,8 @@ struct Ending {
 class ChildProcess {
 public:
     struct Setup {
-        std::filesystem::path program;
-        std::vector<std::string> arguments;
-        std::filesystem::path home; // the process's home folder
-        bool debugger = false;      // under gdb, in the supervisor's terminal
+        Launch launch;
+        std::shared_ptr<Nurseries> nurseries; // without them it is started by itself
     };
 
     // Throws std::system_error.
@@ -51,31 +49,16 @@ public:
     Ending end();
 
 private:
-    // Both ends of a new connection.
-    struct Connection {
-        Connection();
-        int supervisor, child;
-    };
-    // A descriptor of its own above those that a child is started with.
-    class Descriptor {
-    public:
-        explicit Descriptor(int descriptor);
-        ~Descriptor();
-        Descriptor(const Descriptor &) = delete;
-        operator int() const { return value_; }
-
-    private:
-        int value_;
-    };
     ChildProcess(const Setup &setup, Connection connection);
-    static Descriptor memory(const char *name);
-    void start(const Setup &setup, int childEnd);
+    bool fork(const Setup &setup, const Descriptor &childEnd);
+    void start(const Launch &launch, const Descriptor &childEnd);
 
     Channel channel_;
     Descriptor crashReport_, errorOutput_, picture_, timeMemory_;
     SharedTime time_;
     PictureMemory pictureMemory_;
     pid_t process_ = 0;
+    std::shared_ptr<Nursery> nursery_; // that has borne it
 };
 
 } // namespace sim

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <set>
 #include <stdexcept>
+#include <sys/statvfs.h>
+#include <unistd.h>
 
 namespace sim {
 
@@ -19,8 +21,20 @@ constexpr const char *kStandardFolders[] = {"/Applications",
                                             "/var/mobile/Library/Preferences",
                                             "/var/root"};
 
+// Where devices live for a while: in memory where the machine has room for that, for the hundred files of a
+// device cost a disk more than all the rest of a boot. TMPDIR decides otherwise.
+fs::path placeForDevices() {
+    constexpr const char *kMemory = "/dev/shm";
+    constexpr uint64_t kRoom = 256 << 20;
+    struct statvfs system {};
+    // Devices load libraries from their files.
+    bool memory = !getenv("TMPDIR") && access(kMemory, W_OK | X_OK) == 0 && statvfs(kMemory, &system) == 0 &&
+                  !(system.f_flag & ST_NOEXEC) && uint64_t{system.f_bavail} * system.f_frsize >= kRoom;
+    return memory ? fs::path(kMemory) : fs::temp_directory_path();
+}
+
 fs::path temporaryFolder() {
-    std::string name = (fs::temp_directory_path() / "pendix-sim-XXXXXX").string();
+    std::string name = (placeForDevices() / "pendix-sim-XXXXXX").string();
     if (!mkdtemp(name.data())) throw std::runtime_error("cannot make a folder like " + name);
     return fs::canonical(name);
 }

@@ -72,11 +72,11 @@ void SimulatedDevice::installExtensions() {
 }
 
 ChildProcess::Setup SimulatedDevice::processSetup(const char *program) const {
-    return {.program = setup_.installation.programs / program,
-            // Foundation reads the preferred languages from the command line.
-            .arguments = {"-AppleLanguages", "(" + options_.language + ")"},
-            .home = root_.at("/var/mobile"),
-            .debugger = setup_.debugger};
+    // Foundation reads the preferred languages from the command line.
+    return {.launch = {.program = setup_.installation.programs / program,
+                       .arguments = {"-AppleLanguages", "(" + options_.language + ")"},
+                       .debugger = setup_.debugger},
+            .nurseries = setup_.nurseries};
 }
 
 BootMessage SimulatedDevice::bootMessage() const {

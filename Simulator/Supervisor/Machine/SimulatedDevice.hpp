@@ -18,6 +18,8 @@ struct DeviceSetup {
     Package package;
     bool debugger = false;
     std::vector<std::string> extensions; // absolute paths, for every device; see BootOptions
+    // Null: each process is started by itself.
+    std::shared_ptr<Nurseries> nurseries = std::make_shared<Nurseries>();
 };
 
 class SettingsProcess;
