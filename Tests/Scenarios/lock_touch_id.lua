@@ -19,8 +19,9 @@ for _, step in ipairs{
   -- event, the glyph's state, the title, vibrations
   { 1, 1, waiting, 0 }, { 2, 1, waiting, 0 }, { 4, 1, waiting, 0 }, { 11, 1, waiting, 0 }, { 1000, 1, waiting, 0 },
   { 0, 0, waiting, 0 }, { 1, 1, waiting, 0 }, { 9, 0, waiting, 1 }, { 1, 1, waiting, 1 }, { 10, 0, waiting, 2 },
-  { 1, 1, waiting, 2 }, { 5, 1, "Touch ID Failed", 2 }, { 6, 1, "Touch ID Failed", 2 },
-  { 7, 1, "Touch ID Failed", 2 }, { 8, 1, "Touch ID Failed", 2 }, { 0, 0, "Touch ID Failed", 2 },
+  { "down", 1, waiting, 2 }, { "no_match", 0, waiting, 3 }, { 1, 1, waiting, 3 }, { 5, 1, "Touch ID Failed", 3 },
+  { 6, 1, "Touch ID Failed", 3 }, { 7, 1, "Touch ID Failed", 3 }, { 8, 1, "Touch ID Failed", 3 },
+  { "failed", 1, "Touch ID Failed", 3 }, { "up", 0, "Touch ID Failed", 3 },
 } do
   phone:finger(step[1])
   phone:settle()
@@ -28,7 +29,7 @@ for _, step in ipairs{
     { step[2], step[3], step[4] }, "event " .. step[1])
   expect_eq(L.shown(phone), "finger", "event " .. step[1] .. " unlocks nothing")
 end
-phone:finger(3)
+phone:finger("match")
 expect_eq({ glyph(phone).state, unlocked(phone) }, { 6, 0 }, "a match ticks the glyph first")
 phone:finger(3)
 phone:settle()

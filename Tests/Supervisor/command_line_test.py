@@ -23,8 +23,15 @@ class CommandLine(unittest.TestCase):
             compiled = pathlib.Path(folder, "compiled.lua")
             compiled.write_bytes(b"\x1bLua\x54\x00")
             cases = {
-                "no command": ([], "subcommand"),
-                "unknown command": (["walk"], "subcommand"),
+                "no command": ([], "a command is missing"),
+                "unknown command": (["walk"], "there is no command 'walk'"),
+                "a misspelt command": (["rn", "x"], "did you mean 'run'?"),
+                "a script without a command": ([str(broken)], "pendix-sim run " + str(broken)),
+                "an unknown option before a command": (["--hlep"], "did you mean '--help'?"),
+                "a misspelt option": (["run", "--sede", "3", str(broken)], "'--sede'; did you mean '--seed'?"),
+                "a misspelt option with its value": (["run", str(broken), "--sede=3"], "did you mean '--seed'?"),
+                "no events": (["monkey", "--events", "0"], "--events: must be a whole number of 1 or more, not 0"),
+                "words for events": (["monkey", "--events", "many"], "1 or more, not many"),
                 "no file": (["run"], "FILE"),
                 "a file that is not there": (["run", folder + "/none.lua"], "none.lua"),
                 "a folder": (["run", folder], folder),
@@ -61,6 +68,7 @@ class CommandLine(unittest.TestCase):
 
     def test_help_and_profiles(self):
         for arguments, texts in ((["--help"], ["run", "profiles"]), (["run", "--help"], ["--out", "--seed", "--gdb"]),
+                                 (["--version"], ["pendix-sim 0."]), (["help"], ["monkey", "expect_near", "settings"]),
                                  (["profiles"], ["iPhone 6 Plus", "iPhone7,1", "@3x", "8.0, 8.1 and 8.3"])):
             with self.subTest(arguments):
                 result = call(*arguments)

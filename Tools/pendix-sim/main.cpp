@@ -1,4 +1,6 @@
 // pendix-sim: simulated devices, driven by scripts or by people.
+#include "Help.hpp"
+#include "Mistakes.hpp"
 #include "Tools/Live/LiveSession.hpp"
 #include "Tools/Live/Shot.hpp"
 #include "Tools/Monkey/Monkey.hpp"
@@ -20,13 +22,14 @@ constexpr const char *kExamples =
     "  pendix-sim live                            a device in the browser\n"
     "  pendix-sim run FILE.lua --out pictures     a script, and the pictures it takes\n"
     "  pendix-sim shot home.png --device \"iPad 2\" --ios 7.1\n"
-    "\"pendix-sim COMMAND --help\" teaches each command.";
+    "\"pendix-sim COMMAND --help\" teaches each command, \"pendix-sim help\" the calls of scripts.";
 
 struct CommandLine {
     sim::ScriptOptions script;
     sim::LiveOptions live;
     sim::ShotOptions shot;
     sim::MonkeyOptions monkey;
+    sim::HelpRequest help;
     std::string finding;                          // a script that the monkey wrote
     std::string boot;                             // JSON
     std::map<std::string, std::string> bootTexts; // single options of boot
@@ -175,12 +178,21 @@ CLI::App *addShot(CLI::App &program, CommandLine &commandLine) {
     return shot;
 }
 
+CLI::Validator oneOrMore() {
+    auto check = [](const std::string &text) {
+        int64_t number = 0;
+        bool good = CLI::detail::lexical_cast(text, number) && number >= 1;
+        return good ? "" : "must be a whole number of 1 or more, not " + text;
+    };
+    return {check, "1 or more"};
+}
+
 CLI::App *addMonkey(CLI::App &program, CommandLine &commandLine) {
     auto &options = commandLine.monkey;
     auto *monkey =
         program.add_subcommand("monkey", "Do random things to random devices, and watch for faults");
     auto count = [&](const char *name, int64_t &value, const char *what) {
-        monkey->add_option(name, value, what)->capture_default_str()->check(CLI::PositiveNumber);
+        monkey->add_option(name, value, what)->capture_default_str()->check(oneOrMore());
     };
     monkey->add_option("--seed", options.seed, "Decides all that is done")->capture_default_str();
     count("--events", options.events, "How many events, in all");
@@ -218,15 +230,63 @@ CLI::App *addBuild(CLI::App &program, CommandLine &commandLine) {
     return build;
 }
 
+CLI::App *addHelp(CLI::App &program, CommandLine &commandLine) {
+    auto *help = program.add_subcommand("help", "Tell about a call, an option, an event, a device, a setting");
+    help->add_option("NAME", commandLine.help.words, "Of what; without it, what there is");
+    help->add_flag("--markdown", commandLine.help.page, "All of it, as docs/reference.md has it");
+    return help;
+}
+
+std::vector<std::string> commandNames(const CLI::App &program) {
+    std::vector<std::string> names;
+    for (const auto *command : program.get_subcommands([](const CLI::App *) { return true; }))
+        names.push_back(command->get_name());
+    return names;
+}
+
+std::string commandHelp(const CLI::App &program, const std::string &name) {
+    for (const auto &known : commandNames(program))
+        if (known == name) return program.get_subcommand(name)->help();
+    return "";
+}
+
+std::vector<std::string> optionNames(const CLI::App &command) {
+    std::vector<std::string> names;
+    for (const auto *option : command.get_options())
+        for (const auto &name : option->get_lnames()) names.push_back("--" + name);
+    return names;
+}
+
+// A call that the program does not understand, in words that say what to do about it.
+std::string explain(const CLI::App &program, const std::vector<std::string> &call, const CLI::ParseError &error) {
+    auto chosen = program.get_subcommands();
+    std::string command = chosen.empty() ? "" : chosen.front()->get_name();
+    auto words = program.remaining(true);
+    std::string text = error.what();
+    // An unknown option is what is wrong first, for its value is taken for something else.
+    if (!chosen.empty())
+        if (auto option = sim::unknownOption(call, optionNames(*chosen.front()))) words = {*option};
+    if (chosen.empty() && !words.empty() && words.front().starts_with("-"))
+        text = sim::unexpectedWords("pendix-sim", words, optionNames(program));
+    else if (chosen.empty())
+        text = words.empty() ? "a command is missing" : sim::unknownCommand(words.front(), commandNames(program));
+    else if (!words.empty())
+        text = sim::unexpectedWords(command, words, optionNames(*chosen.front()));
+    return "pendix-sim: " + text + "\n\"pendix-sim " + (command.empty() ? "" : command + " ") +
+           "--help\" tells what can be said.\n";
+}
+
+bool isSeparator(const char *argument) { return std::string_view(argument) == "--"; }
+
 sim::Outcome run(CLI::App &program, int count, char **arguments) {
     CommandLine commandLine;
     // What follows "--" is the script's own.
     char **end = arguments + count;
-    char **own =
-        std::find_if(arguments, end, [](const char *argument) { return std::string_view(argument) == "--"; });
+    char **own = std::find_if(arguments, end, isSeparator);
     if (own != end) commandLine.script.arguments.assign(own + 1, end);
 
     program.require_subcommand(1);
+    program.set_version_flag("--version", "pendix-sim " PENDIX_VERSION);
     program.footer(kExamples);
     auto *run = addRun(program, commandLine);
     auto *live = addLive(program, commandLine, "live", "Show a device as a web page on this machine");
@@ -239,6 +299,7 @@ sim::Outcome run(CLI::App &program, int count, char **arguments) {
     auto *made = addNew(program, commandLine);
     auto *build = addBuild(program, commandLine);
     program.add_subcommand("profiles", "List the devices and their system versions");
+    auto *help = addHelp(program, commandLine);
     program.parse(static_cast<int>(own - arguments), arguments);
 
     if (made->parsed()) sim::becomeExtensionTool({"new", commandLine.extension});
@@ -251,7 +312,11 @@ sim::Outcome run(CLI::App &program, int count, char **arguments) {
     if (live->parsed() || record->parsed()) return runLive(commandLine);
     if (shot->parsed()) return runShot(commandLine);
     if (monkey->parsed()) return runMonkey(commandLine);
-    std::cout << sim::profileTable();
+    std::cout << (help->parsed() ? sim::help(
+                                       commandLine.help, sim::findInstallation(),
+                                       [&](const auto &name) { return commandHelp(program, name); },
+                                       commandNames(program))
+                                 : sim::profileTable());
     return sim::Outcome::passed;
 }
 
@@ -262,7 +327,10 @@ int main(int count, char **arguments) {
     try {
         return static_cast<int>(run(program, count, arguments));
     } catch (const CLI::ParseError &error) {
-        return program.exit(error) == 0 ? 0 : static_cast<int>(sim::Outcome::refused);
+        if (error.get_exit_code() == 0) return program.exit(error); // --help, --version
+        char **end = std::find_if(arguments, arguments + count, isSeparator);
+        std::cerr << explain(program, {arguments + 1, end}, error);
+        return static_cast<int>(sim::Outcome::refused);
     } catch (const std::exception &error) {
         std::cerr << "pendix-sim: " << error.what() << '\n';
         return static_cast<int>(sim::Outcome::refused);

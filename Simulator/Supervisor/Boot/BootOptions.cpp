@@ -1,5 +1,6 @@
 #include "BootOptions.hpp"
 
+#include "OptionTables.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 
@@ -67,7 +68,7 @@ std::string nameOf(const std::string &identifier, const std::vector<ApplicationS
 
 ApplicationSpec readApplication(const Value &table, const std::string &where,
                                 const std::vector<ApplicationSpec> &stock) {
-    OptionReader reader(table, where);
+    OptionReader reader(table, where, applicationOptionTable().options);
     ApplicationSpec application;
     eachField(application, reader);
     reader.finish();
@@ -96,13 +97,14 @@ void readApplications(OptionReader &reader, BootOptions &options, std::string_vi
 void readColorBadges(OptionReader &reader, BootOptions &options) {
     const Value &value = reader.any("color_badges");
     if (value.isNull() || (value.isBool() && !value.boolean())) return;
-    OptionReader badges(value.isBool() ? Value() : value, "boot: color_badges");
+    OptionReader badges(value.isBool() ? Value() : value, "boot: color_badges",
+                        colorBadgeOptionTable().options);
     eachField(options.colorBadges.emplace(), badges);
     badges.finish();
 }
 
 FailingWrites readFailingWrites(const Value &table, const std::string &where) {
-    OptionReader reader(table, where);
+    OptionReader reader(table, where, failingWriteOptionTable().options);
     FailingWrites failure;
     eachField(failure, reader);
     reader.finish();
@@ -143,7 +145,7 @@ std::optional<double> parseClock(const std::string &text) {
 }
 
 BootOptions readBootOptions(const Value &table, std::string_view stockApplications) {
-    OptionReader reader(table, "boot");
+    OptionReader reader(table, "boot", bootOptionTable().options);
     BootOptions options;
     readProfile(reader, options);
     options.language = reader.string("language").value_or(kDefaultLanguage);

@@ -18,12 +18,14 @@ const Object &members(const Value &table, const std::string &where) {
 
 } // namespace
 
-OptionReader::OptionReader(const Value &table, std::string where)
-    : options_(members(table, where)), where_(std::move(where)) {}
+OptionReader::OptionReader(const Value &table, std::string where, const std::vector<Described> &options)
+    : options_(members(table, where)), where_(std::move(where)), known_(namesOf(options)) {}
 
 const Value &OptionReader::any(const char *name) {
     static const Value null;
-    known_.emplace_back(name);
+    if (!std::ranges::count(known_, name))
+        throw std::logic_error(where_ + ": the option '" + name + "' is in no table");
+    read_.insert(name);
     auto found = options_.find(name);
     return found == options_.end() ? null : found->second;
 }
@@ -80,6 +82,9 @@ void OptionReader::finish() const {
     for (const auto &option : options_)
         if (!std::ranges::count(known_, option.first))
             fail("unknown option '" + option.first + "'" + suggestion(option.first, known_));
+    for (const auto &name : known_)
+        if (!read_.contains(name))
+            throw std::logic_error(where_ + ": nobody reads the option '" + name + "'");
 }
 
 void OptionReader::fail(const std::string &what) const { throw BootError(where_ + ": " + what); }

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Runtime/Values/Value.hpp"
+#include "Supervisor/Reference/About.hpp"
 
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -15,11 +17,12 @@ struct BootError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// Every accessor marks its option as known and returns nothing when it is absent. Throws BootError.
+// Every accessor returns nothing when its option is absent. Throws BootError; std::logic_error for an option
+// that is read without having a row in the table of options.
 class OptionReader {
 public:
     // `where` names the table in messages: "boot", "boot: apps[2]".
-    OptionReader(const Value &table, std::string where);
+    OptionReader(const Value &table, std::string where, const std::vector<Described> &options);
 
     std::optional<bool> boolean(const char *name);
     std::optional<int64_t> integer(const char *name);
@@ -37,7 +40,8 @@ public:
     // Of any kind; null when absent.
     const Value &any(const char *name);
 
-    // To be called at the end: throws for an option that nobody asked for.
+    // To be called at the end: throws for an option that is unknown; std::logic_error for a row of the table
+    // of options that nobody read.
     void finish() const;
 
     [[noreturn]] void fail(const std::string &what) const;
@@ -54,6 +58,7 @@ private:
     Object options_;
     std::string where_;
     std::vector<std::string> known_;
+    std::set<std::string> read_;
 };
 
 } // namespace sim

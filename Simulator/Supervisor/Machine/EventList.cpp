@@ -1,5 +1,6 @@
 #include "EventList.hpp"
 
+#include "EventKinds.hpp"
 #include "Supervisor/Text/Readable.hpp"
 
 #include <algorithm>
@@ -7,10 +8,15 @@
 
 namespace sim {
 
+void EventList::add(Value event) {
+    checkEvent(event);
+    events_.push_back(std::move(event));
+}
+
 void EventList::add(double seconds, const char *kind, Object fields) {
     fields.insert_or_assign("t", seconds);
     fields.insert_or_assign("kind", kind);
-    events_.emplace_back(std::move(fields));
+    add(Value(std::move(fields)));
 }
 
 Array EventList::ofKind(const std::string &kind) const {
@@ -45,22 +51,6 @@ std::string EventList::tail(size_t count) const {
         result += '\n';
     }
     return result;
-}
-
-const std::vector<std::string> &eventKinds() {
-    static const std::vector<std::string> kinds = {
-        "log",      "launch",   "quit",     "signal",       "badge_set",    "notifications_cancelled",
-        "sound",    "respring", "listener", "statusbar",    "biometric",    "passcode_prompt",
-        "original", "tweet",    "crash",    "unrecognized", "missing_file", "activator_settings",
-        "warning"};
-    return kinds;
-}
-
-const std::vector<std::string> &eventFields() {
-    static const std::vector<std::string> fields = {
-        "t",    "kind",  "text",     "id",   "how",      "pid",   "number", "value",   "name",
-        "what", "class", "selector", "path", "property", "stack", "signal", "listener"};
-    return fields;
 }
 
 } // namespace sim

@@ -10,7 +10,8 @@ namespace sim {
 
 class EventList {
 public:
-    void add(Value event) { events_.push_back(std::move(event)); }
+    // Throws std::logic_error for an event that the table of kinds does not know.
+    void add(Value event);
     // An event of the supervisor's own making. `seconds` is the virtual time since the device was booted.
     void add(double seconds, const char *kind, Object fields);
 
@@ -28,9 +29,5 @@ public:
 private:
     Array events_;
 };
-
-// The kinds of events and the fields that events may have, for telling scripts what they mistyped.
-const std::vector<std::string> &eventKinds();
-const std::vector<std::string> &eventFields();
 
 } // namespace sim

@@ -68,10 +68,27 @@ int eachProfile(lua_State *lua, Script &) {
 
 } // namespace
 
-void openDevices(lua_State *lua) {
-    setGlobal(lua, "boot", bound<boot>);
-    setGlobal(lua, "each_profile", bound<eachProfile>);
-    setGlobal(lua, "settings_app", bound<bootSettings>);
+std::span<const Global> deviceGlobals() {
+    static const Described options = {"options", "a table; `help boot` lists what it may hold"};
+    static const Global globals[] = {
+        {"boot",
+         bound<boot>,
+         {options},
+         "Starts a device and gives its phone. The launch is over, the badges are drawn, and the clock "
+         "stands at the "
+         "time given. All options may be left out; an unknown one is an error."},
+        {"settings_app",
+         bound<bootSettings>,
+         {options},
+         "Starts the Settings application of a device without a home screen, at the extension's page, and "
+         "gives its "
+         "pane. Takes the options of `boot`."},
+        {"each_profile",
+         bound<eachProfile>,
+         {{"run", "a function of device and version"},
+          {"[filter]", "a function of both, or a table {device =, ios =} of names or lists of names"}},
+         "Runs a function for every device with every version that it ran; `help devices` lists them."}};
+    return globals;
 }
 
 } // namespace sim

@@ -58,10 +58,24 @@ int expectNear(lua_State *lua, Script &script) {
 
 } // namespace
 
-void openExpectations(lua_State *lua) {
-    setGlobal(lua, "expect", bound<expect>);
-    setGlobal(lua, "expect_eq", bound<expectEqual>);
-    setGlobal(lua, "expect_near", bound<expectNear>);
+std::span<const Global> expectationGlobals() {
+    static const Described message = {"[message]", "what it is about, in a report"};
+    static const Global globals[] = {
+        {"expect",
+         bound<expect>,
+         {{"condition", "true, or anything but false and nil"}, message},
+         "Holds when the condition does. An expectation that does not hold is reported with the device's "
+         "state and "
+         "fails the run, which goes on; it gives whether it held."},
+        {"expect_eq",
+         bound<expectEqual>,
+         {{"actual", "what is there"}, {"wanted", "what should be"}, message},
+         "Holds when the two are equal; tables by what they hold, numbers by value."},
+        {"expect_near",
+         bound<expectNear>,
+         {{"actual", "what is there"}, {"wanted", "a number"}, {"tolerance", "belongs to it"}, message},
+         "Holds when the two numbers differ by the tolerance at most."}};
+    return globals;
 }
 
 } // namespace sim

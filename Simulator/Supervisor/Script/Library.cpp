@@ -160,16 +160,17 @@ int doFile(lua_State *lua, Script &script) {
     return lua_gettop(lua);
 }
 
-// Once a module: what it returned the first time is kept in the table of the first upvalue.
+// Once a module: what it returned the first time is kept.
 int require(lua_State *lua, Script &script) {
     std::string name = text(lua, 1, "the module's name");
     lua_settop(lua, 1);
-    if (lua_getfield(lua, lua_upvalueindex(1), name.c_str()) != LUA_TNIL) return 1;
+    luaL_getsubtable(lua, LUA_REGISTRYINDEX, "modules of the script");
+    if (lua_getfield(lua, 2, name.c_str()) != LUA_TNIL) return 1;
     loadScript(lua, moduleFile(script, name));
     lua_call(lua, 0, 1);
     if (lua_isnil(lua, -1)) throw std::runtime_error("the module '" + name + "' returns nothing");
     lua_pushvalue(lua, -1);
-    lua_setfield(lua, lua_upvalueindex(1), name.c_str());
+    lua_setfield(lua, 2, name.c_str());
     return 1;
 }
 
@@ -197,11 +198,6 @@ void openStandard(lua_State *lua) {
 
 } // namespace
 
-void setGlobal(lua_State *lua, const char *name, lua_CFunction function) {
-    lua_pushcfunction(lua, function);
-    lua_setglobal(lua, name);
-}
-
 void loadScript(lua_State *lua, const std::filesystem::path &file) {
     std::string content = readFile(file);
     if (content.starts_with(LUA_SIGNATURE))
@@ -228,17 +224,49 @@ std::filesystem::path moduleFile(const Script &script, const std::string &name) 
                              places.back().string());
 }
 
+std::span<const Global> languageGlobals() {
+    static const Global globals[] = {
+        {"print", bound<print>, {{"…", "values"}}, "Writes to standard output; tables by what they hold."},
+        {"tostring", bound<toString>, {{"value", "of any kind"}}, "Its text, without addresses."},
+        {"pairs",
+         bound<pairs>,
+         {{"table", "to go through"}},
+         "Visits keys in ascending order: numbers, strings, booleans. A key of another kind is an error."},
+        {"next",
+         bound<next>,
+         {{"table", "to go through"}, {"[key]", "the one before"}},
+         "In the same order."},
+        {"dofile",
+         bound<doFile>,
+         {{"file", "relative to the script's folder"}},
+         "Runs another script and gives its results."},
+        {"require",
+         bound<require>,
+         {{"module", "a name without \".lua\""}},
+         "What the module returned when it was loaded first. It is looked for beside the script, in a folder "
+         "`Lua` "
+         "there or in one above, and among what the build made for scripts."},
+        {"collectgarbage",
+         bound<collectGarbage>,
+         {{"[\"collect\"]", "the only option"}},
+         "Only collects: a phone that nobody holds ends then, or at the next boot."}};
+    return globals;
+}
+
+std::vector<GlobalFamily> globalFamilies() {
+    return {{"starting", "Starting devices", deviceGlobals()},
+            {"expecting", "Expecting", expectationGlobals()},
+            {"lua", "What differs from the language's own library", languageGlobals()}};
+}
+
 void openLibrary(lua_State *lua, const ScriptOptions &options) {
     openStandard(lua);
-    setGlobal(lua, "print", bound<print>);
-    setGlobal(lua, "tostring", bound<toString>);
-    setGlobal(lua, "pairs", bound<pairs>);
-    setGlobal(lua, "next", bound<next>);
-    setGlobal(lua, "dofile", bound<doFile>);
-    setGlobal(lua, "collectgarbage", bound<collectGarbage>);
-    lua_newtable(lua);
-    lua_pushcclosure(lua, bound<require>, 1);
-    lua_setglobal(lua, "require");
+    for (const auto &family : globalFamilies()) {
+        for (const auto &global : family.globals) {
+            lua_pushcfunction(lua, global.function);
+            lua_setglobal(lua, global.name);
+        }
+    }
 
     lua_pushglobaltable(lua);
     wrap(lua, lua_gettop(lua), "load", bound<load>, 0);

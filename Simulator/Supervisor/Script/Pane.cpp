@@ -11,11 +11,6 @@ namespace sim {
 
 namespace {
 
-const RecordKind kPage{"page", {"title", "class", "rows"}};
-const RecordKind kRow{"row", {"label", "kind", "value", "footer", "choices", "icon"}};
-const RecordKind kAlert{"alert", {"title", "message", "buttons"}};
-const RecordKind kSheet{"sheet", {"title", "group", "label", "dots", "cancel"}};
-
 SettingsDriver hand(Phone &pane) { return {pane.device, pane.finger}; }
 
 int openSettings(lua_State *lua, Phone &phone, Script &script) {
@@ -27,14 +22,14 @@ int openSettings(lua_State *lua, Phone &phone, Script &script) {
 int page(lua_State *lua, Phone &pane, Script &) {
     Value answer = pane.device.ask("page");
     push(lua, Object{{"title", answer["title"]}, {"class", answer["class"]}});
-    pushRecords(lua, kRow, answer["rows"].array());
+    pushRecords(lua, Record::row, answer["rows"].array());
     lua_setfield(lua, -2, "rows");
-    makeRecord(lua, kPage);
+    makeRecord(lua, Record::page);
     return 1;
 }
 
 // A record of that kind, or nil when the process has none.
-int pushAnswer(lua_State *lua, Phone &pane, const char *request, const RecordKind &kind) {
+int pushAnswer(lua_State *lua, Phone &pane, const char *request, Record kind) {
     Value answer = pane.device.ask(request);
     if (answer.isNull()) {
         lua_pushnil(lua);
@@ -44,8 +39,8 @@ int pushAnswer(lua_State *lua, Phone &pane, const char *request, const RecordKin
     return 1;
 }
 
-int alert(lua_State *lua, Phone &pane, Script &) { return pushAnswer(lua, pane, "alert", kAlert); }
-int sheet(lua_State *lua, Phone &pane, Script &) { return pushAnswer(lua, pane, "sheet", kSheet); }
+int alert(lua_State *lua, Phone &pane, Script &) { return pushAnswer(lua, pane, "alert", Record::alert); }
+int sheet(lua_State *lua, Phone &pane, Script &) { return pushAnswer(lua, pane, "sheet", Record::sheet); }
 
 int open(lua_State *lua, Phone &pane, Script &) {
     hand(pane).open(text(lua, 2, "the row's label"));
@@ -103,15 +98,52 @@ int rotate(lua_State *lua, Phone &pane, Script &) {
 } // namespace
 
 std::span<const Method> openingMethods() {
-    static const Method methods[] = {{"open_settings", 0, openSettings}};
+    static const Method methods[] = {{"open_settings",
+                                      openSettings,
+                                      {},
+                                      "Starts the Settings application of the device at the extension's page "
+                                      "and gives its pane. One that was "
+                                      "open is closed; the home screen hears nothing of it."}};
     return methods;
 }
 
 std::span<const Method> paneMethods() {
-    static const Method methods[] = {{"page", 0, page},   {"alert", 0, alert},   {"sheet", 0, sheet},
-                                     {"open", 1, open},   {"toggle", 1, toggle}, {"choose", 2, choose},
-                                     {"press", 1, press}, {"back", 0, back},     {"type", 1, type},
-                                     {"erase", 1, erase}, {"swipe", 1, swipe},   {"rotate", 1, rotate}};
+    static const Described row = {"label", "what is written on the row"};
+    static const Method methods[] = {
+        {"page", page, {}, "The page in front as a table, a presented one too."},
+        {"alert", alert, {}, "The alert in front as a table, or nil."},
+        {"sheet", sheet, {}, "The sheet that asks for a code as a table, or nil."},
+        {"open", open, {row}, "Taps a row: a link, or a list of choices. Rows off screen are scrolled to."},
+        {"toggle", toggle, {row}, "Turns a row's switch."},
+        {"choose",
+         choose,
+         {row, {"title", "the choice"}},
+         "Chooses from a list, which is opened unless it is open already and stays open, or from the "
+         "segments of a "
+         "row."},
+        {"press",
+         press,
+         {{"title", "what is written on it"}},
+         "Presses a button: in an alert first, which lets nothing else be pressed, then in bars, then any "
+         "other, "
+         "then a button row. Does not wait afterwards: `settle`."},
+        {"back", back, {}, "Presses the button at the left of the bar; a page that was presented has none."},
+        {"type",
+         type,
+         {{"text", "what to type"}},
+         "Types. Characters that the keyboard on the screen has are tapped, 0.1 s each; others come as from "
+         "a "
+         "hardware keyboard. Waits for what moves, at most 2 s."},
+        {"erase", erase, {{"[n]", "how many characters; 1 without it"}}, "Presses the delete key."},
+        {"swipe",
+         swipe,
+         {{"direction", "\"left\" or \"right\", the way of the finger"}},
+         "A fling over the middle of what pages sideways."},
+        {"rotate",
+         rotate,
+         {{"orientation", "1 upright, 2 upside down, 3 and 4 on its sides"}},
+         "Turns the device; the page in front may refuse. From iOS 8 on a phone held across has no status "
+         "bar."}};
     return methods;
 }
 

@@ -30,10 +30,11 @@ const Method &currentMethod(lua_State *lua) {
 int callMethod(lua_State *lua, Script &script) {
     const Method &method = currentMethod(lua);
     Phone &phone = self(lua);
-    if (lua_gettop(lua) - 1 > method.arguments)
+    size_t most = method.parameters.size();
+    if (static_cast<size_t>(lua_gettop(lua)) - 1 > most)
         throw std::runtime_error(word(phone) + std::string(":") + method.name + " takes " +
-                                 (method.arguments ? "at most " + std::to_string(method.arguments) : "no") +
-                                 " argument" + (method.arguments == 1 ? "" : "s"));
+                                 (most ? "at most " + std::to_string(most) : "no") + " argument" +
+                                 (most == 1 ? "" : "s"));
     return method.run(lua, phone, script);
 }
 
@@ -70,23 +71,11 @@ int phoneToString(lua_State *lua, Script &) {
     return 1;
 }
 
-std::vector<std::span<const Method>> families(const Phone &phone) {
-    std::vector<std::span<const Method>> result = {timeMethods(), touchMethods(), lookingMethods(),
-                                                   settingsMethods(), observingMethods()};
-    if (phone.pane) {
-        result.push_back(paneMethods());
-    } else {
-        result.push_back(homeScreenMethods());
-        result.push_back(lockMethods());
-        result.push_back(openingMethods());
-    }
-    return result;
-}
-
 void pushMethods(lua_State *lua, const Phone &phone) {
     lua_newtable(lua);
-    for (auto family : families(phone)) {
-        for (const auto &method : family) {
+    for (const auto &family : methodFamilies()) {
+        if (!(phone.pane ? family.ofPane : family.ofPhone)) continue;
+        for (const auto &method : family.methods) {
             lua_pushlightuserdata(lua, const_cast<Method *>(&method));
             lua_pushcclosure(lua, bound<callMethod>, 1);
             lua_setfield(lua, -2, method.name);
@@ -111,6 +100,18 @@ BootOptions readOptions(lua_State *lua, const Script &script, const char *functi
 }
 
 } // namespace
+
+std::vector<MethodFamily> methodFamilies() {
+    return {{"time", "Time", timeMethods(), true, true},
+            {"touches", "Touches", touchMethods(), true, true},
+            {"looking", "Looking", lookingMethods(), true, true},
+            {"observing", "Observing", observingMethods(), true, true},
+            {"file", "The settings file", settingsMethods(), true, true},
+            {"home-screen", "The home screen", homeScreenMethods(), true, false},
+            {"lock-screen", "The lock screen and the edges of the device", lockMethods(), true, false},
+            {"opening", "The way to Settings", openingMethods(), true, false},
+            {"pane", "The Settings application", paneMethods(), false, true}};
+}
 
 void pushPhone(lua_State *lua, Phone &phone) {
     *static_cast<Phone **>(lua_newuserdatauv(lua, sizeof(Phone *), 0)) = &phone;

@@ -5,6 +5,7 @@
 #include "Supervisor/Machine/Finger.hpp"
 #include "Supervisor/Machine/SettingsProcess.hpp"
 #include "Supervisor/Machine/SimulatedDevice.hpp"
+#include "Supervisor/Reference/About.hpp"
 
 #include <map>
 #include <memory>
@@ -32,11 +33,13 @@ struct Phone {
     uint64_t serial;                        // tells the phones of one script apart
 };
 
-// A method of it. Arguments start at index 2, there are at most `arguments` of them.
+// A method of it. Arguments start at index 2, there are as many as parameters at most; the name of one that
+// may be left out is in brackets.
 struct Method {
     const char *name;
-    int arguments;
     int (*run)(lua_State *lua, Phone &phone, Script &script);
+    std::vector<Described> parameters;
+    About about;
 };
 
 std::span<const Method> timeMethods();
@@ -48,6 +51,15 @@ std::span<const Method> settingsMethods();
 std::span<const Method> observingMethods();
 std::span<const Method> openingMethods(); // a phone's way to its pane
 std::span<const Method> paneMethods();
+
+// The methods of phones and of panes by what they are for.
+struct MethodFamily {
+    const char *name; // "touches"
+    About title;
+    std::span<const Method> methods;
+    bool ofPhone, ofPane;
+};
+std::vector<MethodFamily> methodFamilies();
 
 // Pushes the object of a phone or pane that the script owns.
 void pushPhone(lua_State *lua, Phone &phone);

@@ -1,4 +1,5 @@
 #include "Conversion.hpp"
+#include "Record.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 #include "ViewTable.hpp"
 
@@ -7,10 +8,6 @@
 namespace sim {
 
 namespace {
-
-const RecordKind kIndicator{"indicator",
-                            {"present", "visible", "image", "alpha", "shadow_opacity", "shadow_radius",
-                             "shadow_color", "x", "y", "w", "h", "view"}};
 
 [[noreturn]] void refuseApplication(const std::string &identifier, const Phone &phone) {
     std::vector<std::string> known;
@@ -94,7 +91,7 @@ int indicator(lua_State *lua, Phone &phone, Script &) {
         pushFirstView(lua, phone, answer);
         lua_setfield(lua, -2, "view");
     }
-    makeRecord(lua, kIndicator);
+    makeRecord(lua, Record::indicator);
     return 1;
 }
 
@@ -117,19 +114,52 @@ int icon(lua_State *lua, Phone &phone, Script &) {
 } // namespace
 
 std::span<const Method> homeScreenMethods() {
-    static const Method methods[] = {{"badge", 2, badge},
-                                     {"run", 1, run},
-                                     {"home", 0, home},
-                                     {"restyle", 0, restyle},
-                                     {"respring", 0, respring},
-                                     {"rotate", 1, rotate},
-                                     {"reachability", 1, reachability},
-                                     {"activator", 0, activator},
-                                     {"call", 2, call},
-                                     {"indicator", 0, indicator},
-                                     {"foreground", 0, foreground},
-                                     {"switcher", 0, switcher},
-                                     {"icon", 1, icon}};
+    static const Described id = {"id", "the application's identifier: \"com.apple.mobilemail\""};
+    static const Method methods[] = {
+        {"badge", badge, {id, {"[n]", "the number; 0 or nil clears"}}, "Puts a badge on an application."},
+        {"run", run, {id}, "Brings an application to the front."},
+        {"home",
+         home,
+         {},
+         "One click of the home button; on a dark device it turns the display on and does no more."},
+        {"restyle",
+         restyle,
+         {},
+         "The status bar changes its style and lays its items out anew, dropping what others put on their "
+         "layers."},
+        {"respring",
+         respring,
+         {},
+         "Starts the home screen anew; events and log go on. Badges, running applications, a lock with a "
+         "passcode "
+         "and the side on which the device is held stay; a finger that was down does not."},
+        {"rotate",
+         rotate,
+         {{"orientation", "1 upright, 2 upside down, 3 and 4 on its sides"}},
+         "Turns the device; what turns with it is told under `interface_turns` of `boot`. Pictures, points "
+         "and frames "
+         "are those of the interface held upright."},
+        {"reachability",
+         reachability,
+         {{"on", "boolean"}},
+         "Pulls the screen down or lets it go. It ends by a home click, the switcher, a launch, the lock, "
+         "the "
+         "display, a turn, and by itself after 8 s without a touch. A device without it gives a `warning` "
+         "event."},
+        {"activator", activator, {}, "The event that is assigned to the extension's Activator listener."},
+        {"call",
+         call,
+         {{"selector", "with its colons"}, {"[argument]", "a number, a string or a view"}},
+         "Sends a message to the SpringBoard object and gives its boolean, number or string: for looking, "
+         "not for "
+         "driving. A method that gives a `char` gives a boolean."},
+        {"indicator", indicator, {}, "The extension's status-bar item as a table."},
+        {"foreground",
+         foreground,
+         {},
+         "Identifier of the application in front, or nil; nil while the device is locked."},
+        {"switcher", switcher, {}, "Identifiers in the switcher, most recent first."},
+        {"icon", icon, {id}, "The view of its icon on the home screen, or nil."}};
     return methods;
 }
 

@@ -1,4 +1,5 @@
 #include "Conversion.hpp"
+#include "Record.hpp"
 #include "Supervisor/Machine/ViewDump.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 #include "ViewTable.hpp"
@@ -9,8 +10,6 @@
 namespace sim {
 
 namespace {
-
-const RecordKind kQuery{"query", {"window", "tag", "class", "name", "text", "inside", "parent", "visible"}};
 
 const std::vector<std::string> kWindows = {"overlay", "statusbar", "home", "lock", "alert", "app"};
 
@@ -39,7 +38,7 @@ Object query(lua_State *lua, const Phone &phone) {
         if (lua_type(lua, -2) != LUA_TSTRING)
             throw std::runtime_error("a query has names for what it asks, not " + describe(lua, -2));
         std::string name = lua_tostring(lua, -2);
-        checkField(kQuery, name);
+        checkField(Record::query, name);
         result.emplace(name, criterion(lua, name, phone));
     }
     return result;
@@ -75,8 +74,24 @@ int dump(lua_State *lua, Phone &phone, Script &) {
 } // namespace
 
 std::span<const Method> lookingMethods() {
+    static const Described query = {"query", "a table; `help query` lists its fields"};
     static const Method methods[] = {
-        {"find", 1, find}, {"all", 1, all}, {"again", 1, again}, {"dump", 1, dump}};
+        {"find",
+         find,
+         {query},
+         "The first view that fits, or nil. Windows come by level, hidden ones before those that are shown "
+         "at the "
+         "same level; a view comes before what it holds."},
+        {"all", all, {query}, "The list of the views that fit, in the same order."},
+        {"again",
+         again,
+         {{"view", "a view that was looked up before"}},
+         "The same view as it is now, or nil when it is gone."},
+        {"dump",
+         dump,
+         {{"[window]", "\"overlay\", \"statusbar\", \"home\", \"lock\", \"alert\" or \"app\"; all "
+                       "without it"}},
+         "The tree of views as text."}};
     return methods;
 }
 

@@ -2,6 +2,7 @@
 #include "Phone.hpp"
 #include "Record.hpp"
 #include "Runtime/Values/Nanoseconds.hpp"
+#include "Supervisor/Machine/EventKinds.hpp"
 #include "Supervisor/Machine/FilmStrip.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 
@@ -13,15 +14,6 @@ namespace sim {
 
 namespace {
 
-const RecordKind &eventKind() {
-    static const RecordKind kind{"event", eventFields()};
-    return kind;
-}
-
-const RecordKind kCounters{
-    "counter",
-    {"settings_reads", "settings_writes", "timers", "windows", "views", "blocks", "observers", "live"}};
-
 int log(lua_State *lua, Phone &phone, Script &) {
     push(lua, phone.device.events().log());
     return 1;
@@ -29,18 +21,19 @@ int log(lua_State *lua, Phone &phone, Script &) {
 
 int events(lua_State *lua, Phone &phone, Script &) {
     if (lua_isnoneornil(lua, 2)) {
-        pushRecords(lua, eventKind(), phone.device.events().all());
+        pushRecords(lua, Record::event, phone.device.events().all());
         return 1;
     }
     std::string kind = text(lua, 2, "the kind of event");
-    if (!std::ranges::count(eventKinds(), kind))
-        throw std::runtime_error("there is no event of kind '" + kind + "'" + suggestion(kind, eventKinds()));
-    pushRecords(lua, eventKind(), phone.device.events().ofKind(kind));
+    if (!std::ranges::count(eventKindNames(), kind))
+        throw std::runtime_error("there is no event of kind '" + kind + "'" +
+                                 suggestion(kind, eventKindNames()));
+    pushRecords(lua, Record::event, phone.device.events().ofKind(kind));
     return 1;
 }
 
 int counters(lua_State *lua, Phone &phone, Script &) {
-    pushRecord(lua, kCounters, phone.device.ask("counters"));
+    pushRecord(lua, Record::counters, phone.device.ask("counters"));
     return 1;
 }
 
@@ -89,9 +82,26 @@ int filmstrip(lua_State *lua, Phone &phone, Script &script) {
 } // namespace
 
 std::span<const Method> observingMethods() {
-    static const Method methods[] = {{"log", 0, log},           {"events", 1, events},
-                                     {"counters", 0, counters}, {"reset_counters", 0, resetCounters},
-                                     {"shot", 1, shot},         {"filmstrip", 3, filmstrip}};
+    static const Described name = {"name", "of the file, without \".png\"; may lead into a folder"};
+    static const Method methods[] = {
+        {"log", log, {}, "The lines of the system log since `boot`, as a list."},
+        {"events",
+         events,
+         {{"[kind]", "only events of this kind; `help events` lists them"}},
+         "What happened since `boot`, as a list of tables {t =, kind =, …}."},
+        {"counters", counters, {}, "What the process counts, as a table."},
+        {"reset_counters", resetCounters, {}, "Counts `settings_reads` and `settings_writes` from 0 again."},
+        {"shot",
+         shot,
+         {name},
+         "Writes the screen as a picture of the device's own pixels into the folder of "
+         "pictures and gives its path."},
+        {"filmstrip",
+         filmstrip,
+         {name, {"seconds", "how long to watch"}, {"frames", "how many, 1 to 100"}},
+         "Lets that time pass and writes one picture of so many moments side by side, the first at the "
+         "start, the "
+         "last at the end. Gives its path."}};
     return methods;
 }
 

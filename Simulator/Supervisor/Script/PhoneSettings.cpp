@@ -44,10 +44,24 @@ int deleteSettings(lua_State *, Phone &phone, Script &) {
 } // namespace
 
 std::span<const Method> settingsMethods() {
-    static const Method methods[] = {{"set", 2, set},
-                                     {"settings", 0, settings},
-                                     {"settings_text", 1, settingsText},
-                                     {"delete_settings", 0, deleteSettings}};
+    static const Method methods[] = {
+        {"set",
+         set,
+         {{"key", "a setting, or a table of settings and values"}, {"[value]", "nil removes the key"}},
+         "Writes into the settings file from outside the process, as the pane does. A file that cannot be "
+         "read is "
+         "replaced. `help settings` lists the extension's."},
+        {"settings",
+         settings,
+         {},
+         "The settings file as a table; nil when it is absent, and nil with a `warning` event when it cannot "
+         "be "
+         "read."},
+        {"settings_text",
+         settingsText,
+         {{"bytes", "all of the file's"}},
+         "Replaces the settings file by these bytes, whatever they are."},
+        {"delete_settings", deleteSettings, {}, "Removes the settings file."}};
     return methods;
 }
 

@@ -27,7 +27,22 @@ int now(lua_State *lua, Phone &phone, Script &) {
 } // namespace
 
 std::span<const Method> timeMethods() {
-    static const Method methods[] = {{"wait", 1, wait}, {"settle", 1, settle}, {"now", 0, now}};
+    static const Method methods[] = {
+        {"wait",
+         wait,
+         {{"seconds", "how long"}},
+         "Lets time pass on the whole device. While a finger is on a scroll view, timers of the default "
+         "run-loop "
+         "mode wait."},
+        {"settle",
+         settle,
+         {{"[limit]", "the most to wait, in seconds; 60 without it"}},
+         "Lets time pass until no animation that ends, touch or deceleration is under way, and gives the "
+         "seconds "
+         "that passed. Repeating timers and endless animations do not count; a finger that is down does. "
+         "Past the "
+         "limit it is an error that names what is still busy."},
+        {"now", now, {}, "Seconds since `boot` returned: the clock of the events' `t`."}};
     return methods;
 }
 

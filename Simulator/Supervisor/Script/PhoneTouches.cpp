@@ -95,9 +95,32 @@ Finger &Phone::fingerNumbered(int64_t number) {
 }
 
 std::span<const Method> touchMethods() {
-    static const Method methods[] = {{"tap", 1, tap},     {"hold", 2, hold}, {"drag", 4, drag},
-                                     {"fling", 4, fling}, {"down", 2, down}, {"move", 3, move},
-                                     {"up", 1, up}};
+    static const Described target = {"target",
+                                     "a view (its centre as it was seen) or {x, y}, points of the screen "
+                                     "held upright"},
+                           dx = {"dx", "points to the right"}, dy = {"dy", "points downwards"},
+                           seconds = {"seconds", "how long"},
+                           finger = {"[finger]", "which, 1 to 10; 1 without it"};
+    static const Method methods[] = {
+        {"tap",
+         tap,
+         {target},
+         "A finger lands and lifts 0.1 s later. On a view that is covered the touch goes to what lies above, "
+         "on one "
+         "that is gone to where it was; both give a `warning` event."},
+        {"hold", hold, {target, seconds}, "A finger lands, keeps still and lifts."},
+        {"drag",
+         drag,
+         {target, dx, dy, seconds},
+         "A finger lands, moves with 60 samples a second, rests for 0.1 s and lifts. More than 10 points are "
+         "a pan."},
+        {"fling", fling, {target, dx, dy, seconds}, "The same, but it lifts with its last sample."},
+        {"down", down, {target, finger}, "A finger lands and stays."},
+        {"move",
+         move,
+         {{"x", "points from the left"}, {"y", "points from the top"}, finger},
+         "Moves a finger that is down."},
+        {"up", up, {finger}, "Lifts a finger."}};
     return methods;
 }
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Runtime/Values/Value.hpp"
+#include "Supervisor/Reference/About.hpp"
 
 #include <lua.hpp>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -11,18 +13,38 @@ namespace sim {
 
 struct RecordKind {
     const char *name; // "event"
-    std::vector<std::string> fields;
+    About about;
+    std::vector<Described> fields;
 };
 
-// Pushes an object's members as a record. `kind` must live as long as the process.
-void pushRecord(lua_State *lua, const RecordKind &kind, const Value &members);
+// Every kind, with its row in recordKinds().
+enum class Record {
+    query,
+    view,
+    rectangle,
+    scroll,
+    animation,
+    indicator,
+    event,
+    counters,
+    page,
+    row,
+    alert,
+    sheet,
+};
+const RecordKind &recordKind(Record record);
+// In the order of Record.
+std::span<const RecordKind> recordKinds();
+
+// Pushes an object's members as a record.
+void pushRecord(lua_State *lua, Record kind, const Value &members);
 // A list of them.
-void pushRecords(lua_State *lua, const RecordKind &kind, const Array &list);
+void pushRecords(lua_State *lua, Record kind, const Array &list);
 
 // Gives the table on top of the stack the kind's behaviour.
-void makeRecord(lua_State *lua, const RecordKind &kind);
+void makeRecord(lua_State *lua, Record kind);
 
 // Throws std::runtime_error for the name `field`, which is none of the kind's, and nothing otherwise.
-void checkField(const RecordKind &kind, const std::string &field);
+void checkField(Record kind, const std::string &field);
 
 } // namespace sim

@@ -38,8 +38,6 @@ Script::Script(DeviceSetup setup, ScriptOptions options)
     if (!lua_) throw std::runtime_error("no memory for the interpreter");
     *static_cast<Script **>(lua_getextraspace(lua_)) = this;
     openLibrary(lua_, options_);
-    openExpectations(lua_);
-    openDevices(lua_);
 }
 
 Script::~Script() { lua_close(lua_); }

@@ -2,6 +2,7 @@
 
 #include "Binding.hpp"
 #include "Conversion.hpp"
+#include "Record.hpp"
 #include "Supervisor/Machine/ViewDump.hpp"
 
 #include <cmath>
@@ -28,10 +29,6 @@ struct Identity {
 
 constexpr const char *kIdentity = "view identity";
 constexpr const char *kIdentities = "view identities";
-
-const RecordKind kScroll{"scroll", {"x", "y", "content_w", "content_h", "paging", "enabled"}};
-const RecordKind kAnimation{"animation",
-                            {"key", "keypath", "from", "to", "duration", "repeats", "autoreverses"}};
 
 int destroyIdentity(lua_State *lua) {
     static_cast<Identity *>(lua_touserdata(lua, 1))->~Identity();
@@ -73,12 +70,12 @@ void pushAnimations(lua_State *lua, Array animations) {
     for (auto &animation : animations)
         // There is no number without end in JSON.
         if (animation["repeats"] == Value("forever")) animation.set("repeats", HUGE_VAL);
-    pushRecords(lua, kAnimation, animations);
+    pushRecords(lua, Record::animation, animations);
 }
 
 void pushField(lua_State *lua, const std::string &name, const Value &value) {
-    if (name == "screen") return pushRecord(lua, rectFields(), value);
-    if (name == "scroll") return pushRecord(lua, kScroll, value);
+    if (name == "screen") return pushRecord(lua, Record::rectangle, value);
+    if (name == "scroll") return pushRecord(lua, Record::scroll, value);
     if (name == "animations") return pushAnimations(lua, value.array());
     push(lua, value);
 }
@@ -121,13 +118,13 @@ int readField(lua_State *lua, Script &) {
         pushChildren(lua, 1, *of);
         return 1;
     }
-    if (lua_type(lua, 2) == LUA_TSTRING) checkField(viewFields(), field);
+    if (lua_type(lua, 2) == LUA_TSTRING) checkField(Record::view, field);
     lua_pushnil(lua);
     return 1;
 }
 
 int writeField(lua_State *lua, Script &) {
-    checkField(viewFields(), text(lua, 2, "a field"));
+    checkField(Record::view, text(lua, 2, "a field"));
     throw std::runtime_error("a view is a snapshot: changing it changes nothing");
 }
 
@@ -164,50 +161,6 @@ std::shared_ptr<const Snapshot> makeSnapshot(const Phone &phone, Value answer) {
 }
 
 } // namespace
-
-const RecordKind &viewFields() {
-    static const RecordKind kind{"view",
-                                 {"class",
-                                  "tag",
-                                  "x",
-                                  "y",
-                                  "w",
-                                  "h",
-                                  "screen",
-                                  "alpha",
-                                  "presented_alpha",
-                                  "hidden",
-                                  "interactive",
-                                  "text",
-                                  "font",
-                                  "font_size",
-                                  "text_color",
-                                  "name",
-                                  "background",
-                                  "tint",
-                                  "corner_radius",
-                                  "border_width",
-                                  "border_color",
-                                  "shadow_opacity",
-                                  "shadow_radius",
-                                  "shadow_color",
-                                  "image",
-                                  "title",
-                                  "scroll",
-                                  "animations",
-                                  "gestures",
-                                  "transform",
-                                  "z",
-                                  "level",
-                                  "state",
-                                  "children"}};
-    return kind;
-}
-
-const RecordKind &rectFields() {
-    static const RecordKind kind{"rectangle", {"x", "y", "w", "h"}};
-    return kind;
-}
 
 void pushViews(lua_State *lua, const Phone &phone, Value answer) {
     auto snapshot = makeSnapshot(phone, std::move(answer));

@@ -2,16 +2,10 @@
 #pragma once
 
 #include "Phone.hpp"
-#include "Record.hpp"
 
 #include <lua.hpp>
 
 namespace sim {
-
-// The fields that a view may have.
-const RecordKind &viewFields();
-// {x, y, w, h}
-const RecordKind &rectFields();
 
 // Pushes the matches of an answer to a question for views, {"matches": [number], "views": [view]}, as a list.
 // Each view's `children` are made when they are first asked for.

@@ -73,7 +73,8 @@ expect_eq(phone:foreground(), nil, "for the home screen")
 
 -- the finger
 phone:finger(1)
-expect_eq(#phone:events("warning"), 0, "a device with a sensor takes it")
+phone:finger("no_match")
+expect_eq(#phone:events("warning"), 0, "a device with a sensor takes it, by number and by name")
 local old = boot { extension = false, device = "iPhone 4S" }
 old:finger(1)
 expect_eq(#old:events("warning"), 1, "one without warns")
@@ -81,6 +82,7 @@ expect_eq(#old:events("warning"), 1, "one without warns")
 refused("no display", "true or false", function() phone:display() end)
 refused("a display of 1", "true or false", function() phone:display(1) end)
 refused("a banner without words", "the banner's text", function() phone:banner() end)
-refused("a finger of words", "a whole number", function() phone:finger("up") end)
+refused("a misspelt finger", "did you mean 'no_match'?", function() phone:finger("nomatch") end)
+refused("a finger that is none", "a whole number", function() phone:finger(true) end)
 refused("a finger below none", "negative", function() phone:finger(-1) end)
 refused("an argument too many", "takes no arguments", function() phone:unlock("1234") end)
