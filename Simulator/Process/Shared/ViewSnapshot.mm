@@ -149,15 +149,12 @@ Array lookOf(UIView *view) {
     UIFont *font = objectFrom(view, @selector(font), [UIFont class]);
     UIColor *ink = objectFrom(view, @selector(textColor), [UIColor class]);
     UIScrollView *scroll = [view isKindOfClass:[UIScrollView class]] ? (UIScrollView *)view : nil;
-    return {rounded(now.opacity),
-            background(view),
-            rounded(now.cornerRadius),
-            rounded(now.borderWidth),
-            colorOf(ink ? ink : [view tintColor]),
-            font ? rounded([font pointSize]) : 0,
+    return {
+        rounded(now.opacity), background(view), rounded(now.cornerRadius), rounded(now.borderWidth),
+            colorOf(ink ? ink : [view tintColor]), font ? rounded([font pointSize]) : 0,
             objectFrom(view, @selector(image), [UIImage class]) != nil,
-            scroll ? rounded([scroll contentOffset].x) : 0,
-            scroll ? rounded([scroll contentSize].width) : 0};
+            scroll ? rounded([scroll contentOffset].x) : 0, scroll ? rounded([scroll contentSize].width) : 0
+    };
 }
 
 Value snapshot(const std::vector<UIView *> &views) {

@@ -18,6 +18,11 @@ const OptionTable &bootOptionTable() {
           "list of tables in home-screen order, running ones most recent first; without it 24 stock ones, "
           "without badges"},
          {"extension", "false leaves the library out; true without it"},
+         {"extensions", "list of paths of other extensions to load, beside the package's or, with `extension "
+                        "= false`, instead of "
+                        "it: folders that were built, or libraries with their filters beside them; as seen "
+                        "from the script's "
+                        "folder"},
          {"hide_classes",
           "list of class names made absent; one that the library names statically is refused, one "
           "that does not exist gives a `warning` event"},
