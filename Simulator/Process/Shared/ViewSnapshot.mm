@@ -156,15 +156,12 @@ Array lookOf(UIView *view) {
     UIFont *font = objectFrom(view, @selector(font), [UIFont class]);
     UIColor *ink = objectFrom(view, @selector(textColor), [UIColor class]);
     UIScrollView *scroll = [view isKindOfClass:[UIScrollView class]] ? (UIScrollView *)view : nil;
-    return {finite(now.opacity),
-            background(view),
-            finite(now.cornerRadius),
-            finite(now.borderWidth),
-            colorOf(ink ? ink : [view tintColor]),
-            font ? finite([font pointSize]) : 0,
+    return {
+        finite(now.opacity), background(view), finite(now.cornerRadius), finite(now.borderWidth),
+            colorOf(ink ? ink : [view tintColor]), font ? finite([font pointSize]) : 0,
             objectFrom(view, @selector(image), [UIImage class]) != nil,
-            scroll ? finite([scroll contentOffset].x) : 0,
-            scroll ? finite([scroll contentSize].width) : 0};
+            scroll ? finite([scroll contentOffset].x) : 0, scroll ? finite([scroll contentSize].width) : 0
+    };
 }
 
 Value snapshot(const std::vector<UIView *> &views) {

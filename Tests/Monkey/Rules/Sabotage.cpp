@@ -66,7 +66,9 @@ std::string textOf(const Script &lines) {
     return text;
 }
 
-void PrintTo(const Case &broken, std::ostream *out) { *out << (broken.sabotage ? broken.sabotage : broken.rule); }
+void PrintTo(const Case &broken, std::ostream *out) {
+    *out << (broken.sabotage ? broken.sabotage : broken.rule);
+}
 
 std::string caseName(const testing::TestParamInfo<Case> &info) {
     std::string name = (info.param.sabotage ? info.param.sabotage : info.param.rule) + std::string("_") +

@@ -15,7 +15,7 @@ using Script = std::vector<std::string>;
 struct Scene {
     Script script;
     sim::Object settings;
-    double at; // when the saboteur acts, seconds
+    double at;             // when the saboteur acts, seconds
     sim::Object boot = {}; // more of the table that the device is booted with
 };
 

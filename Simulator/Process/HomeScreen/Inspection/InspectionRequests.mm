@@ -71,13 +71,14 @@ Value switcher() {
     return Array(identifiers.begin(), identifiers.end());
 }
 
-// As it is seen at this moment, upright, its alpha, and its shadow's opacity, radius and colour; null where the bar has no view for it.
+// As it is seen at this moment, upright, its alpha, and its shadow's opacity, radius and colour; null where
+// the bar has no view for it.
 Value itemPlace(const std::string &identifier) {
     UIView *view = statusBarItemView(identifier);
     if (!view) return {};
     const CGRect frame = presentedOnScreen(view);
     const LayerProperties &model = state([view layer]).model;
-    return Array{frame.origin.x, frame.origin.y,    frame.size.width, frame.size.height,
+    return Array{frame.origin.x, frame.origin.y,      frame.size.width,   frame.size.height,
                  model.opacity,  model.shadowOpacity, model.shadowRadius, colorText(model.shadowColor)};
 }
 

@@ -40,7 +40,8 @@ void prepareAndSpoil(id self, SEL selector, id view) {
 }
 void spoilOpenings(void (*way)()) {
     spoil = way;
-    MSHookMessageEx([SpringBoard class], sel_registerName("prepareUI:"), (IMP)prepareAndSpoil, (IMP *)&prepare);
+    MSHookMessageEx([SpringBoard class], sel_registerName("prepareUI:"), (IMP)prepareAndSpoil,
+                    (IMP *)&prepare);
 }
 void hide() { [item(0) removeFromSuperview]; }
 void exchange() {
@@ -116,21 +117,17 @@ void showAllBadges() {
 } // namespace
 
 std::span<const Act> sightActs() {
-    static const Act list[] = {{"hide item", hideItem},         {"exchange items", exchangeItems},
-                               {"rename item", renameItem},     {"renumber item", renumberItem},
-                               {"shift item", shiftItem},       {"lower item", lowerItem},
-                               {"widen panel", widenPanel},     {"heighten panel", heightenPanel},
-                               {"lose dot", loseDot},           {"pale name", paleName},
-                               {"small name", smallName},       {"square panel", squarePanel},
-                               {"square badge", squareBadge},   {"pale logo", paleLogo},
-                               {"deaf items", deafItems},       {"deaf presses", deafPresses},
-                               {"keep items", keepItems},       {"stay open", stayOpen},
-                               {"deaf keys", deafKeys},         {"deaf choice", deafChoice},
-                               {"deaf delete", deafDelete},     {"say other", sayOther},
-                               {"shift key", shiftKey},         {"wrong letters", wrongLetters},
-                               {"low panel", lowPanel},         {"pale button", paleButton},
-                               {"glow", glow},                  {"dim glow", dimGlow},
-                               {"show badges", showAllBadges}};
+    static const Act list[] = {
+        {"hide item", hideItem},         {"exchange items", exchangeItems}, {"rename item", renameItem},
+        {"renumber item", renumberItem}, {"shift item", shiftItem},         {"lower item", lowerItem},
+        {"widen panel", widenPanel},     {"heighten panel", heightenPanel}, {"lose dot", loseDot},
+        {"pale name", paleName},         {"small name", smallName},         {"square panel", squarePanel},
+        {"square badge", squareBadge},   {"pale logo", paleLogo},           {"deaf items", deafItems},
+        {"deaf presses", deafPresses},   {"keep items", keepItems},         {"stay open", stayOpen},
+        {"deaf keys", deafKeys},         {"deaf choice", deafChoice},       {"deaf delete", deafDelete},
+        {"say other", sayOther},         {"shift key", shiftKey},           {"wrong letters", wrongLetters},
+        {"low panel", lowPanel},         {"pale button", paleButton},       {"glow", glow},
+        {"dim glow", dimGlow},           {"show badges", showAllBadges}};
     return list;
 }
 
