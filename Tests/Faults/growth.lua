@@ -31,7 +31,7 @@ local function visit_settings(phone)
   phone:wait(1)
 end
 
-local locked = { pass = true, password = "1234", where = "every" }
+local locked = { pass = true, password = "1234", where = "every", clear = true }
 local locked_with_finger = { pass = true, password = "1234", where = "every", touchid = true, ask = true }
 -- name = { settings, what is done in a round, more options }; `slow` ones get a fifth of the rounds.
 local activities = {

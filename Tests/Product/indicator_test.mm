@@ -1,13 +1,17 @@
 // What the indicator and the badges do whoever asks: a pulse starts only where the settings let it and ends
 // with its view, a spoilt file glows red, not clear, the badges' height is that of the first one seen, and
 // badges that others hide stay hidden.
+#include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
+#include "Tweak/Core/Tags.h"
+#include "Tweak/Panel/Panel.h"
 #include "Tweak/Start/HookTable.h"
 #include "Tweak/StatusBar/StatusBar.h"
 #include "UIKit/UIKit+Further.h"
 
 #include "SpringBoard/Harness.h"
 #include "SpringBoard/Sandbox.h"
+#include "UIKit/Application/ApplicationState.h"
 
 namespace {
 
@@ -61,6 +65,52 @@ TEST_F(Indicator, PulsesOnlyWhereTheSettingsLetIt) {
         EXPECT_EQ([[view() layer] shadowOpacity] == 1, c.pulses) << c.settings;
     }
     EXPECT_TRUE(breathes());
+}
+
+TEST_F(Indicator, ABadgeEndsThePulseOfAnIndicatorThatIsToHide) {
+    boot("{ enable = 1; glow = 1; }");
+    sim::setBadge("org.example.1", 1);
+    EXPECT_TRUE(breathes());
+    // Before the poll sees it.
+    settings("{ enable = 1; glow = 1; hide = 1; }");
+    sim::setBadge("org.example.1", 2);
+    EXPECT_FALSE(pendix::needToPulse);
+    EXPECT_FALSE([pendix::statusbaritem isVisible]);
+}
+
+TEST_F(Indicator, ItsLogoIsAwayOnTheSideWithoutAStatusBar) {
+    boot("{ enable = 1; }");
+    [pendix::Spring tap];
+    harness::wait(1);
+    UIView *logo = pendix::overlayView(pendix::tags::logo);
+    ASSERT_NE(logo, nil);
+    sim::setStatusBarHidden(true);
+    struct {
+        UIInterfaceOrientation orientation;
+        CGFloat alpha;
+    } const turns[] = {{UIInterfaceOrientationLandscapeRight, 0},
+                       {UIInterfaceOrientationPortrait, 1},
+                       {UIInterfaceOrientationLandscapeLeft, 0},
+                       {UIInterfaceOrientationPortraitUpsideDown, 1}};
+    for (const auto &turn : turns) {
+        sim::setDeviceOrientation(static_cast<UIDeviceOrientation>(turn.orientation));
+        [pendix::Spring pendixWillRotate:[NSNotification notificationWithName:@"turn"
+                                                                       object:[UIDevice currentDevice]]];
+        EXPECT_EQ(logo.alpha, turn.alpha) << turn.orientation;
+    }
+}
+
+TEST_F(Indicator, CountsOnThePanelAreDrawn) {
+    boot("{ enable = 1; }");
+    sim::setBadge("org.example.1", 12);
+    sim::setBadge("org.example.2", 12); // whose drawing is that of the first
+    [pendix::Spring tap];
+    harness::wait(1);
+    ASSERT_EQ([pendix::itemViews() count], 2U);
+    for (UIView *item in pendix::itemViews()) {
+        UIView *badge = pendix::subviewWithTag(item, pendix::tags::itemBadge);
+        EXPECT_NE([(UIImageView *)[badge.subviews objectAtIndex:0] image], nil);
+    }
 }
 
 TEST_F(Indicator, ItsPulseEndsWithItsView) {

@@ -124,6 +124,9 @@ TEST_F(PanelSupport, ADimBandSweepsAcrossUntilStopped) {
         double wait;
         long place; // tenths of the width; -1: nothing is dim
     } const moments[] = {{0.3125, 1}, {0.3125, 5}, {0.3125, 9}, {1.5, -1}, {2.5, -1}, {0.6875, 5}};
+    NSArray *ends = [(CABasicAnimation *)[view.layer.mask animationForKey:@"shimmer"] toValue];
+    for (NSUInteger i = 1; i < [ends count]; ++i)
+        EXPECT_GT([[ends objectAtIndex:i] doubleValue], [[ends objectAtIndex:i - 1] doubleValue]);
     for (const auto &moment : moments) {
         harness::wait(moment.wait);
         const auto [place, brightness] = dimmest(frame);

@@ -24,6 +24,8 @@ expect_eq(phone:indicator().visible, false, "a badge does not show it in running
 after({ badge = false }, false, "Pendix", "the mode alone does not recompute the visibility")
 phone:badge(H.mail, 2)
 expect_eq(phone:indicator().visible, true, "but the next badge does, at once")
+after({ enable = false }, false, nil, "enable off while a badge waits")
+after({ enable = true }, true, nil, "enable with hide_t and a badge that waits, without a pulse")
 phone:delete_settings()
 phone:wait(1)
 expect_eq(phone:indicator().visible, false, "without a file everything is off")

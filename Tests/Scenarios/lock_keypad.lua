@@ -73,9 +73,16 @@ end
 for clear, wanted in pairs{ [false] = "", [true] = "0 1 2 3 4 5 6 7 8 9   ABC DEF GHI JKL MNO PQRS TUV WXYZ" } do
   local phone = L.boot_locked({ clear = clear, light = clear }, { ios = "7.1", device = "iPhone 4S" })
   L.open(phone)
-  local texts = {}
+  local texts, letters = {}, { [0] = nil, " ", "ABC", "DEF", "GHI", "JKL", "MNO", "PQRS", "TUV", "WXYZ" }
+  expect_eq(L.part(phone, "keypad", L.tags.title).font_size, 20, "the title's type")
+  local written = phone:find{ parent = L.button(phone), class = "UIButtonLabel" }
+  expect_eq(written.text_color, clear and "#000000ff" or "#ffffffff", "the button's title in ink")
   for digit = 0, 9 do
-    for _, label in ipairs(phone:all{ parent = L.key(phone, digit), class = "UILabel" }) do
+    local key = L.key(phone, digit)
+    for i, label in ipairs(phone:all{ parent = key, class = "UILabel" }) do
+      expect_eq(label.text, i == 1 and tostring(digit) or letters[digit], "text " .. i .. " of key " .. digit)
+      expect_eq({ label.x, label.y, label.w, label.h }, i == 1 and { 0, -5, key.w, key.h } or { 0, key.h / 2, key.w, key.h / 2 },
+        "place of text " .. i .. " of key " .. digit)
       texts[#texts + 1] = label.text
       expect_eq(label.text_color, "#000000ff", "in ink")
     end

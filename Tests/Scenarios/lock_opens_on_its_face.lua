@@ -71,3 +71,14 @@ for _, case in ipairs{
   expect_eq(L.title(phone, "ask"), case[3], "the ask face's message")
   L.no_harm(phone)
 end
+
+-- A message that is longer than the panel is wide has two lines, and the face is so much higher.
+do
+  local phone = boot{ device = "iPhone 4S", ios = "7.1", language = "it", apps = L.apps("org.example.ada"),
+    settings = { enable = true, pass = true, password = "1234", ask = true, badge = true } }
+  L.open(phone)
+  local message = L.part(phone, "ask", L.tags.title)
+  expect_eq(message.text, "Nessuna app in esecuzione", "in one line 257 points long")
+  expect(message.h > 40 and message.h < 60, "two lines of 20 points")
+  expect_near(L.panel(phone).h, 10 + message.h + 10 + 45, 0.01, "the panel has room for both")
+end

@@ -75,6 +75,17 @@ for _, device in ipairs{ "iPhone 4S", "iPhone 6", "iPad Air 2" } do
   end
 end
 
+-- The face that was passed leaves downwards by its own height.
+do
+  local phone = L.boot_locked()
+  L.open(phone)
+  local high = L.face_view(phone, "keypad").h
+  L.type(phone, "1234")
+  phone:wait(0.3)
+  local leaving = L.face_view(phone, "keypad")
+  expect_eq({ leaving.x, leaving.y, leaving.h }, { 0, high, high }, "where the keypad goes")
+end
+
 -- Closed while it unlocks, and opened again at once: the new panel is locked and whole.
 local phone = L.boot_locked()
 L.open(phone)

@@ -41,6 +41,8 @@ do
   local phone, pane = P.start{}
   P.go(pane, { "Configuration" })
   pane:open("Activator")
+  local bars = pane:all{ class = "UINavigationBar" }
+  expect(bars[#bars].screen.y > 100, "it comes from below")
   pane:settle()
   local shown = pane:events("activator_settings")
   expect_eq(#shown, 1, "the page is shown")

@@ -34,6 +34,8 @@ for _, case in ipairs{ { icon, "tint" }, { mark, "colors" } } do
   local phone, pane = P.start{ [other] = "brown" }
   P.go(pane, path)
   expect_eq(shown(pane, path), rgba.red, key .. ": red when nothing is stored")
+  local blink = pane:find{ class = "UILabel", tag = 4, text = "slide to choose a color" }.animations[1]
+  expect_eq({ blink.keypath, blink.repeats }, { "opacity", math.huge }, key .. ": the hint blinks on and on")
   for i = 1, #names do
     swipe(pane, "left")
     local name = names[i % #names + 1]

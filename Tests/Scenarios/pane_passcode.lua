@@ -115,6 +115,9 @@ do
   P.toggle(pane, "Lock Panel")
   P.type(pane, "1111")
   expect_eq(phone:settings().pass, true, "and on again the same way")
+  P.back(pane)
+  P.go(pane, { "Passcode Lock" })
+  sheet(pane, 0, 0, "who comes back is asked all the same")
   no_harm(phone, pane)
 end
 

@@ -85,6 +85,31 @@ phone:tap(P.items(phone)[1])
 phone:settle()
 expect_eq(phone:foreground(), P.app(3), "and taps open applications")
 
+-- On their way the marks turn from squares into discs; the home button lets them shrink in the time in which they grew.
+do
+  phone = P.boot{ close = true }
+  P.open(phone)
+  local function moving(what)
+    local turning, lasting = nil, 0
+    for _, animation in ipairs(marks(phone)[1].animations) do
+      if animation.keypath == "cornerRadius" then turning = { animation.from, animation.to }
+      else lasting = math.max(lasting, animation.duration) end
+    end
+    expect_near(lasting, 0.4, 0.001, what .. ": how long")
+    return turning
+  end
+  phone:down(P.items(phone)[1])
+  for _ = 1, 90 do
+    if marks(phone)[1].w == 0 then phone:wait(1 / 60) end
+  end
+  expect_eq(moving("growing"), { 0, 10 }, "the corners of a mark that grows")
+  phone:up()
+  phone:settle()
+  phone:home()
+  expect_eq(moving("shrinking"), { 10, 0 }, "and of one that shrinks")
+  phone:settle()
+end
+
 -- Two taps on one mark take one application off.
 phone = P.boot({ close = true }, { apps = P.numbered(5) })
 P.open(phone)

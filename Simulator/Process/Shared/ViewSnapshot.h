@@ -20,7 +20,7 @@ Value imageOf(UIView *view);
 
 // How the view is drawn at this moment: [alpha, background or null, corner radius, border's width, the colour
 // of its text or its tint, the size of its font or 0, whether it has a picture, and how far it is scrolled
-// and how wide its contents are, both 0 for what does not scroll].
+// and how wide its contents are, both 0 for what does not scroll]. A number that is none counts as 0.
 Array lookOf(UIView *view);
 
 } // namespace sim

@@ -10,6 +10,7 @@
 
 #include <objc/runtime.h>
 
+#include <cmath>
 #include <set>
 
 namespace sim {
@@ -144,16 +145,22 @@ void collect(UIView *view, std::set<int64_t> &seen, Array &views) {
 
 } // namespace
 
+namespace {
+
+double finite(double number) { return std::isfinite(number) ? rounded(number) : 0; }
+
+} // namespace
+
 Array lookOf(UIView *view) {
     const LayerProperties now = presented([view layer]);
     UIFont *font = objectFrom(view, @selector(font), [UIFont class]);
     UIColor *ink = objectFrom(view, @selector(textColor), [UIColor class]);
     UIScrollView *scroll = [view isKindOfClass:[UIScrollView class]] ? (UIScrollView *)view : nil;
     return {
-        rounded(now.opacity), background(view), rounded(now.cornerRadius), rounded(now.borderWidth),
-            colorOf(ink ? ink : [view tintColor]), font ? rounded([font pointSize]) : 0,
+        finite(now.opacity), background(view), finite(now.cornerRadius), finite(now.borderWidth),
+            colorOf(ink ? ink : [view tintColor]), font ? finite([font pointSize]) : 0,
             objectFrom(view, @selector(image), [UIImage class]) != nil,
-            scroll ? rounded([scroll contentOffset].x) : 0, scroll ? rounded([scroll contentSize].width) : 0
+            scroll ? finite([scroll contentOffset].x) : 0, scroll ? finite([scroll contentSize].width) : 0
     };
 }
 

@@ -161,13 +161,8 @@ void judge(const Case &c) {
 } // namespace
 
 void checkConsequences(const Moment &moment, Memory &memory, Findings &findings) {
-    constexpr int64_t kRested = 300'000'000;
-    const SceneMemory &seen = memory.scene, &then = memory.sceneBefore;
-    if (!moment.before || moment.settingsChanged || !moment.call.ends_with(" phone:wait(1.5)")) return;
-    std::optional<Scene> before = sceneOf(*moment.before);
-    if (!before || before->face || before->moving || then.mixed || !then.upright || !then.fingers.empty() ||
-        !seen.fingers.empty() || moment.from - then.steadySince < kRested || !moment.before->display)
-        return;
+    std::optional<Scene> before = sceneBeforeAct(moment, memory.sceneBefore, memory.scene);
+    if (!before || before->face) return;
     judge({moment, *before, sceneOf(moment.now), findings});
 }
 

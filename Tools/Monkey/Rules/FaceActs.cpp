@@ -97,13 +97,8 @@ void tap(const Case &c, double x, double y) {
 } // namespace
 
 void checkFaceActs(const Moment &moment, Memory &memory, Findings &findings) {
-    constexpr int64_t kRested = 300'000'000;
-    const SceneMemory &then = memory.sceneBefore;
-    if (!moment.before || moment.settingsChanged || !moment.call.ends_with(" phone:wait(1.5)")) return;
-    const std::optional<Scene> scene = sceneOf(*moment.before);
-    if (!scene || !scene->face || scene->moving || then.mixed || !then.upright || !then.fingers.empty() ||
-        moment.from - then.steadySince < kRested || !moment.before->display)
-        return;
+    const std::optional<Scene> scene = sceneBeforeAct(moment, memory.sceneBefore, memory.scene);
+    if (!scene || !scene->face) return;
     const Case c{moment, standingIn(*moment.before), standingIn(moment.now), findings};
     if (!c.before.tag) return;
     double x = 0, y = 0, wait = 0;

@@ -84,9 +84,22 @@ void followScene(const Moment &moment, SceneMemory &memory) {
     if (moment.restarted()) memory.asBooted = true;
     else if (moment.settingsChanged) memory.asBooted = false;
     if (moment.settingsChanged) memory.settingsAt = moment.to;
+    for (const char *touch : {":tap", ":hold", ":drag", ":fling", ":down", ":move", ":up"})
+        if (moment.call.find(touch) != std::string::npos)
+            memory.touchedAt = moment.to - (moment.call.ends_with(" phone:wait(1.5)") ? 1'500'000'000 : 0);
     followBadges(moment, memory.badges);
     followFingers(moment, memory.fingers);
     followPlace(moment, memory);
+}
+
+std::optional<Scene> sceneBeforeAct(const Moment &moment, const SceneMemory &then, const SceneMemory &now) {
+    constexpr int64_t kRested = 300'000'000;
+    if (!moment.before || moment.settingsChanged || !moment.call.ends_with(" phone:wait(1.5)")) return std::nullopt;
+    std::optional<Scene> scene = sceneOf(*moment.before);
+    if (!scene || scene->moving || then.mixed || !then.upright || !then.fingers.empty() || !now.fingers.empty())
+        return std::nullopt;
+    const bool rested = moment.from - then.steadySince >= kRested && moment.from - then.touchedAt >= kRested;
+    return rested && moment.before->display ? scene : std::nullopt;
 }
 
 std::optional<Scene> sceneAtRest(const Moment &moment, const SceneMemory &memory) {

@@ -29,8 +29,10 @@ struct Grid {
 
 int rowsOf(const Value &settings, bool pad) {
     const Value &amount = settings["amount"];
-    int rows = amount.isString() ? std::atoi(amount.string().c_str())
-                                 : amount.isNumber() ? static_cast<int>(amount.number()) : 0;
+    int rows = 0;
+    if (amount.isString()) rows = std::atoi(amount.string().c_str());
+    if (amount.isNumber()) rows = static_cast<int>(amount.number());
+    if (amount.isBool()) rows = amount.boolean();
     return rows > 0 ? rows : pad ? 4 : 3;
 }
 

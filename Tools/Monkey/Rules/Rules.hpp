@@ -54,6 +54,9 @@ void followScene(const Moment &moment, SceneMemory &memory);
 // of now had it built; nothing otherwise.
 std::optional<Scene> sceneAtRest(const Moment &moment, const SceneMemory &memory);
 
+// The same of the moment before a line of one act and a wait of a second and a half, `then` being what was remembered.
+std::optional<Scene> sceneBeforeAct(const Moment &moment, const SceneMemory &then, const SceneMemory &now);
+
 void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);
 void checkClosed(const Moment &moment, Memory &memory, Findings &findings);
 void checkLocked(const Moment &moment, Memory &memory, Findings &findings);

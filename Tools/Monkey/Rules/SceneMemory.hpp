@@ -26,6 +26,7 @@ struct SceneMemory {
     bool mixed = false;    // settings changed while this panel was open, so that it is of two kinds
     bool asBooted = true;       // nobody changed the settings since the home screen started
     int64_t settingsAt = 0;     // when they changed last, at a look
+    int64_t touchedAt = 0;      // when a finger was on the glass last
     std::vector<Area> places;
     int64_t steadySince = 0; // since when the panel's items have been at `places`, at every look; nanoseconds
 };

@@ -17,8 +17,9 @@ struct Act {
     void (*run)();
 };
 
-std::span<const Act> acts();     // on what stands and runs
-std::span<const Act> hookActs(); // on the ways between the extension and the system's methods
+std::span<const Act> acts();      // on what stands and runs
+std::span<const Act> hookActs();  // on the ways between the extension and the system's methods
+std::span<const Act> sightActs(); // on what somebody sees, and on what a touch leads to
 
 // A variable of the extension; nullptr when it has none of that name.
 template <typename T>

@@ -23,7 +23,7 @@
 }
 
 - (void)act:(NSString *)name {
-    for (auto list : {saboteur::acts(), saboteur::hookActs()})
+    for (auto list : {saboteur::acts(), saboteur::hookActs(), saboteur::sightActs()})
         for (const auto &act : list)
             if (std::string_view(act.name) == [name UTF8String]) return act.run();
     [NSException raise:NSInvalidArgumentException format:@"no act '%@'", name];
