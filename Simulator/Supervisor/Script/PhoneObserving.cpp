@@ -28,14 +28,15 @@ int log(lua_State *lua, Phone &phone, Script &) {
 }
 
 int events(lua_State *lua, Phone &phone, Script &) {
-    if (lua_isnoneornil(lua, 2)) {
-        pushRecords(lua, eventKind(), phone.device.events().all());
-        return 1;
-    }
-    std::string kind = text(lua, 2, "the kind of event");
-    if (!std::ranges::count(eventKinds(), kind))
+    std::string kind = lua_isnoneornil(lua, 2) ? "" : text(lua, 2, "the kind of event");
+    if (!lua_isnoneornil(lua, 2) && !std::ranges::count(eventKinds(), kind))
         throw std::runtime_error("there is no event of kind '" + kind + "'" + suggestion(kind, eventKinds()));
-    pushRecords(lua, eventKind(), phone.device.events().ofKind(kind));
+    lua_newtable(lua);
+    lua_Integer place = 0;
+    phone.device.events().visit(kind, [&](const Value &event) {
+        pushRecord(lua, eventKind(), event);
+        lua_rawseti(lua, -2, ++place);
+    });
     return 1;
 }
 
