@@ -13,8 +13,8 @@ int main() {
     size_t threads = sim::threadCount();
     sim::startProcess();
     render::prepare();
-    sim::bearProcesses(threads);
     sim::installCrashHandler(sim::kCrashDescriptor);
+    sim::bearProcesses(threads);
     @autoreleasepool {
         sim::serve();
     }

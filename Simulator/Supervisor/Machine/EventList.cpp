@@ -5,12 +5,34 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <span>
 
 namespace sim {
 
+namespace {
+
+// How many go to the file at a time; in memory are up to twice as many.
+constexpr size_t kBlock = 1024;
+
+std::string line(const Value &event) {
+    Object fields = event.object();
+    char start[80];
+    snprintf(start, sizeof start, "%12.6f  %s", fields["t"].number(), fields["kind"].string().c_str());
+    fields.erase("t");
+    fields.erase("kind");
+    std::string result = start;
+    for (const auto &[name, value] : fields) result += "  " + name + " = " + readable(value);
+    return result + '\n';
+}
+
+} // namespace
+
 void EventList::add(Value event) {
     checkEvent(event);
-    events_.push_back(std::move(event));
+    recent_.push_back(std::move(event));
+    if (full_ || recent_.size() < 2 * kBlock) return;
+    full_ = !old_.append(std::span(recent_).first(kBlock));
+    if (!full_) recent_.erase(recent_.begin(), recent_.begin() + kBlock);
 }
 
 void EventList::add(double seconds, const char *kind, Object fields) {
@@ -19,37 +41,33 @@ void EventList::add(double seconds, const char *kind, Object fields) {
     add(Value(std::move(fields)));
 }
 
+void EventList::visit(size_t first, const std::string &kind, const Visitor &visitor) const {
+    old_.visit(first, kind, visitor);
+    for (size_t i = first - std::min(first, old_.size()); i < recent_.size(); ++i)
+        if (kind.empty() || recent_[i]["kind"].string() == kind) visitor(recent_[i]);
+}
+
 Array EventList::ofKind(const std::string &kind) const {
     Array result;
-    for (const auto &event : events_)
-        if (event["kind"].string() == kind) result.push_back(event);
+    visit(kind, [&](const Value &event) { result.push_back(event); });
     return result;
 }
 
 Array EventList::since(size_t first) const {
-    first = std::min(first, events_.size());
-    return {events_.begin() + static_cast<Array::difference_type>(first), events_.end()};
+    Array result;
+    visit(first, "", [&](const Value &event) { result.push_back(event); });
+    return result;
 }
 
 Array EventList::log() const {
     Array result;
-    for (const auto &event : events_)
-        if (event["kind"].string() == "log") result.push_back(event["text"]);
+    visit("log", [&](const Value &event) { result.push_back(event["text"]); });
     return result;
 }
 
 std::string EventList::tail(size_t count) const {
     std::string result;
-    for (size_t i = events_.size() > count ? events_.size() - count : 0; i < events_.size(); ++i) {
-        Object fields = events_[i].object();
-        char start[80];
-        snprintf(start, sizeof start, "%12.6f  %s", fields["t"].number(), fields["kind"].string().c_str());
-        fields.erase("t");
-        fields.erase("kind");
-        result += start;
-        for (const auto &[name, value] : fields) result += "  " + name + " = " + readable(value);
-        result += '\n';
-    }
+    visit(size() - std::min(count, size()), "", [&](const Value &event) { result += line(event); });
     return result;
 }
 

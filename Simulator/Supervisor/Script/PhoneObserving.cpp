@@ -20,15 +20,16 @@ int log(lua_State *lua, Phone &phone, Script &) {
 }
 
 int events(lua_State *lua, Phone &phone, Script &) {
-    if (lua_isnoneornil(lua, 2)) {
-        pushRecords(lua, Record::event, phone.device.events().all());
-        return 1;
-    }
-    std::string kind = text(lua, 2, "the kind of event");
-    if (!std::ranges::count(eventKindNames(), kind))
+    std::string kind = lua_isnoneornil(lua, 2) ? "" : text(lua, 2, "the kind of event");
+    if (!lua_isnoneornil(lua, 2) && !std::ranges::count(eventKindNames(), kind))
         throw std::runtime_error("there is no event of kind '" + kind + "'" +
                                  suggestion(kind, eventKindNames()));
-    pushRecords(lua, Record::event, phone.device.events().ofKind(kind));
+    lua_newtable(lua);
+    lua_Integer place = 0;
+    phone.device.events().visit(kind, [&](const Value &event) {
+        pushRecord(lua, Record::event, event);
+        lua_rawseti(lua, -2, ++place);
+    });
     return 1;
 }
 

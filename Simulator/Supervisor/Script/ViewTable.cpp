@@ -3,8 +3,10 @@
 #include "Binding.hpp"
 #include "Conversion.hpp"
 #include "Record.hpp"
+#include "Runtime/Values/Packed.hpp"
 #include "Supervisor/Machine/ViewDump.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <stdexcept>
@@ -35,11 +37,20 @@ int destroyIdentity(lua_State *lua) {
     return 0;
 }
 
+// Pushes the table of all views' identities, which keeps no view.
+void pushIdentities(lua_State *lua) {
+    if (luaL_getsubtable(lua, LUA_REGISTRYINDEX, kIdentities)) return;
+    lua_createtable(lua, 0, 1);
+    lua_pushstring(lua, "k");
+    lua_setfield(lua, -2, "__mode");
+    lua_setmetatable(lua, -2);
+}
+
 // nullptr when no view is there.
 const Identity *identity(lua_State *lua, int index) {
     if (!lua_istable(lua, index)) return nullptr;
     int view = lua_absindex(lua, index);
-    luaL_getsubtable(lua, LUA_REGISTRYINDEX, kIdentities);
+    pushIdentities(lua);
     lua_pushvalue(lua, view);
     lua_rawget(lua, -2);
     auto *found = static_cast<const Identity *>(lua_touserdata(lua, -1));
@@ -49,12 +60,7 @@ const Identity *identity(lua_State *lua, int index) {
 
 // Ties the table on top of the stack to what it stands for.
 void setIdentity(lua_State *lua, std::shared_ptr<const Snapshot> snapshot, int64_t number) {
-    if (!luaL_getsubtable(lua, LUA_REGISTRYINDEX, kIdentities)) {
-        lua_createtable(lua, 0, 1);
-        lua_pushstring(lua, "k");
-        lua_setfield(lua, -2, "__mode");
-        lua_setmetatable(lua, -2);
-    }
+    pushIdentities(lua);
     lua_pushvalue(lua, -2);
     new (lua_newuserdatauv(lua, sizeof(Identity), 0)) Identity{std::move(snapshot), number};
     if (luaL_newmetatable(lua, kIdentity)) {
@@ -150,20 +156,24 @@ void makeView(lua_State *lua) {
     lua_setmetatable(lua, -2);
 }
 
-std::shared_ptr<const Snapshot> makeSnapshot(const Phone &phone, Value answer) {
+std::shared_ptr<const Snapshot> makeSnapshot(lua_State *lua, const Phone &phone, Value answer) {
     auto snapshot = std::make_shared<Snapshot>();
     snapshot->answer = std::move(answer);
     snapshot->phone = phone.serial;
     snapshot->generation = phone.device.generation();
     for (const auto &view : snapshot->answer["views"].array())
         snapshot->views.emplace(view["number"].integer(), &view);
+    // The interpreter sees of an answer no more than a pointer: without its weight it would let thousands
+    // wait to be collected.
+    constexpr size_t kStep = 1024;
+    lua_gc(lua, LUA_GCSTEP, static_cast<int>(std::max<size_t>(weight(snapshot->answer) / kStep, 1)));
     return snapshot;
 }
 
 } // namespace
 
 void pushViews(lua_State *lua, const Phone &phone, Value answer) {
-    auto snapshot = makeSnapshot(phone, std::move(answer));
+    auto snapshot = makeSnapshot(lua, phone, std::move(answer));
     const auto &matches = snapshot->answer["matches"].array();
     lua_createtable(lua, static_cast<int>(matches.size()), 0);
     lua_Integer place = 0;
@@ -174,7 +184,7 @@ void pushViews(lua_State *lua, const Phone &phone, Value answer) {
 }
 
 void pushFirstView(lua_State *lua, const Phone &phone, Value answer) {
-    auto snapshot = makeSnapshot(phone, std::move(answer));
+    auto snapshot = makeSnapshot(lua, phone, std::move(answer));
     const auto &matches = snapshot->answer["matches"].array();
     if (matches.empty()) {
         lua_pushnil(lua);
