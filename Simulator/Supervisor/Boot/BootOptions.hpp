@@ -22,6 +22,7 @@ struct BootOptions : SharedOptions {
     std::vector<std::string> missingFiles;   // paths on the device
     bool otherExtension = false;             // its package list is there
     std::string root;                        // empty: a temporary folder
+    std::vector<std::string> remarks;        // what is odd about them; become warning events
 };
 
 // Throws BootError with a text for the script's author. `stockApplications` is the text of the JSON file of

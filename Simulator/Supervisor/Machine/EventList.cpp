@@ -39,9 +39,12 @@ Array EventList::log() const {
 }
 
 std::string EventList::tail(size_t count) const {
+    std::vector<const Value *> last;
+    for (auto event = events_.rbegin(); event != events_.rend() && last.size() < count; ++event)
+        if ((*event)["kind"].string() != "original") last.push_back(&*event);
     std::string result;
-    for (size_t i = events_.size() > count ? events_.size() - count : 0; i < events_.size(); ++i) {
-        Object fields = events_[i].object();
+    for (auto event = last.rbegin(); event != last.rend(); ++event) {
+        Object fields = (*event)->object();
         char start[80];
         snprintf(start, sizeof start, "%12.6f  %s", fields["t"].number(), fields["kind"].string().c_str());
         fields.erase("t");
