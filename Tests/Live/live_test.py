@@ -205,7 +205,7 @@ class Sharing(unittest.TestCase):
             device = page.wait_for("device", lambda message: message["boots"] == 2)
             self.assertEqual((device["name"], device["ios"], device["language"]), ("iPad 2", "7.1", "it"))
             page.send("boot", options={"ios": "9.0"})
-            self.assertIn("never was", page.wait_for("notice")["text"])
+            self.assertIn("is not simulated", page.wait_for("notice")["text"])
             page.call("badge", MAIL, 1)
             self.assertIn("badge", page.whole_script(), "the device that was goes on")
 

@@ -64,7 +64,7 @@ class Device:
                                      "--", self.root, *arguments], capture_output=True, text=True)
         if result.returncode:
             raise AssertionError(result.stdout + result.stderr)
-        return dict(line.split("\t", 1) for line in result.stdout.splitlines())
+        return dict(line.split("\t", 1) for line in result.stdout.splitlines() if "\t" in line)
 
 
 class Settings(unittest.TestCase):

@@ -32,6 +32,18 @@ TEST(BootOptions, AnEmptyTableGivesTheUsualDevice) {
     }
 }
 
+TEST(BootOptions, AModelIdentifierIsADevice) {
+    EXPECT_STREQ(read(Object{{"device", "iPhone7,2"}}).profile->name, "iPhone 6");
+}
+
+TEST(BootOptions, ALanguageWithoutTextsIsRemarked) {
+    EXPECT_TRUE(read(Object{{"language", "it"}}).remarks.empty());
+    EXPECT_EQ(
+        read(Object{{"language", "xx"}}).remarks,
+        std::vector<std::string>{"the system has no texts in 'xx' and shows English ones; it has en and it"});
+    EXPECT_EQ(read(Object{{"language", "en"}}).remarks, std::vector<std::string>{});
+}
+
 TEST(BootOptions, ApplicationsGetTheirDefaults) {
     auto options =
         read(Object{{"language", "it"},
@@ -63,7 +75,9 @@ TEST(BootOptions, RefusalsSayWhatToChange) {
         {{{"devcie", "iPhone 5"}}, "unknown option 'devcie'; did you mean 'device'?"},
         {{{"device", 5}}, "'device' must be a string, not 5"},
         {{{"device", "iPhone 5S"}}, "did you mean 'iPhone 5s'?"},
-        {{{"ios", "7.0"}}, "never was an iPhone 6 with iOS 7.0 (it is simulated with 8.0, 8.1 and 8.3)"},
+        {{{"ios", "7.0"}}, "no iPhone 6 ever ran iOS 7.0; it is simulated with 8.0, 8.1 and 8.3"},
+        {{{"ios", "9.0"}}, "iOS 9.0 is not simulated; the iPhone 6 is with 8.0, 8.1 and 8.3"},
+        {{{"device", "iPhone7,3"}}, "did you mean 'iPhone7,2'?"},
         {{{"device", "iPhone 4"}, {"ios", "8.1"}}, "7.0 and 7.1"},
         {{{"ios", 8.1}}, "'ios' must be a string, not 8.1"},
         {{{"clock", "2015-02-30 10:00:00"}}, "must look like"},

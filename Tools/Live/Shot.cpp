@@ -3,8 +3,9 @@
 #include "LuaText.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Runtime/Values/Nanoseconds.hpp"
+#include "Supervisor/Machine/OutputFile.hpp"
 
-#include <fstream>
+#include <iostream>
 
 namespace sim {
 
@@ -19,13 +20,13 @@ std::pair<std::string, std::string> split(const std::string &text, const char *f
 } // namespace
 
 void takeShot(const DeviceSetup &setup, const ShotOptions &options) {
+    pictureName(options.file.string());
     LivePhone phone(setup, options.boot);
     for (const auto &statement : options.statements) phone.run(statement);
     phone.device().advance(fromSeconds(options.wait));
-    std::string png = render::encodePng(phone.device().picture());
-    if (options.file.has_parent_path()) std::filesystem::create_directories(options.file.parent_path());
-    if (!(std::ofstream(options.file, std::ios::binary) << png).flush())
-        throw std::runtime_error("cannot write " + options.file.string());
+    writeOutput(options.file, render::encodePng(phone.device().picture()));
+    for (const auto &warning : phone.device().events().ofKind("warning"))
+        std::cerr << "warning: " << warning["text"].string() << '\n';
 }
 
 std::string badgeStatement(const std::string &text) {

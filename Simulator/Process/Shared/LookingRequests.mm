@@ -1,4 +1,5 @@
 #include "Requests.h"
+#include "Runtime/Objc/HiddenClasses.hpp"
 #include "TouchablePlaces.h"
 #include "ViewSearch.h"
 #include "ViewSnapshot.h"
@@ -9,8 +10,15 @@ namespace {
 
 Value one(UIView *view) { return snapshot(view ? std::vector<UIView *>{view} : std::vector<UIView *>{}); }
 
-// {"query": criteria, "first": true for the first match only}
-Value find(const Value &arguments) { return snapshot(findViews(arguments["query"], arguments.has("first"))); }
+// {"query": criteria, "first": true for the first match only}. When the query names a class that does not
+// exist, hidden or not, the answer has "classes", all that views can have.
+Value find(const Value &arguments) {
+    const Value &query = arguments["query"];
+    Value answer = snapshot(findViews(query, arguments.has("first")));
+    if (query.has("class") && !findHiddenClass(query["class"].string().c_str()))
+        answer.set("classes", viewClasses());
+    return answer;
+}
 
 // {"view": number}
 Value view(const Value &arguments) { return one(viewWithNumber(arguments["view"].integer())); }

@@ -28,4 +28,7 @@ NSString *textOf(UIView *view);
 // "parent": number, "visible"}, in depth-first drawing order. Stops at the first match when told to.
 std::vector<UIView *> findViews(const Value &query, bool first);
 
+// The names of all classes that views can have, in ascending order.
+Array viewClasses();
+
 } // namespace sim

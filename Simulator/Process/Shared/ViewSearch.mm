@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
 
 namespace sim {
 
@@ -91,6 +92,17 @@ UIView *viewWithNumber(int64_t number) {
     for (UIWindow *window : allWindows())
         if (walk(window, visit)) break;
     return found;
+}
+
+Array viewClasses() {
+    int count = objc_getClassList(nullptr, 0);
+    std::vector<Class> classes(static_cast<size_t>(count));
+    classes.resize(static_cast<size_t>(objc_getClassList(classes.data(), count)));
+    std::set<std::string> names;
+    for (Class candidate : classes)
+        for (Class ancestor = candidate; ancestor; ancestor = class_getSuperclass(ancestor))
+            if (ancestor == [UIView class]) names.insert(class_getName(candidate));
+    return {names.begin(), names.end()};
 }
 
 NSString *textOf(UIView *view) {

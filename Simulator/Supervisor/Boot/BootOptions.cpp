@@ -18,16 +18,28 @@ constexpr const char *kDefaultVersion = "8.1";
 constexpr const char *kDefaultLanguage = "en";
 constexpr const char *kDefaultClock = "2015-03-01 10:20:30";
 
+// By what they are called and by their model identifiers.
+std::vector<std::string> deviceNames() {
+    std::vector<std::string> names;
+    for (const auto &profile : profiles()) names.insert(names.end(), {profile.name, profile.machine});
+    return names;
+}
+
+// What is known of a version that another device ran is that this one did not; of others nothing.
+std::string refusal(const Profile &profile, const std::string &version) {
+    bool known = std::ranges::any_of(profiles(), [&](const auto &other) { return other.ran(version); });
+    return known ? std::string("no ") + profile.name + " ever ran iOS " + version +
+                       "; it is simulated with " + versionList(profile)
+                 : "iOS " + version + " is not simulated; the " + profile.name + " is with " +
+                       versionList(profile);
+}
+
 void readProfile(OptionReader &reader, BootOptions &options) {
     std::string name = reader.string("device").value_or(kDefaultDevice);
     options.version = reader.string("ios").value_or(kDefaultVersion);
     options.profile = findProfile(name);
-    std::vector<std::string> names;
-    for (const auto &profile : profiles()) names.emplace_back(profile.name);
-    if (!options.profile) reader.fail("there is no device '" + name + "'" + suggestion(name, names));
-    if (!options.profile->ran(options.version))
-        reader.fail("there never was an " + name + " with iOS " + options.version +
-                    " (it is simulated with " + versionList(*options.profile) + ")");
+    if (!options.profile) reader.fail("there is no device '" + name + "'" + suggestion(name, deviceNames()));
+    if (!options.profile->ran(options.version)) reader.fail(refusal(*options.profile, options.version));
 }
 
 void readClock(OptionReader &reader, BootOptions &options) {
@@ -44,19 +56,28 @@ void readSettings(OptionReader &reader, BootOptions &options) {
     if (options.settings && options.settingsText) reader.fail("give 'settings' or 'settings_text', not both");
 }
 
-std::vector<ApplicationSpec> readStock(std::string_view json, const std::string &language) {
+// Also says when the stock applications have no names in the language.
+std::vector<ApplicationSpec> readStock(std::string_view json, const std::string &language,
+                                       std::vector<std::string> &remarks) {
     std::vector<ApplicationSpec> result;
+    std::set<std::string> languages;
     Value list = parseJson(json);
     for (const auto &entry : list.array()) {
         ApplicationSpec application;
         application.identifier = entry["id"].string();
         const Value &names = entry["name"];
+        for (const auto &name : names.object()) languages.insert(name.first);
         application.name = names[names.has(language) ? language : kDefaultLanguage].string();
         if (entry.has("folder")) application.folder = entry["folder"].string();
         application.dock = entry.has("dock") && entry["dock"].boolean();
         application.statusBar = !entry.has("status_bar") || entry["status_bar"].boolean();
         result.push_back(std::move(application));
     }
+    std::vector<std::string> known(languages.begin(), languages.end());
+    if (!languages.contains(language))
+        remarks.push_back(
+            "the system has no texts in '" + language + "' and shows English ones" +
+            (nearest(language, known).empty() ? "; it has " + listed(known) : suggestion(language, known)));
     return result;
 }
 
@@ -79,7 +100,7 @@ ApplicationSpec readApplication(const Value &table, const std::string &where,
 }
 
 void readApplications(OptionReader &reader, BootOptions &options, std::string_view stockApplications) {
-    auto stock = readStock(stockApplications, options.language);
+    auto stock = readStock(stockApplications, options.language, options.remarks);
     auto list = reader.list("apps");
     if (!list) {
         options.applications = std::move(stock);

@@ -23,6 +23,7 @@ struct BootOptions : SharedOptions {
     bool otherExtension = false;             // its package list is there
     std::string root;                        // empty: a temporary folder
     std::vector<std::string> extensions;     // others than the package's: paths on this machine
+    std::vector<std::string> remarks;        // what is odd about them; become warning events
 };
 
 // Throws BootError with a text for the script's author. `stockApplications` is the text of the JSON file of

@@ -66,8 +66,11 @@ Array EventList::log() const {
 }
 
 std::string EventList::tail(size_t count) const {
+    std::vector<const Value *> last;
+    for (auto event = recent_.rbegin(); event != recent_.rend() && last.size() < count; ++event)
+        if ((*event)["kind"].string() != "original") last.push_back(&*event);
     std::string result;
-    visit(size() - std::min(count, size()), "", [&](const Value &event) { result += line(event); });
+    for (auto event = last.rbegin(); event != last.rend(); ++event) result += line(**event);
     return result;
 }
 

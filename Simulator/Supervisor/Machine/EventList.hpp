@@ -30,7 +30,7 @@ public:
     Array since(size_t first) const;
     // The lines of the system log.
     Array log() const;
-    // The last `count` of them, a line each, for people.
+    // The last `count` of them but for hooked calls, a line each, for people.
     std::string tail(size_t count) const;
 
 private:

@@ -5,6 +5,7 @@
 #include "Interrupt.hpp"
 #include "Runtime/Values/Nanoseconds.hpp"
 #include "SettingsProcess.hpp"
+#include "SettingsRemarks.hpp"
 #include "Supervisor/Boot/Extensions.hpp"
 #include "Supervisor/Boot/StaticClasses.hpp"
 
@@ -47,7 +48,11 @@ void SimulatedDevice::prepareFiles() {
     for (const auto &path : root_.install(setup_.installation.stageRoot, options_.missingFiles))
         warn("no installed file '" + path + "' to leave out");
     installExtensions();
-    if (options_.settings) settings_.write(*options_.settings);
+    for (const auto &remark : options_.remarks) warn(remark);
+    if (options_.settings) {
+        settings_.write(*options_.settings);
+        remarkSettings(*this, setup_.installation, options_.settings->object());
+    }
     if (options_.settingsText) settings_.writeText(*options_.settingsText);
     if (options_.otherExtension) std::ofstream(root_.at(setup_.package.otherExtensionList)) << "/.\n";
 }

@@ -50,7 +50,7 @@ public:
     virtual const Package &package() const = 0;
     // "iPhone 6, iOS 8.1"
     virtual std::string description() const = 0;
-    // The window that a report of a failure shows: "overlay", "app".
+    // The window whose views people ask for first: "overlay", "app".
     virtual const char *reportedWindow() const = 0;
 
     // Ends what this stands for; afterwards it is of no further use. Returns what went wrong at the end

@@ -33,7 +33,8 @@ std::span<const Profile> profiles() {
 }
 
 const Profile *findProfile(std::string_view name) {
-    auto found = std::ranges::find(profiles(), name, &Profile::name);
+    auto found = std::ranges::find_if(
+        profiles(), [&](const Profile &profile) { return name == profile.name || name == profile.machine; });
     return found == profiles().end() ? nullptr : &*found;
 }
 

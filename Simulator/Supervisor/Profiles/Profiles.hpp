@@ -24,7 +24,7 @@ struct Profile {
 
 // Phones first, each kind from the oldest to the newest.
 std::span<const Profile> profiles();
-// nullptr when there is no device of that name.
+// By name or by model identifier; nullptr when there is no such device.
 const Profile *findProfile(std::string_view name);
 
 // "8.0, 8.1 and 8.3"

@@ -17,7 +17,9 @@ std::string message(lua_State *lua, int index) {
 // Reports unless it held; gives whether it did.
 int conclude(lua_State *lua, Script &script, bool held, const std::string &message,
              const std::string &details) {
-    if (!held)
+    if (held)
+        script.hold();
+    else
         script.fail(callPlace(lua),
                     message.empty() ? details : message + (details.empty() ? "" : "\n    " + details));
     lua_pushboolean(lua, held);

@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <span>
 
 namespace sim {
@@ -30,6 +31,7 @@ struct Phone {
     SimulatedScreen &device;
     Finger finger;
     std::map<int64_t, Finger> otherFingers; // by number
+    std::set<std::string> missingClasses;   // that were looked for, each with a warning
     uint64_t serial;                        // tells the phones of one script apart
 };
 

@@ -44,14 +44,28 @@ Object query(lua_State *lua, const Phone &phone) {
     return result;
 }
 
+// A class that does not exist finds nothing, which is right where a version lacks it or its library is not
+// loaded; more often it is mistyped.
+Value ask(Phone &phone, const Object &criteria, bool first) {
+    Object arguments{{"query", criteria}};
+    if (first) arguments.emplace("first", true);
+    Value answer = phone.device.ask("find", std::move(arguments));
+    if (!answer.has("classes")) return answer;
+    const std::string &name = criteria.at("class").string();
+    std::vector<std::string> known;
+    for (const auto &candidate : answer["classes"].array()) known.push_back(candidate.string());
+    if (phone.missingClasses.insert(name).second)
+        phone.device.warn("there is no class '" + name + "'" + suggestion(name, known));
+    return answer;
+}
+
 int find(lua_State *lua, Phone &phone, Script &) {
-    Object criteria = query(lua, phone);
-    pushFirstView(lua, phone, phone.device.ask("find", {{"query", criteria}, {"first", true}}));
+    pushFirstView(lua, phone, ask(phone, query(lua, phone), true));
     return 1;
 }
 
 int all(lua_State *lua, Phone &phone, Script &) {
-    pushViews(lua, phone, phone.device.ask("find", {{"query", query(lua, phone)}}));
+    pushViews(lua, phone, ask(phone, query(lua, phone), false));
     return 1;
 }
 

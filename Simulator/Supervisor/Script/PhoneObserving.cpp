@@ -4,10 +4,10 @@
 #include "Runtime/Values/Nanoseconds.hpp"
 #include "Supervisor/Machine/EventKinds.hpp"
 #include "Supervisor/Machine/FilmStrip.hpp"
+#include "Supervisor/Machine/OutputFile.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 
 #include <algorithm>
-#include <fstream>
 #include <stdexcept>
 
 namespace sim {
@@ -45,14 +45,16 @@ int resetCounters(lua_State *, Phone &phone, Script &) {
 
 // Writes DIR/NAME.png, makes the folders that it lies in, and pushes its path.
 int save(lua_State *lua, const Script &script, const std::string &name, const render::Bitmap &picture) {
-    std::filesystem::path relative = name + ".png";
+    std::filesystem::path relative = pictureName(name) + ".png";
     if (name.empty() || relative.is_absolute() || *relative.lexically_normal().begin() == "..")
         throw std::runtime_error("a picture's name must lead into the folder of pictures, not to '" + name +
                                  "'");
     std::filesystem::path path = script.options().pictures / relative;
-    std::filesystem::create_directories(path.parent_path());
-    if (!(std::ofstream(path, std::ios::binary) << render::encodePng(picture)).flush())
-        throw std::runtime_error("cannot write " + path.string());
+    try {
+        writeOutput(path, render::encodePng(picture));
+    } catch (const std::runtime_error &error) {
+        throw std::runtime_error(std::string(error.what()) + "; --out DIR chooses another folder");
+    }
     lua_pushstring(lua, path.c_str());
     return 1;
 }

@@ -1,5 +1,6 @@
 #include "Conversion.hpp"
 #include "Phone.hpp"
+#include "Supervisor/Machine/SettingsRemarks.hpp"
 
 #include <stdexcept>
 
@@ -8,7 +9,7 @@ namespace sim {
 namespace {
 
 // phone:set(key, value), where no value removes the key; phone:set{key = value, …}.
-int set(lua_State *lua, Phone &phone, Script &) {
+int set(lua_State *lua, Phone &phone, Script &script) {
     Object changes;
     if (lua_istable(lua, 2)) {
         if (lua_gettop(lua) > 2) throw std::runtime_error("phone:set takes a key and a value, or one table");
@@ -19,6 +20,7 @@ int set(lua_State *lua, Phone &phone, Script &) {
         changes.emplace(text(lua, 2, "the key"), toValue(lua, 3));
     }
     phone.device.settings().change(changes);
+    remarkSettings(phone.device, script.setup().installation, changes);
     return 0;
 }
 

@@ -1,5 +1,9 @@
+#include "Conversion.hpp"
 #include "Phone.hpp"
 #include "Runtime/Values/Nanoseconds.hpp"
+#include "Supervisor/Machine/LongWait.hpp"
+
+#include <stdexcept>
 
 namespace sim {
 
@@ -7,9 +11,14 @@ namespace {
 
 // Long beyond anything that ends by itself on a phone.
 constexpr double kDefaultLimit = 60;
+// Some thirty years; the clock counts nanoseconds.
+constexpr double kLongest = 1e9;
 
 int wait(lua_State *lua, Phone &phone, Script &) {
-    phone.device.advance(fromSeconds(duration(lua, 2)));
+    double seconds = duration(lua, 2);
+    if (seconds > kLongest)
+        throw std::runtime_error("the number of seconds must be at most 1e9, not " + describe(lua, 2));
+    waitLong(phone.device, fromSeconds(seconds));
     return 0;
 }
 

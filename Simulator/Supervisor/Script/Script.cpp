@@ -1,22 +1,30 @@
 #include "Script.hpp"
 
 #include "Library.hpp"
+#include "MisspeltGlobal.hpp"
 #include "Phone.hpp"
+#include "Supervisor/Machine/DeviceReport.hpp"
 #include "Supervisor/Machine/Interrupt.hpp"
-#include "Supervisor/Machine/ViewDump.hpp"
+#include "Supervisor/Machine/OutputFile.hpp"
 
 #include <algorithm>
 #include <iostream>
 #include <stdexcept>
+#include <unistd.h>
 
 namespace sim {
 
 namespace {
 
-// Adds the calls that led to an error to its text. A coroutine of a caught error is not looked into.
+constexpr size_t kMostPictures = 5; // of failures of one run
+
+// Adds the calls that led to an error to its text, and what was meant by the name of a function that is none.
+// A coroutine of a caught error is not looked into.
 int addTraceback(lua_State *lua) {
     if (lua_type(lua, 1) != LUA_TSTRING) luaL_tolstring(lua, 1, nullptr);
-    luaL_traceback(lua, lua, lua_tostring(lua, -1), 1);
+    std::string text = lua_tostring(lua, -1);
+    if (interrupted()) return 1;
+    luaL_traceback(lua, lua, (text + misspeltGlobal(text)).c_str(), 1);
     return 1;
 }
 
@@ -44,8 +52,23 @@ Script::~Script() { lua_close(lua_); }
 
 Outcome Script::run() {
     Outcome outcome = runFile();
-    for (auto &phone : phones_) addTroubles(phone->device.shutDown());
-    return outcome == Outcome::passed && failed_ ? Outcome::failed : outcome;
+    for (auto &phone : phones_) {
+        tellWarnings(phone->device);
+        addTroubles(phone->device.shutDown());
+    }
+    runs_ = false;
+    if (outcome == Outcome::passed && failed_) outcome = Outcome::failed;
+    summarize(outcome);
+    return outcome;
+}
+
+void Script::summarize(Outcome outcome) const {
+    auto counted = [](size_t number, const char *what) {
+        return std::to_string(number) + " expectation" + (number == 1 ? " " : "s ") + what + "\n";
+    };
+    if (outcome == Outcome::passed && held_ > 0) std::cout << counted(held_, "held") << std::flush;
+    if (outcome != Outcome::passed && failures_ > 0)
+        std::cerr << failures_ << " of " << counted(held_ + failures_, "failed");
 }
 
 Outcome Script::runFile() {
@@ -56,6 +79,7 @@ Outcome Script::runFile() {
         return Outcome::refused;
     }
     running = lua_;
+    runs_ = true;
     watchInterrupts(stopSoon, setup_.debugger);
     lua_pushcfunction(lua_, addTraceback);
     lua_insert(lua_, 1);
@@ -64,6 +88,10 @@ Outcome Script::runFile() {
 
 Outcome Script::reportError() {
     std::string text = lua_tostring(lua_, -1);
+    if (interrupted()) {
+        std::cerr << text << '\n';
+        return Outcome::failed;
+    }
     std::cerr << "error: " << text << '\n';
     reportDevice();
     bool boot =
@@ -73,6 +101,7 @@ Outcome Script::reportError() {
 
 void Script::fail(const std::string &where, const std::string &message) {
     failed_ = true;
+    ++failures_;
     std::cerr << "failed: " << where << ": " << message << '\n';
     reportDevice();
 }
@@ -81,19 +110,30 @@ void Script::fail(const std::string &where, const std::string &message) {
 void Script::reportDevice() {
     if (phones_.empty()) return;
     SimulatedScreen &device = phones_.back()->device;
-    std::string report = "  on " + device.description() + "\n";
-    constexpr size_t kLastEvents = 20;
-    try {
-        std::string window = device.reportedWindow();
-        std::string dump = viewDump(device.ask("windows", {{"window", window}}));
-        report += window + ":\n" + (dump.empty() ? "  (no window)\n" : dump);
-    } catch (const std::runtime_error &error) {
-        report += std::string("no ") + device.reportedWindow() + ": " + error.what() + "\n";
-    }
-    report += "last events:\n" + device.events().tail(kLastEvents);
+    std::string report = deviceReport(device);
     if (report == reported_) return;
-    std::cerr << report << std::flush;
+    std::cerr << report;
+    if (runs_ && pictured_ < kMostPictures) std::cerr << pictureOfFailure(device);
+    std::cerr << std::flush;
     reported_ = report;
+}
+
+std::string Script::pictureOfFailure(SimulatedScreen &device) {
+    auto file = options_.pictures / ("failed-" + std::to_string(++pictured_) + ".png");
+    try {
+        writeOutput(file, render::encodePng(device.picture()));
+        return "picture: " + file.string() + "\n";
+    } catch (const std::runtime_error &error) {
+        return std::string("no picture: ") + error.what() + "\n";
+    }
+}
+
+// To a person at a terminal; scripts find them in the events.
+void Script::tellWarnings(const SimulatedScreen &device) const {
+    if (!runs_ || !isatty(STDERR_FILENO)) return;
+    for (const auto &warning : device.events().ofKind("warning"))
+        std::cerr << "warning: " << device.description() << ", at " << warning["t"].number()
+                  << " s: " << warning["text"].string() << '\n';
 }
 
 void Script::addTroubles(const std::string &troubles) {
@@ -110,6 +150,7 @@ Phone &Script::add(std::unique_ptr<Phone> phone) {
 void Script::close(Phone *phone) {
     auto found = std::ranges::find(phones_, phone, &std::unique_ptr<Phone>::get);
     if (found == phones_.end()) return;
+    tellWarnings(phone->device);
     addTroubles(phone->device.shutDown());
     phones_.erase(found);
 }

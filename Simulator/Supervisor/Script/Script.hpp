@@ -31,7 +31,8 @@ public:
     Script &operator=(const Script &) = delete;
 
     // Runs it to its end. Failed expectations do not stop it; they and an error that does are reported on the
-    // standard error stream. `refused` when the script or a boot that it asked for could not be started.
+    // standard error stream, with a picture of the moment. Says on standard output how many held when all
+    // did. `refused` when the script or a boot that it asked for could not be started.
     Outcome run();
 
     // For what the script calls:
@@ -39,6 +40,8 @@ public:
     const DeviceSetup &setup() const { return setup_; }
     // An expectation did not hold. `where` is "file:line".
     void fail(const std::string &where, const std::string &message);
+    // One did.
+    void hold() { ++held_; }
     // A boot was wrong; the script may go on if it catches the error.
     void noteBootError(const std::string &text) { bootErrors_.push_back(text); }
     Phone &add(std::unique_ptr<Phone> phone);
@@ -52,6 +55,9 @@ private:
     Outcome runFile();
     Outcome reportError();
     void reportDevice();
+    std::string pictureOfFailure(SimulatedScreen &device);
+    void tellWarnings(const SimulatedScreen &device) const;
+    void summarize(Outcome outcome) const;
     void addTroubles(const std::string &troubles);
 
     DeviceSetup setup_;
@@ -61,6 +67,9 @@ private:
     std::vector<std::string> bootErrors_;
     std::string reported_; // of the device, last
     bool failed_ = false;
+    bool runs_ = false; // run() was called: this is no piece of a script
+    size_t held_ = 0, failures_ = 0;
+    size_t pictured_ = 0; // failures of which there is a picture
 };
 
 // The script that an interpreter's state belongs to.

@@ -46,6 +46,13 @@ std::string nearest(std::string_view word, const std::vector<std::string> &known
     return best;
 }
 
+std::string listed(const std::vector<std::string> &words) {
+    std::string result;
+    for (size_t i = 0; i < words.size(); ++i)
+        result += (i == 0 ? "" : i + 1 == words.size() ? " and " : ", ") + words[i];
+    return result;
+}
+
 std::string suggestion(std::string_view word, const std::vector<std::string> &known) {
     std::string meant = nearest(word, known);
     return meant.empty() ? "" : "; did you mean '" + meant + "'?";

@@ -16,4 +16,7 @@ std::string nearest(std::string_view word, const std::vector<std::string> &known
 // "; did you mean 'WORD'?", or nothing.
 std::string suggestion(std::string_view word, const std::vector<std::string> &known);
 
+// "a, b and c"
+std::string listed(const std::vector<std::string> &words);
+
 } // namespace sim

@@ -1,18 +1,19 @@
 -- A failed expectation is reported with its place and the script goes on; the exit status tells.
 -- exit: 1
 -- stdout: reached the end
--- stderr: failed: {here}:19: one is two
--- stderr: failed: {here}:20: expected something true
--- stderr: failed: {here}:21: frames
+-- stderr: failed: {here}:20: one is two
+-- stderr: failed: {here}:21: expected something true
+-- stderr: failed: {here}:22: frames
 -- stderr: at [2].x: 10.5, wanted 12
 -- stderr: got    {1, {x = 10.5}}
--- stderr: failed: {here}:22: 1, wanted 2
--- stderr: failed: {here}:23: near
+-- stderr: failed: {here}:23: 1, wanted 2
+-- stderr: failed: {here}:24: near
 -- stderr: 1, wanted 1.5 within 0.25
--- stderr: failed: {here}:24: near nothing
+-- stderr: failed: {here}:25: near nothing
 -- stderr: nil, wanted 1 within 0.5
--- stderr: failed: {here}:17, called from {here}:25: from a helper
--- stderr: failed: {here}:26: functions
+-- stderr: failed: {here}:18, called from {here}:26: from a helper
+-- stderr: failed: {here}:27: functions
+-- stderr: 8 of 14 expectations failed
 local function helper()
   expect(false, "from a helper")
 end

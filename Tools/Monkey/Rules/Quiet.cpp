@@ -15,7 +15,8 @@ bool isOnCaller(const std::string &warning) {
                                   "the device has no fingerprint sensor",
                                   "the touch on ",
                                   "the touched view is gone",
-                                  "the settings file cannot be read"};
+                                  "the settings file cannot be read",
+                                  "the extension has no setting '"};
     return std::ranges::any_of(starts, [&](const char *start) { return warning.starts_with(start); });
 }
 
