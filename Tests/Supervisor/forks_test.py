@@ -73,8 +73,9 @@ class Running:
     def __init__(self, folder, text, *options):
         script = pathlib.Path(folder, "script.lua")
         script.write_text(text)
+        # A supervisor that is killed leaves the files of its devices there.
         self.process = subprocess.Popen([PROGRAM, "run", str(script), *options], stdout=subprocess.PIPE,
-                                        stderr=subprocess.PIPE, text=True)
+                                        stderr=subprocess.PIPE, text=True, env=dict(os.environ, TMPDIR=folder))
 
     def line(self):
         return self.process.stdout.readline().strip()

@@ -37,7 +37,7 @@ def peak(text, *arguments):
         status = pathlib.Path(f"/proc/{run.pid}/status").read_text()
         files = sum(os.stat(file).st_size for file in pathlib.Path(f"/proc/{run.pid}/fd").iterdir()
                     if "pendix-sim-events" in os.readlink(file))
-        run.kill()
+        run.terminate()
         run.communicate()
         most = int(next(line.split()[1] for line in status.splitlines() if line.startswith("VmHWM"))) / 1024
         return most, files / 2**20, said
