@@ -5,6 +5,7 @@
 #include "PendixSettings/Configuration/configurationController.h"
 #include "PendixSettings/Configuration/indeterminateController.h"
 #include "PendixSettings/Core/PaneTranslator.h"
+#include "PendixSettings/Core/blueSwitcher.h"
 #include "PendixSettings/Icon/ColorNames.h"
 #include "PendixSettings/Root/LockedUIViewController.h"
 #include "Tweak/Core/Settings.h"
@@ -44,6 +45,15 @@ protected:
 
     harness::Sandbox sandbox;
 };
+
+TEST_F(PaneSetters, SwitchesAreTintedWithThePattern) {
+    sandbox.putImage("/Library/Application Support/Pendix/background.png", 4, 4, 0xff204060);
+    blueSwitcher *cell = [[blueSwitcher alloc] initWithStyle:UITableViewCellStyleDefault
+                                             reuseIdentifier:@"switch"
+                                                   specifier:harness::switchRow(@"Enable")];
+    EXPECT_NE([(UISwitch *)cell.control onTintColor], nil);
+    [cell release];
+}
 
 TEST_F(PaneSetters, SayWhatAChangeNeeds) {
     const std::vector<std::string> none, restart{"Restart Home Screen?", "Cancel", "OK"};

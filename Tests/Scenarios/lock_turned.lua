@@ -57,3 +57,16 @@ for _, case in ipairs{ { "iPhone 5", "7.1", 55, 33 }, { "iPhone 6 Plus", "8.1", 
     L.no_harm(phone)
   end
 end
+
+-- A keypad that leaves with its panel is not laid out any more.
+do
+  local phone = L.boot_locked({}, { device = "iPhone 5s" })
+  L.open(phone)
+  local side = L.key(phone, 5).w
+  phone:activator()
+  phone:wait(0.1)
+  phone:rotate(3)
+  expect_eq(L.key(phone, 5).w, side, "the keys keep their size")
+  phone:settle()
+  L.no_harm(phone)
+end

@@ -138,11 +138,12 @@ const Scene &paneWithoutIcon() {
     static const Scene scene = pane({"Contact.png", "Contact@2x.png", "Contact@3x.png"});
     return scene;
 }
-// An Italian phone, whose pages speak English.
+// An Italian phone, whose first page has lost its words.
 const Scene &paneWithoutTexts() {
     static const Scene scene = [] {
         Scene made = pane({"Languages/it.plist"});
         made.boot["language"] = "it";
+        made.script.resize(2);
         return made;
     }();
     return scene;
