@@ -25,8 +25,8 @@ OTHER = {"scripting.troublemaker", "scripting.misfit", "command_line", "live_ser
 # The monkey and the long tables of faults are for longer runs.
 LONG = ("monkey.", "faults.class", "faults.method", "faults.lookup", "faults.file", "faults.write", "settings_files.", "growth.", "loader.mutated")
 # Not among the shortest: what is left takes a few minutes.
-QUICK = ("golden.", "scenario.badges", "scenario.indicator", "scenario.display", "scenario.launch_records", "scenario.marks",
-         "scenario.lock_keypad", "scenario.panel_closes", "scenario.pane_pages", "determinism", "same.tour", "loader.", "stage.")
+QUICK = ("golden.", "scenario.badges", "scenario.indicator_follows", "scenario.indicator_takes", "scenario.display", "scenario.launch_records", "scenario.marks",
+         "scenario.lock_keypad", "scenario.panel_closes", "determinism", "same.tour", "loader.", "stage.")
 # Script, and the files that it writes.
 SAME = {"tour": "scenarios/tour.lua", "panel_gallery": "scenarios/panel_gallery.lua", "lock_gallery": "scenarios/lock_gallery.lua",
         "every_event": "Tests/DeviceBody/every_event.lua"}
