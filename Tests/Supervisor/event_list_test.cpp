@@ -91,7 +91,7 @@ size_t residentKilobytes() {
 TEST(EventList, AnswersTheSameWhereverItsEventsLie) {
     for (size_t size : {0, 1, 1023, 1024, 2047, 2048, 2049, 5000, 10000}) {
         SCOPED_TRACE(size);
-        EventList list;
+        EventList list(nullptr);
         Model model;
         for (size_t i = 0; i < size; ++i) {
             list.add(event(i));
@@ -104,7 +104,7 @@ TEST(EventList, AnswersTheSameWhereverItsEventsLie) {
 #ifndef FREED_MEMORY_IS_KEPT
 // A list in memory would take ten times as much and more.
 TEST(EventList, TakesNoMoreMemoryForMoreEvents) {
-    EventList list;
+    EventList list(nullptr);
     size_t before = 0;
     for (size_t i = 0; i < 200'000; ++i) {
         if (i == 10'000) before = residentKilobytes();
@@ -117,7 +117,7 @@ TEST(EventList, TakesNoMoreMemoryForMoreEvents) {
 
 TEST(EventList, KeepsAllWhereThereIsNoFile) {
     setenv("TMPDIR", "/proc/self", 1); // a folder in which nothing can be made
-    EventList list;
+    EventList list(nullptr);
     Model model;
     for (size_t i = 0; i < 5000; ++i) {
         list.add(event(i));

@@ -1,10 +1,10 @@
 #include "EventList.hpp"
 
-#include "EventKinds.hpp"
 #include "Supervisor/Text/Readable.hpp"
 
 #include <algorithm>
 #include <cstdio>
+#include <deque>
 #include <span>
 
 namespace sim {
@@ -28,7 +28,7 @@ std::string line(const Value &event) {
 } // namespace
 
 void EventList::add(Value event) {
-    checkEvent(event);
+    if (check_) check_(event);
     recent_.push_back(std::move(event));
     if (full_ || recent_.size() < 2 * kBlock) return;
     full_ = !old_.append(std::span(recent_).first(kBlock));
@@ -66,11 +66,17 @@ Array EventList::log() const {
 }
 
 std::string EventList::tail(size_t count) const {
-    std::vector<const Value *> last;
-    for (auto event = recent_.rbegin(); event != recent_.rend() && last.size() < count; ++event)
-        if ((*event)["kind"].string() != "original") last.push_back(&*event);
+    std::deque<std::string> lines;
+    for (size_t looked = count, first = 1; first > 0 && lines.size() < count; looked *= 4) {
+        first = size() - std::min(looked, size());
+        lines.clear();
+        visit(first, "", [&](const Value &event) {
+            if (event["kind"].string() != "original") lines.push_back(line(event));
+            if (lines.size() > count) lines.pop_front();
+        });
+    }
     std::string result;
-    for (auto event = last.rbegin(); event != last.rend(); ++event) result += line(**event);
+    for (const auto &one : lines) result += one;
     return result;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "EventFile.hpp"
+#include "EventKinds.hpp"
 #include "Runtime/Values/Value.hpp"
 
 #include <string>
@@ -13,8 +14,12 @@ namespace sim {
 class EventList {
 public:
     using Visitor = EventFile::Visitor;
+    // What each event has to pass; the function throws for one that it refuses. Null: every event is taken.
+    using Check = void (*)(const Value &event);
 
-    // Throws std::logic_error for an event that the table of kinds does not know.
+    explicit EventList(Check check = checkEvent) : check_(check) {}
+
+    // Throws what the check throws: std::logic_error for an event that the table of kinds does not know.
     void add(Value event);
     // An event of the supervisor's own making. `seconds` is the virtual time since the device was booted.
     void add(double seconds, const char *kind, Object fields);
@@ -36,6 +41,7 @@ public:
 private:
     void visit(size_t first, const std::string &kind, const Visitor &visitor) const;
 
+    Check check_;
     EventFile old_;
     Array recent_;
     bool full_ = false; // the file takes no more
