@@ -193,3 +193,23 @@ phone:finger(3)
 phone:settle()
 expect_eq({ L.shown(phone), unlocked(phone) }, { "list", 1 }, "a match unlocks at once")
 L.no_harm(phone)
+
+-- A choice that comes when the panel is unlocked already changes nothing: the list stands in a panel of its own height.
+for _, choice in ipairs{ { finger = 3, method = "usePasscode" }, { code = "1234", method = "useTochID" } } do
+  phone = L.boot_locked{ touchid = true }
+  L.open(phone)
+  if choice.code then
+    phone:tap(L.part(phone, "finger", 3))
+    phone:settle()
+    L.type(phone, choice.code)
+    phone:wait(0.25)
+  else
+    phone:finger(choice.finger)
+    phone:wait(0.6)
+  end
+  expect_eq(unlocked(phone), 1, choice.method .. ": unlocked")
+  phone:call(choice.method) -- a finger was on the button
+  phone:settle()
+  expect_eq(L.shown(phone), "list", choice.method .. ": the list shows")
+  expect_eq(L.panel(phone).h, 110, choice.method .. ": and the panel is as high as that")
+end

@@ -1,7 +1,7 @@
 #include "LiveDevice.hpp"
 
-#include "Supervisor/Text/Readable.hpp"
 #include "LuaText.hpp"
+#include "Supervisor/Text/Readable.hpp"
 
 #include <algorithm>
 #include <cstdio>

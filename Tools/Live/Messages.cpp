@@ -1,8 +1,8 @@
 #include "Messages.hpp"
 
-#include "Supervisor/Text/Readable.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Runtime/Values/PropertyList.hpp"
+#include "Supervisor/Text/Readable.hpp"
 
 #include <set>
 

@@ -26,7 +26,7 @@ std::span<const Act> unlockActs(); // of the panel's own lock
 std::span<const Act> settingsActs();
 std::span<const Act> paneActs();
 std::span<const Act> paneTourActs(); // through Settings, page by page, with time for each
-std::span<const Act> examActs(); // single acts from rest, with time for what they lead to
+std::span<const Act> examActs();     // single acts from rest, with time for what they lead to
 
 struct Event {
     const char *act;

@@ -1,8 +1,8 @@
 #include "BootTable.hpp"
 
-#include "Supervisor/Profiles/Profiles.hpp"
-#include "Supervisor/Boot/OptionReader.hpp"
 #include "SettingValues.hpp"
+#include "Supervisor/Boot/OptionReader.hpp"
+#include "Supervisor/Profiles/Profiles.hpp"
 
 #include <algorithm>
 

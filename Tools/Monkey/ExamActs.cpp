@@ -1,4 +1,5 @@
-// Single acts from rest, each with the time that its consequences take: what the rule of the consequences judges.
+// Single acts from rest, each with the time that its consequences take: what the rule of the consequences
+// judges.
 #include "Acts.hpp"
 
 namespace sim {
@@ -16,7 +17,9 @@ int openWeight(const Hand &hand) {
 int restWeight(const Hand &hand) { return quiet(hand) && hand.snapshot.panelOpen() ? 30 : 0; }
 int actWeight(const Hand &hand) { return quiet(hand) && hand.snapshot.panelOpen() ? 100 : 0; }
 
-std::string open(Hand &hand) { return "phone:tap" + pointText(hand.random.pick(hand.snapshot.statusBar)) + kWait; }
+std::string open(Hand &hand) {
+    return "phone:tap" + pointText(hand.random.pick(hand.snapshot.statusBar)) + kWait;
+}
 std::string rest(Hand &) { return std::string("phone:wait(0.5)") + kWait; }
 
 // Where an application stands on the panel, more often than not: what else is there is met often enough.
@@ -33,7 +36,9 @@ std::string act(Hand &hand) {
     const Place place = somewhere(hand);
     switch (hand.random.below(9)) {
     case 0:
-        return std::string(hand.random.pick({"phone:home()", "phone:banner(\"Hello\")", "phone:activator()"})) + kWait;
+        return std::string(
+                   hand.random.pick({"phone:home()", "phone:banner(\"Hello\")", "phone:activator()"})) +
+               kWait;
     case 1:
     case 2:
     case 3:

@@ -1,7 +1,7 @@
 #include "Finding.hpp"
 
-#include "Silence.hpp"
 #include "Replay.hpp"
+#include "Silence.hpp"
 
 namespace sim {
 

@@ -1,9 +1,9 @@
 #include "FindingFile.hpp"
 
+#include "Replay.hpp"
+#include "Silence.hpp"
 #include "Supervisor/Boot/Package.hpp"
 #include "Supervisor/Script/Conversion.hpp"
-#include "Silence.hpp"
-#include "Replay.hpp"
 
 #include <memory>
 #include <sstream>

@@ -1,10 +1,10 @@
 #include "Monkey.hpp"
 
-#include "Supervisor/Machine/Interrupt.hpp"
 #include "FindingFile.hpp"
 #include "Progress.hpp"
 #include "Random.hpp"
 #include "Replay.hpp"
+#include "Supervisor/Machine/Interrupt.hpp"
 
 #include <algorithm>
 #include <fstream>
@@ -71,10 +71,10 @@ Outcome runMonkey(const DeviceSetup &setup, const MonkeyOptions &options) {
     int64_t printed = done.events;
     const int64_t kPrintEvery = std::max<int64_t>(options.events / 20, 1);
     while (done.events < options.events) {
-        SessionPlan plan{.seed =
-                          partSeed(static_cast<uint64_t>(options.seed), static_cast<uint64_t>(done.sessions)),
-                      .given = options.boot,
-                      .events = std::min(options.sessionEvents, options.events - done.events)};
+        SessionPlan plan{
+            .seed = partSeed(static_cast<uint64_t>(options.seed), static_cast<uint64_t>(done.sessions)),
+            .given = options.boot,
+            .events = std::min(options.sessionEvents, options.events - done.events)};
         Session session = live(setup, plan, listener);
         if (session.interrupted) return Outcome::refused;
         if (!session.broken.empty()) {

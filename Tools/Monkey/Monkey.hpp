@@ -8,7 +8,7 @@ namespace sim {
 struct MonkeyOptions {
     int64_t seed = 1;
     int64_t events = 10'000;
-    int64_t sessionEvents = 1000;                   // of one session, the most
+    int64_t sessionEvents = 1000;                // of one session, the most
     Value boot;                                  // options of `boot` that are not left to chance
     std::filesystem::path script = "monkey.lua"; // for what was found
     std::filesystem::path progress;              // kept up so that a run can go on; empty: not kept

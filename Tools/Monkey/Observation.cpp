@@ -104,8 +104,8 @@ Observation readObservation(const Value &answer) {
     seen.badges = list(answer["badges"], [](const Array &row) {
         SeenBadge badge{row[0].string(), row[1].integer(), row[2].boolean(), {}};
         for (const Value &part : row[3].array())
-            badge.parts.push_back({part.array()[0].string(), part.array()[1].integer(), part.array()[2].number(),
-                                   textOr(part.array()[3])});
+            badge.parts.push_back({part.array()[0].string(), part.array()[1].integer(),
+                                   part.array()[2].number(), textOr(part.array()[3])});
         return badge;
     });
     seen.applications = list(answer["applications"], [](const Array &row) {

@@ -1,8 +1,8 @@
 // The Settings application: opened, used as its page allows, and closed.
 #include "Acts.hpp"
-#include "Tools/Live/LuaText.hpp"
-#include "Supervisor/Machine/SimulatedProcess.hpp"
 #include "SettingValues.hpp"
+#include "Supervisor/Machine/SimulatedProcess.hpp"
+#include "Tools/Live/LuaText.hpp"
 
 namespace sim {
 

@@ -1,4 +1,5 @@
-// A way through the pages in Settings, each with the time that it takes to stand still: what the rules of the pages judge.
+// A way through the pages in Settings, each with the time that it takes to stand still: what the rules of the
+// pages judge.
 #include "Acts.hpp"
 #include "SettingValues.hpp"
 #include "Tools/Live/LuaText.hpp"
@@ -15,11 +16,18 @@ using Path = std::vector<const char *>;
 
 // Where to: the rows to open, one after the other, by their texts' keys.
 const std::vector<Path> &aims() {
-    static const std::vector<Path> list = {
-        {"configuration"},         {"configuration", "passw"},          {"configuration", "passw"},
-        {"configuration", "icon"}, {"configuration", "icon", "tint"},   {"configuration", "newb", "colors"},
-        {"contacts"},              {"configuration", "newb", "colors"}, {"configuration", "rech"},
-        {"configuration", "newb"}, {"configuration", "perapp"},         {"configuration", "icon", "tint"}};
+    static const std::vector<Path> list = {{"configuration"},
+                                           {"configuration", "passw"},
+                                           {"configuration", "passw"},
+                                           {"configuration", "icon"},
+                                           {"configuration", "icon", "tint"},
+                                           {"configuration", "newb", "colors"},
+                                           {"contacts"},
+                                           {"configuration", "newb", "colors"},
+                                           {"configuration", "rech"},
+                                           {"configuration", "newb"},
+                                           {"configuration", "perapp"},
+                                           {"configuration", "icon", "tint"}};
     return list;
 }
 
@@ -27,7 +35,9 @@ std::string said(Hand &hand, const char *key) {
     return wording(hand.phone.device().options().language == "it" ? "it" : "en", key);
 }
 
-std::string calm(const char *name, const Array &arguments) { return luaCall(name, arguments, "pane") + kWait; }
+std::string calm(const char *name, const Array &arguments) {
+    return luaCall(name, arguments, "pane") + kWait;
+}
 std::string back() { return std::string("pane:back()") + kWait; }
 
 // Four digits, now and then in two parts; more often right than not.
@@ -55,7 +65,8 @@ std::string useRow(Hand &hand, const PaneSight &page) {
 std::string stay(Hand &hand) {
     const std::optional<PaneSight> pane = lookAtPane(hand.phone.settings());
     if (!pane) return "";
-    if (pane->alert) return calm("press", {hand.random.percent(80) ? said(hand, "cancel") : said(hand, "ok")});
+    if (pane->alert)
+        return calm("press", {hand.random.percent(80) ? said(hand, "cancel") : said(hand, "ok")});
     if (pane->sheet) return typeCode(hand);
     if (pane->type == "colorPickerController")
         return hand.random.percent(65) ? calm("swipe", {hand.random.pick({"left", "right"})})
@@ -96,7 +107,8 @@ std::string tour(Hand &hand) {
     if (hand.random.percent(50)) return "pane = phone:open_settings()";
     // A lock keeps the rest from being reached, so it is taken away again.
     hand.plan.emplace_back([](Hand &) { return luaCall("set", {"pass", false}); });
-    return luaCall("set", {Object{{"pass", true}, {"password", hand.random.pick(codes())}}}) + " pane = phone:open_settings()";
+    return luaCall("set", {Object{{"pass", true}, {"password", hand.random.pick(codes())}}}) +
+           " pane = phone:open_settings()";
 }
 
 } // namespace

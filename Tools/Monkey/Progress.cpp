@@ -1,8 +1,8 @@
 #include "Progress.hpp"
 
-#include "Supervisor/Boot/Package.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Runtime/Values/PropertyList.hpp"
+#include "Supervisor/Boot/Package.hpp"
 
 namespace sim {
 

@@ -2,9 +2,9 @@
 
 #include "Acts.hpp"
 #include "BootTable.hpp"
-#include "Tools/Live/LuaText.hpp"
-#include "Supervisor/Machine/Interrupt.hpp"
 #include "Replay.hpp"
+#include "Supervisor/Machine/Interrupt.hpp"
+#include "Tools/Live/LuaText.hpp"
 
 namespace sim {
 

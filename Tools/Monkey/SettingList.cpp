@@ -13,12 +13,9 @@ namespace {
 
 Setting::Kind kindFrom(const std::string &word) {
     static const std::map<std::string, Setting::Kind> kinds = {
-        {"toggle", Setting::Kind::toggle},
-        {"choice", Setting::Kind::choice},
-        {"color", Setting::Kind::color},
-        {"code", Setting::Kind::code},
-        {"record", Setting::Kind::record},
-        {"application toggle", Setting::Kind::perApplication}};
+        {"toggle", Setting::Kind::toggle}, {"choice", Setting::Kind::choice},
+        {"color", Setting::Kind::color},   {"code", Setting::Kind::code},
+        {"record", Setting::Kind::record}, {"application toggle", Setting::Kind::perApplication}};
     auto found = kinds.find(word);
     if (found == kinds.end()) throw std::runtime_error("'" + word + "' is no kind of setting");
     return found->second;

@@ -16,8 +16,8 @@ struct Setting {
     std::vector<std::string> values; // of a choice or a record
 };
 
-// In the order of the sources; read once, from the stage beside the running program. Throws std::runtime_error when
-// it has no such list.
+// In the order of the sources; read once, from the stage beside the running program. Throws
+// std::runtime_error when it has no such list.
 const std::vector<Setting> &settingList();
 
 // nullptr for a key of no setting.

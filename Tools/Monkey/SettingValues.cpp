@@ -51,7 +51,8 @@ Value valueFor(Random &random, const Setting &setting) {
 Value applicationValues(Random &random) {
     Object result;
     for (const Setting &setting : settingList())
-        if (setting.kind == Kind::perApplication) result.insert_or_assign(setting.key, valueFor(random, setting));
+        if (setting.kind == Kind::perApplication)
+            result.insert_or_assign(setting.key, valueFor(random, setting));
     return result;
 }
 
@@ -71,7 +72,9 @@ const std::vector<std::string> &codes() {
 std::string anyKey(Random &random, const std::vector<std::string> &applications) {
     static const std::vector<std::string> switches = keysOf(true), others = keysOf(false);
     if (random.percent(12)) return random.pick(applications);
-    if (random.percent(3)) return random.pick<std::string>({keyNamed("hasSensor"), "", "no such key", enabled() + " ", "perapp"});
+    if (random.percent(3))
+        return random.pick<std::string>(
+            {keyNamed("hasSensor"), "", "no such key", enabled() + " ", "perapp"});
     return random.percent(70) ? random.pick(switches) : random.pick(others);
 }
 
@@ -103,7 +106,8 @@ Value illegalValue(Random &random) {
     case 9:
         return Object{{"a", 1}};
     case 10:
-        return Object{{keyNamed("appHidden"), Object{{"a", 1}}}, {keyNamed("appWithoutMark"), Array{Value(1)}}};
+        return Object{{keyNamed("appHidden"), Object{{"a", 1}}},
+                      {keyNamed("appWithoutMark"), Array{Value(1)}}};
     case 11:
         return Object{{keyNamed("appHidden"), "yes"}, {keyNamed("appWithoutMark"), 2.5}};
     case 12:
@@ -130,7 +134,8 @@ Object legalSettings(Random &random, const std::vector<std::string> &application
 }
 
 std::string brokenFile(Random &random) {
-    std::string whole = toXmlPropertyList(Object{{enabled(), true}, {keyNamed("rows"), "3"}, {keyNamed("lockEnabled"), false}});
+    std::string whole = toXmlPropertyList(
+        Object{{enabled(), true}, {keyNamed("rows"), "3"}, {keyNamed("lockEnabled"), false}});
     switch (random.below(7)) {
     case 0:
         return "";

@@ -1,8 +1,8 @@
 // What other programs do to the settings file.
 #include "Acts.hpp"
-#include "Tools/Live/LuaText.hpp"
 #include "SettingList.hpp"
 #include "SettingValues.hpp"
+#include "Tools/Live/LuaText.hpp"
 
 namespace sim {
 

@@ -11,9 +11,9 @@ struct Count {
     int64_t Tally::*member;
 };
 
-constexpr Count kCounts[] = {{"sessions", &Tally::sessions},     {"events", &Tally::events},
-                             {"refused", &Tally::refused}, {"open", &Tally::open},
-                             {"locked", &Tally::locked},   {"virtual_time", &Tally::virtualTime}};
+constexpr Count kCounts[] = {{"sessions", &Tally::sessions}, {"events", &Tally::events},
+                             {"refused", &Tally::refused},   {"open", &Tally::open},
+                             {"locked", &Tally::locked},     {"virtual_time", &Tally::virtualTime}};
 
 double percentage(int64_t part, int64_t whole) {
     return whole ? 100.0 * static_cast<double>(part) / static_cast<double>(whole) : 0;

@@ -69,7 +69,7 @@ std::string tapAnywhere(Hand &hand) { return tap(anywhere(hand)); }
 std::string tapTwice(Hand &hand) {
     std::string once =
         tap(hand.snapshot.overlay.empty() || hand.random.percent(40) ? anywhere(hand)
-                                                                  : near(hand, hand.snapshot.overlay));
+                                                                     : near(hand, hand.snapshot.overlay));
     return once + " phone:wait(" + numberText(hand.random.pick({0.0, 0.05, 0.2})) + ") " + once;
 }
 std::string holdAnywhere(Hand &hand) { return hold(hand, anywhere(hand)); }

@@ -9,9 +9,11 @@ namespace sim {
 
 namespace {
 
-std::string overview(const std::vector<ReferenceSection> &reference, const std::vector<std::string> &commands) {
-    std::string text = "pendix-sim help NAME tells about a command, a call, an option, an event, a device, a setting, or "
-                       "about all\nof a kind:\n\n  commands     ";
+std::string overview(const std::vector<ReferenceSection> &reference,
+                     const std::vector<std::string> &commands) {
+    std::string text =
+        "pendix-sim help NAME tells about a command, a call, an option, an event, a device, a setting, or "
+        "about all\nof a kind:\n\n  commands     ";
     for (const auto &command : commands) text += (&command == &commands[0] ? "" : ", ") + command;
     return text + "\n" + referenceOverview(reference) +
            "\ndocs/simulator.md is the guide, docs/reference.md has all of this on one page.\n";

@@ -7,7 +7,8 @@
 namespace sim {
 
 std::string unknownCommand(const std::string &word, const std::vector<std::string> &commands) {
-    if (word.ends_with(".lua")) return "'" + word + "' is no command; did you mean 'pendix-sim run " + word + "'?";
+    if (word.ends_with(".lua"))
+        return "'" + word + "' is no command; did you mean 'pendix-sim run " + word + "'?";
     return "there is no command '" + word + "'" + suggestion(word, commands);
 }
 

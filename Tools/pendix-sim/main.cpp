@@ -1,14 +1,14 @@
 // pendix-sim: simulated devices, driven by scripts or by people.
+#include "Extension.hpp"
 #include "Help.hpp"
 #include "Mistakes.hpp"
+#include "Runtime/Values/Json.hpp"
+#include "Supervisor/Boot/Extensions.hpp"
+#include "Supervisor/Profiles/Profiles.hpp"
+#include "Supervisor/Script/Script.hpp"
 #include "Tools/Live/LiveSession.hpp"
 #include "Tools/Live/Shot.hpp"
 #include "Tools/Monkey/Monkey.hpp"
-#include "Extension.hpp"
-#include "Supervisor/Boot/Extensions.hpp"
-#include "Supervisor/Profiles/Profiles.hpp"
-#include "Runtime/Values/Json.hpp"
-#include "Supervisor/Script/Script.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -41,11 +41,11 @@ struct CommandLine {
 
 sim::DeviceSetup setupOf(const CommandLine &commandLine) {
     sim::Installation installation = sim::findInstallation();
-    sim::DeviceSetup setup{
-        .installation = installation,
-        .package = sim::readPackage(installation.manifest),
-        .debugger = commandLine.debugger,
-        .extensions = sim::absolutePaths(commandLine.extensions, std::filesystem::current_path())};
+    sim::DeviceSetup setup{.installation = installation,
+                           .package = sim::readPackage(installation.manifest),
+                           .debugger = commandLine.debugger,
+                           .extensions =
+                               sim::absolutePaths(commandLine.extensions, std::filesystem::current_path())};
     if (commandLine.fresh) setup.nurseries = nullptr;
     return setup;
 }
@@ -217,7 +217,8 @@ CLI::App *addMonkey(CLI::App &program, CommandLine &commandLine) {
 }
 
 CLI::App *addNew(CLI::App &program, CommandLine &commandLine) {
-    auto *made = program.add_subcommand("new", "Make an extension to begin with: a hook, a filter and a test");
+    auto *made =
+        program.add_subcommand("new", "Make an extension to begin with: a hook, a filter and a test");
     made->add_option("NAME", commandLine.extension, "Its name, and that of its folder")->required();
     return made;
 }
@@ -231,7 +232,8 @@ CLI::App *addBuild(CLI::App &program, CommandLine &commandLine) {
 }
 
 CLI::App *addHelp(CLI::App &program, CommandLine &commandLine) {
-    auto *help = program.add_subcommand("help", "Tell about a call, an option, an event, a device, a setting");
+    auto *help =
+        program.add_subcommand("help", "Tell about a call, an option, an event, a device, a setting");
     help->add_option("NAME", commandLine.help.words, "Of what; without it, what there is");
     help->add_flag("--markdown", commandLine.help.page, "All of it, as docs/reference.md has it");
     return help;
@@ -258,7 +260,8 @@ std::vector<std::string> optionNames(const CLI::App &command) {
 }
 
 // A call that the program does not understand, in words that say what to do about it.
-std::string explain(const CLI::App &program, const std::vector<std::string> &call, const CLI::ParseError &error) {
+std::string explain(const CLI::App &program, const std::vector<std::string> &call,
+                    const CLI::ParseError &error) {
     auto chosen = program.get_subcommands();
     std::string command = chosen.empty() ? "" : chosen.front()->get_name();
     auto words = program.remaining(true);
@@ -269,7 +272,8 @@ std::string explain(const CLI::App &program, const std::vector<std::string> &cal
     if (chosen.empty() && !words.empty() && words.front().starts_with("-"))
         text = sim::unexpectedWords("pendix-sim", words, optionNames(program));
     else if (chosen.empty())
-        text = words.empty() ? "a command is missing" : sim::unknownCommand(words.front(), commandNames(program));
+        text = words.empty() ? "a command is missing"
+                             : sim::unknownCommand(words.front(), commandNames(program));
     else if (!words.empty())
         text = sim::unexpectedWords(command, words, optionNames(*chosen.front()));
     return "pendix-sim: " + text + "\n\"pendix-sim " + (command.empty() ? "" : command + " ") +

@@ -28,11 +28,11 @@ void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSid
                      }];
 }
 
-// Whether a button may change the face: not while the panel closes, and not behind a question, for then it is
-// one of an earlier panel that a finger still held.
+// Whether a button may change the face: not while the panel closes, not when it is unlocked and the faces
+// only leave, and not behind a question, for then it is one of an earlier panel that a finger still held.
 BOOL takesChoice() {
     UIView *ask = lockFace(tags::askFace);
-    return isShow && (!ask || ask.frame.origin.y != 0);
+    return isShow && needPasscode && (!ask || ask.frame.origin.y != 0);
 }
 
 // Cards stand higher than the strip that was built behind the lock. Whether there are any was decided then.

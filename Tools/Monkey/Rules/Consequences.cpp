@@ -1,5 +1,5 @@
-// What each thing that a person does to a panel at rest leads to, a second and a half later. Judged are lines of one
-// act and a wait; the hand chooses such lines often.
+// What each thing that a person does to a panel at rest leads to, a second and a half later. Judged are lines
+// of one act and a wait; the hand chooses such lines often.
 #include "Rules.hpp"
 #include "Scene.hpp"
 #include "Settings.hpp"
@@ -12,7 +12,8 @@ namespace sim {
 
 namespace {
 
-constexpr double kInside = 4; // points from an edge that a finger keeps, so that there is no doubt what it meets
+constexpr double kInside =
+    4; // points from an edge that a finger keeps, so that there is no doubt what it meets
 
 struct Case {
     const Moment &moment;
@@ -43,7 +44,8 @@ void expectClosed(const Case &c) {
 
 void expectSame(const Case &c, const char *what) {
     if (!c.after) return c.broken(std::string("the panel is gone after ") + what);
-    if (c.after->identifiers() != c.before.identifiers()) c.broken(std::string("the list is another after ") + what);
+    if (c.after->identifiers() != c.before.identifiers())
+        c.broken(std::string("the list is another after ") + what);
 }
 
 // In running mode an application that does not run has nothing to be quit.
@@ -71,9 +73,11 @@ void expectWithout(const Case &c, const std::string &identifier) {
     if (!c.after) return c.broken("the panel is gone");
     Texts left = c.before.identifiers();
     std::erase(left, identifier);
-    if (c.after->identifiers() != left) c.broken(identifier + " was taken off, and the list is not what was left");
+    if (c.after->identifiers() != left)
+        c.broken(identifier + " was taken off, and the list is not what was left");
     for (const auto &other : left)
-        if (badgeOf(*c.moment.before, other) != badgeOf(c.moment.now, other)) c.broken(other + " lost its badge as well");
+        if (badgeOf(*c.moment.before, other) != badgeOf(c.moment.now, other))
+            c.broken(other + " lost its badge as well");
     expectDone(c, identifier);
 }
 
@@ -149,8 +153,8 @@ void judge(const Case &c) {
     if (std::sscanf(line, "phone:tap{%lf, %lf} phone:wait(%lf)", &x, &y, &wait) == 3) return tap(c, x, y);
     if (std::sscanf(line, "phone:hold({%lf, %lf}, %lf) phone:wait(%lf)", &x, &y, &seconds, &wait) == 4)
         return hold(c, x, y, seconds);
-    if (std::sscanf(line, "phone:drag({%lf, %lf}, %lf, %lf, %lf) phone:wait(%lf)", &x, &y, &dx, &dy, &seconds, &wait) ==
-        6)
+    if (std::sscanf(line, "phone:drag({%lf, %lf}, %lf, %lf, %lf) phone:wait(%lf)", &x, &y, &dx, &dy, &seconds,
+                    &wait) == 6)
         return drag(c, x, y, dx, dy);
     for (const char *closes : {"phone:banner(", "phone:display(false)", "phone:activator()"})
         if (std::strncmp(line, closes, std::strlen(closes)) == 0) return expectClosed(c);

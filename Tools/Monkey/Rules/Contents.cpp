@@ -1,5 +1,5 @@
-// What the panel lists when it opens: every application that somebody expects who has watched the badges or the
-// switcher, in that order, with its name and its number, and no other.
+// What the panel lists when it opens: every application that somebody expects who has watched the badges or
+// the switcher, in that order, with its name and its number, and no other.
 #include "Names.hpp"
 #include "Rules.hpp"
 #include "Scene.hpp"
@@ -31,7 +31,9 @@ bool isListable(const Moment &moment, const std::string &identifier) {
            identifier != "com.apple.PrintKit.Print-Center" && identifier != "com.apple.uikit.PrintStatus";
 }
 
-std::string numberOn(int64_t badge) { return badge == 0 ? "" : badge >= 1000 ? "999+" : std::to_string(badge); }
+std::string numberOn(int64_t badge) {
+    return badge == 0 ? "" : badge >= 1000 ? "999+" : std::to_string(badge);
+}
 
 std::string joined(const Texts &list) {
     std::string text;
@@ -49,9 +51,11 @@ Texts without(const Texts &list, const std::set<std::string> &some) {
 void compare(const Texts &listed, const Texts &expected, const BadgeMemory &badges, Findings &findings) {
     const Texts sure = without(expected, badges.unsure), seen = without(listed, badges.unsure);
     if (std::set(sure.begin(), sure.end()) != std::set(seen.begin(), seen.end()))
-        findings.push_back("the panel lists " + joined(listed) + " where " + joined(expected) + " is expected");
+        findings.push_back("the panel lists " + joined(listed) + " where " + joined(expected) +
+                           " is expected");
     else if (without(sure, badges.unordered) != without(seen, badges.unordered))
-        findings.push_back("the panel lists " + joined(seen) + " in the wrong order; " + joined(sure) + " is right");
+        findings.push_back("the panel lists " + joined(seen) + " in the wrong order; " + joined(sure) +
+                           " is right");
     for (const auto &identifier : listed)
         if (badges.unsure.contains(identifier) && !std::ranges::count(expected, identifier))
             findings.push_back("the panel lists " + identifier + ", which nobody expects");
@@ -60,14 +64,16 @@ void compare(const Texts &listed, const Texts &expected, const BadgeMemory &badg
 void checkBadged(const Moment &moment, const BadgeMemory &badges, const Scene &scene, Findings &findings) {
     Texts expected;
     for (const auto &identifier : badges.order)
-        if (badgeOf(moment.now, identifier) != 0 && isListable(moment, identifier)) expected.push_back(identifier);
+        if (badgeOf(moment.now, identifier) != 0 && isListable(moment, identifier))
+            expected.push_back(identifier);
     compare(scene.identifiers(), expected, badges, findings);
 }
 
 void checkRunning(const Moment &moment, const Scene &scene, Findings &findings) {
     Texts expected;
     for (const auto &identifier : moment.now.switcher)
-        if (isListable(moment, identifier) && find(moment.now, identifier)->running) expected.push_back(identifier);
+        if (isListable(moment, identifier) && find(moment.now, identifier)->running)
+            expected.push_back(identifier);
     compare(scene.identifiers(), expected, {}, findings);
 }
 
@@ -79,10 +85,12 @@ void checkTexts(const Moment &moment, const Scene &scene, Findings &findings) {
         const std::string number = numberOn(badgeOf(moment.now, item.identifier));
         // What stands out beyond the panel is not seen.
         if (!item.badge.empty() && item.badge != number)
-            findings.push_back(item.identifier + " has " + number + " on its icon and " + item.badge + " on the panel");
+            findings.push_back(item.identifier + " has " + number + " on its icon and " + item.badge +
+                               " on the panel");
     }
     if (scene.items.empty() == scene.emptyText.empty())
-        findings.push_back(scene.items.empty() ? "an empty panel says nothing" : "a full panel says that it is empty");
+        findings.push_back(scene.items.empty() ? "an empty panel says nothing"
+                                               : "a full panel says that it is empty");
     if (scene.emptyText == "(null)") findings.push_back("an empty panel says \"(null)\"");
 }
 

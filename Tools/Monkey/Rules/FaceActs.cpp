@@ -1,5 +1,5 @@
-// What a touch on one of the lock's faces leads to, or a finger on the sensor, a second and a half later. Judged are
-// lines of one act and a wait, from a face at rest.
+// What a touch on one of the lock's faces leads to, or a finger on the sensor, a second and a half later.
+// Judged are lines of one act and a wait, from a face at rest.
 #include "Names.hpp"
 #include "PanelSight.hpp"
 #include "Rules.hpp"
@@ -32,14 +32,17 @@ struct Standing {
     int keyAt(double x, double y) const {
         for (size_t at : window->childrenOf(view)) {
             const SeenView &key = window->views[at];
-            if (key.tag >= 10 && key.tag <= 100 && covers(key.onScreen, x, y, 12)) return static_cast<int>(key.tag / 10 % 10);
+            if (key.tag >= 10 && key.tag <= 100 && covers(key.onScreen, x, y, 12))
+                return static_cast<int>(key.tag / 10 % 10);
         }
         return -1;
     }
     int filled() const {
         int count = 0;
         for (int64_t dot = 1; dot <= 4; ++dot)
-            if (size_t at = window->child(view, dot); at != SeenWindow::npos && !window->views[at].background.empty()) ++count;
+            if (size_t at = window->child(view, dot);
+                at != SeenWindow::npos && !window->views[at].background.empty())
+                ++count;
         return count;
     }
 };
@@ -60,7 +63,10 @@ Standing standingIn(const Observation &seen) {
 }
 
 const char *nameOf(int64_t tag) {
-    return tag == names::askFace ? "the question" : tag == names::fingerFace ? "the finger" : tag == names::keypadFace ? "the keypad" : "nothing";
+    return tag == names::askFace      ? "the question"
+           : tag == names::fingerFace ? "the finger"
+           : tag == names::keypadFace ? "the keypad"
+                                      : "nothing";
 }
 
 struct Case {
@@ -71,8 +77,8 @@ struct Case {
     void broken(const std::string &sentence) const { findings.push_back(moment.call + ": " + sentence); }
     void expect(int64_t tag) const {
         if (after.tag != tag)
-            broken(std::string("from ") + nameOf(before.tag) + " it leads to " + nameOf(after.tag) + ", and " + nameOf(tag) +
-                   " is right");
+            broken(std::string("from ") + nameOf(before.tag) + " it leads to " + nameOf(after.tag) +
+                   ", and " + nameOf(tag) + " is right");
     }
     void expectClosed() const {
         if (sceneOf(moment.now)) broken("the panel is still there");
@@ -82,7 +88,8 @@ struct Case {
 void tap(const Case &c, double x, double y) {
     const bool byFinger = c.moment.device.profile->touchSensor && isOn(c.moment.settings, "touchid");
     const int button = c.before.buttonAt(x, y);
-    if (c.before.tag == names::askFace && button == 0) c.expect(byFinger ? names::fingerFace : names::keypadFace);
+    if (c.before.tag == names::askFace && button == 0)
+        c.expect(byFinger ? names::fingerFace : names::keypadFace);
     if (c.before.tag == names::fingerFace && button == 0) c.expectClosed();
     if (c.before.tag == names::fingerFace && button == 1) c.expect(names::keypadFace);
     if (c.before.tag != names::keypadFace) return;
@@ -91,7 +98,8 @@ void tap(const Case &c, double x, double y) {
     if (button == 1) return c.expect(names::fingerFace);
     const int wanted = button == 0 ? filled - 1 : c.before.keyAt(x, y) >= 0 ? filled + 1 : -1;
     if (wanted < 0 || wanted > 3) return; // a whole code is another rule's affair
-    if (c.after.tag != names::keypadFace || c.after.filled() != wanted) c.broken("not " + std::to_string(wanted) + " dots are filled");
+    if (c.after.tag != names::keypadFace || c.after.filled() != wanted)
+        c.broken("not " + std::to_string(wanted) + " dots are filled");
 }
 
 } // namespace
@@ -102,8 +110,10 @@ void checkFaceActs(const Moment &moment, Memory &memory, Findings &findings) {
     const Case c{moment, standingIn(*moment.before), standingIn(moment.now), findings};
     if (!c.before.tag) return;
     double x = 0, y = 0, wait = 0;
-    if (std::sscanf(moment.call.c_str(), "phone:tap{%lf, %lf} phone:wait(%lf)", &x, &y, &wait) == 3) tap(c, x, y);
-    if (moment.call == "phone:finger(3) phone:wait(1.5)" && c.before.tag == names::fingerFace && moment.device.profile->touchSensor)
+    if (std::sscanf(moment.call.c_str(), "phone:tap{%lf, %lf} phone:wait(%lf)", &x, &y, &wait) == 3)
+        tap(c, x, y);
+    if (moment.call == "phone:finger(3) phone:wait(1.5)" && c.before.tag == names::fingerFace &&
+        moment.device.profile->touchSensor)
         c.expect(0);
 }
 

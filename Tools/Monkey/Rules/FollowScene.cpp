@@ -56,8 +56,10 @@ void followFingers(const Moment &moment, std::set<int> &fingers) {
     int number = 1;
     if (moment.call.find("phone:down(") != std::string::npos) {
         const char *last = std::strrchr(moment.call.c_str(), ',');
-        if (last && std::sscanf(last, ", %d)", &number) == 1) fingers.insert(number);
-        else fingers.insert(1);
+        if (last && std::sscanf(last, ", %d)", &number) == 1)
+            fingers.insert(number);
+        else
+            fingers.insert(1);
     }
     if (std::sscanf(moment.call.c_str(), "phone:up(%d)", &number) == 1) fingers.erase(number);
     if (moment.call == "phone:up()") fingers.erase(1);
@@ -66,13 +68,16 @@ void followFingers(const Moment &moment, std::set<int> &fingers) {
 
 void followPlace(const Moment &moment, SceneMemory &memory) {
     int orientation = 1;
-    if (std::sscanf(moment.call.c_str(), "phone:rotate(%d)", &orientation) == 1) memory.upright = orientation == 1;
+    if (std::sscanf(moment.call.c_str(), "phone:rotate(%d)", &orientation) == 1)
+        memory.upright = orientation == 1;
     std::vector<Area> places;
     std::optional<Scene> scene = sceneOf(moment.now);
     if (scene) {
         places.push_back(scene->panel);
         for (const SceneItem &item : scene->items) places.push_back(item.place);
     }
+    // The panel follows the indicator, a little later.
+    if (moment.now.itemPlace) places.push_back(*moment.now.itemPlace);
     if (!(places == memory.places) || (scene && scene->moving)) memory.steadySince = moment.to;
     memory.places = std::move(places);
     memory.mixed = scene && (memory.mixed || moment.settingsChanged);
@@ -81,8 +86,10 @@ void followPlace(const Moment &moment, SceneMemory &memory) {
 } // namespace
 
 void followScene(const Moment &moment, SceneMemory &memory) {
-    if (moment.restarted()) memory.asBooted = true;
-    else if (moment.settingsChanged) memory.asBooted = false;
+    if (moment.restarted())
+        memory.asBooted = true;
+    else if (moment.settingsChanged)
+        memory.asBooted = false;
     if (moment.settingsChanged) memory.settingsAt = moment.to;
     for (const char *touch : {":tap", ":hold", ":drag", ":fling", ":down", ":move", ":up"})
         if (moment.call.find(touch) != std::string::npos)
@@ -94,9 +101,11 @@ void followScene(const Moment &moment, SceneMemory &memory) {
 
 std::optional<Scene> sceneBeforeAct(const Moment &moment, const SceneMemory &then, const SceneMemory &now) {
     constexpr int64_t kRested = 300'000'000;
-    if (!moment.before || moment.settingsChanged || !moment.call.ends_with(" phone:wait(1.5)")) return std::nullopt;
+    if (!moment.before || moment.settingsChanged || !moment.call.ends_with(" phone:wait(1.5)"))
+        return std::nullopt;
     std::optional<Scene> scene = sceneOf(*moment.before);
-    if (!scene || scene->moving || then.mixed || !then.upright || !then.fingers.empty() || !now.fingers.empty())
+    if (!scene || scene->moving || then.mixed || !then.upright || !then.fingers.empty() ||
+        !now.fingers.empty())
         return std::nullopt;
     const bool rested = moment.from - then.steadySince >= kRested && moment.from - then.touchedAt >= kRested;
     return rested && moment.before->display ? scene : std::nullopt;

@@ -1,5 +1,5 @@
-// Where the panel and its items stand at rest, on a device that is held upright: by the numbers that a designer would
-// measure on the screen.
+// Where the panel and its items stand at rest, on a device that is held upright: by the numbers that a
+// designer would measure on the screen.
 #include "Rules.hpp"
 #include "Scene.hpp"
 #include "Settings.hpp"
@@ -11,7 +11,7 @@ namespace sim {
 
 namespace {
 
-constexpr double kTolerance = 0.51; // points
+constexpr double kTolerance = 0.51;      // points
 constexpr double kPad = 768, kBig = 375; // widths of a screen from which a device is an iPad, or a big one
 
 bool isNear(double one, double other) { return std::abs(one - other) <= kTolerance; }
@@ -51,8 +51,8 @@ void checkItems(const Scene &scene, const Grid &grid, Findings &findings) {
         if (!isNear(item.frame.x, grid.x(i)) || !isNear(item.frame.w, grid.width))
             findings.push_back(item.identifier + ", number " + std::to_string(i + 1) + ", stands at " +
                                std::to_string(item.frame.x) + " and is " + std::to_string(item.frame.w) +
-                               " wide, where " + std::to_string(grid.x(i)) + " and " + std::to_string(grid.width) +
-                               " are right");
+                               " wide, where " + std::to_string(grid.x(i)) + " and " +
+                               std::to_string(grid.width) + " are right");
         if (!isNear(item.frame.y, scene.items[0].frame.y))
             findings.push_back(item.identifier + " does not stand in line with the others");
     }
@@ -60,8 +60,8 @@ void checkItems(const Scene &scene, const Grid &grid, Findings &findings) {
                                            static_cast<size_t>(grid.rows)
                                      : 0;
     if (scene.dots != pages)
-        findings.push_back("there are " + std::to_string(scene.dots) + " page dots for " + std::to_string(pages) +
-                           " pages");
+        findings.push_back("there are " + std::to_string(scene.dots) + " page dots for " +
+                           std::to_string(pages) + " pages");
 }
 
 void checkPanel(const Moment &moment, const Scene &scene, Findings &findings) {

@@ -1,6 +1,6 @@
 // What somebody knows of the panel's lock who does things to the phone, sees what it shows and can read the
-// settings file: whether the lock is armed, what has been entered, and whether the panel may show its list. It is
-// never certain of what it has not seen.
+// settings file: whether the lock is armed, what has been entered, and whether the panel may show its list.
+// It is never certain of what it has not seen.
 #pragma once
 
 #include "Deeds.hpp"
@@ -50,8 +50,8 @@ private:
     Sure guarded_ = Sure::no;
     // What the dots may hold, '?' for any digit; with four it is about to be compared.
     std::set<std::string> entered_{""};
-    std::optional<int64_t> comparing_; // since when there may be four
-    bool steady_ = false;              // since then nothing but the right code, in the same file
+    std::optional<int64_t> comparing_;   // since when there may be four
+    bool steady_ = false;                // since then nothing but the right code, in the same file
     std::map<int64_t, Touched> fingers_; // those that are down
 };
 

@@ -1,4 +1,5 @@
-// How the panel and what stands on it are drawn at rest: places, sizes, colours and types by the design's numbers.
+// How the panel and what stands on it are drawn at rest: places, sizes, colours and types by the design's
+// numbers.
 #include "Names.hpp"
 #include "Part.hpp"
 #include "Settings.hpp"
@@ -34,7 +35,8 @@ struct Judge {
     void surroundings(size_t panel) const {
         const std::string white = "#ffffffff", mist = "#ffffffb3";
         part(panel, "the panel").round(10).on(colours.light ? white : kNone).seenAt(1);
-        size_t bubble = window.child(0, 2), logo = window.child(0, 1), screen = window.child(0, names::screenBackdrop);
+        size_t bubble = window.child(0, 2), logo = window.child(0, 1),
+               screen = window.child(0, names::screenBackdrop);
         if (bubble == SeenWindow::npos) return missing("the bubble");
         part(bubble, "the bubble").on(colours.light ? mist : kNone);
         if (view(bubble).radius < view(bubble).frame.w / 2) findings.push_back("the bubble is not round");
@@ -56,15 +58,18 @@ struct Judge {
         const double wide = moment.now.screenWidth, high = moment.now.screenHeight;
         const std::string position =
             on("rech") && moment.settings["position"].isString() ? moment.settings["position"].string() : "";
-        if (position == "middle") return void(part(panel, "the panel").at(kAny, (high - stands.h) / 2, kAny, kAny));
-        if (position == "bottom") return void(part(panel, "the panel").at(kAny, high - stands.h - wide / 10, kAny, kAny));
+        if (position == "middle")
+            return void(part(panel, "the panel").at(kAny, (high - stands.h) / 2, kAny, kAny));
+        if (position == "bottom")
+            return void(part(panel, "the panel").at(kAny, high - stands.h - wide / 10, kAny, kAny));
         if (item.y != 0) return; // let down
         part(panel, "the panel").at(kAny, item.h + 10, kAny, kAny);
         const bool sticksOut = item.x + 1.5 * item.w >= stands.x + stands.w - 3;
         part(bubble, "the bubble").seenAt(sticksOut ? 0 : 1);
     }
 
-    void hand(size_t icon, int64_t tag, const char *name, double width, double length, const char *colour) const {
+    void hand(size_t icon, int64_t tag, const char *name, double width, double length,
+              const char *colour) const {
         size_t at = window.child(icon, tag);
         if (at == SeenWindow::npos) return missing(name);
         part(at, name).on(colour).round(width / 2);
@@ -74,20 +79,26 @@ struct Judge {
     void badge(size_t at, const Area &icon) const {
         if (!view(at).seen) return;
         bool number = false;
-        for (size_t inner : window.childrenOf(at)) number = number || view(inner).picture || (view(inner).seen && !view(inner).text.empty());
+        for (size_t inner : window.childrenOf(at))
+            number = number || view(inner).picture || (view(inner).seen && !view(inner).text.empty());
         if (!number) missing("the number on a badge");
         const double w = view(at).frame.w;
-        part(at, "a badge").at(icon.x + icon.w - w / 2 - 4, icon.y - kBadge / 2 + 4, w, kBadge).round(kBadge / 2);
+        part(at, "a badge")
+            .at(icon.x + icon.w - w / 2 - 4, icon.y - kBadge / 2 + 4, w, kBadge)
+            .round(kBadge / 2);
         const bool round = view(at).name.size() == 1;
-        if (w < kBadge || (round && w > kBadge + 0.5)) findings.push_back("a badge is " + std::to_string(w) + " wide");
+        if (w < kBadge || (round && w > kBadge + 0.5))
+            findings.push_back("a badge is " + std::to_string(w) + " wide");
     }
 
     void mark(size_t at, bool editing) const {
         const double side = kBadge - 4;
         const Part mark = part(at, "a close mark");
         mark.in(colours.ink).on(colours.paper);
-        if (editing) mark.at(4 - side / 2, 4 - side / 2, side, side).round(side / 2);
-        else mark.at(kAny, kAny, 0, 0);
+        if (editing)
+            mark.at(4 - side / 2, 4 - side / 2, side, side).round(side / 2);
+        else
+            mark.at(kAny, kAny, 0, 0);
         if (view(at).image.empty()) missing("the close mark's picture");
     }
 
@@ -107,7 +118,10 @@ struct Judge {
         if (cards) drawn.round(4).on(colours.light ? "#33333380" : "#cccccc80");
         for (size_t label : window.childrenOf(at))
             if (view(label).type == "UILabel")
-                part(label, "the name of " + identifier).at(-10, height + 5, cell.w + 20, 15).in(colours.ink).sized(12);
+                part(label, "the name of " + identifier)
+                    .at(-10, height + 5, cell.w + 20, 15)
+                    .in(colours.ink)
+                    .sized(12);
         this->mark(mark, editing);
         badge(badgeView, {0, 0, cell.w, cell.w});
         if (cards) cardIcon(at, cell.w, height);
@@ -137,7 +151,10 @@ struct Judge {
             if (!view(child).name.empty()) item(child, scene.marks());
             if (view(child).type != "UILabel") continue;
             const char *const key = on("badge") ? "no_running_apps" : "no_badge";
-            part(child, "what an empty panel says").in(colours.ink).sized(16).says(wording(moment.device.language, key))
+            part(child, "what an empty panel says")
+                .in(colours.ink)
+                .sized(16)
+                .says(wording(moment.device.language, key))
                 .at(0, 0, panel.w, kAny);
         }
         const double content = on("paging") ? static_cast<double>(scene.dots) * panel.w : right + first;
@@ -151,15 +168,19 @@ struct Judge {
         const auto dots = window.childrenOf(at);
         if (dots.empty()) return; // the last application has gone
         const auto count = static_cast<double>(dots.size());
-        const double step = count < 2 ? 16 : std::min(16.0, (width - 20) / (count - 1)), side = std::min(6.0, step * 0.75);
+        const double step = count < 2 ? 16 : std::min(16.0, (width - 20) / (count - 1)),
+                     side = std::min(6.0, step * 0.75);
         const double row = (count - 1) * step + 20;
         part(at, "the row of dots").at((width - row) / 2, scene.question ? 72 : 7, row, 11);
         int lit = 0;
         for (size_t dot : dots) {
             const Part one = part(dot, "a page dot");
-            one.at(static_cast<double>(view(dot).tag) * step + 10, 5.5 - side / 2, side, side).round(side / 2);
-            if (view(dot).background == colours.ink) ++lit;
-            else one.on("#808080ff");
+            one.at(static_cast<double>(view(dot).tag) * step + 10, 5.5 - side / 2, side, side)
+                .round(side / 2);
+            if (view(dot).background == colours.ink)
+                ++lit;
+            else
+                one.on("#808080ff");
         }
         if (lit != 1) findings.push_back(std::to_string(lit) + " page dots are lit");
     }
@@ -169,7 +190,9 @@ struct Judge {
         const Part button = part(at, std::string("the answer ") + key);
         button.at(right ? half + 1 : 0, y, half, kButton).on("#0000001a").seenAt(1);
         for (size_t label : window.childrenOf(at))
-            return (void)part(label, std::string("the title of the answer ") + key).in(colours.ink).says(wording(moment.device.language, key));
+            return (void)part(label, std::string("the title of the answer ") + key)
+                .in(colours.ink)
+                .says(wording(moment.device.language, key));
         missing("the title of an answer");
     }
 
@@ -181,7 +204,10 @@ struct Judge {
             const double bottom = panel.h - 45 - kButton;
             if (view(at).tag == names::promptText) {
                 shown = true;
-                part(at, "the question").at(0, -45, panel.w, 65).in(colours.ink).sized(20)
+                part(at, "the question")
+                    .at(0, -45, panel.w, 65)
+                    .in(colours.ink)
+                    .sized(20)
                     .says(wording(moment.device.language, on("badge") ? "clear_app" : "clear_badge"));
             }
             (void)bottom;
@@ -196,8 +222,10 @@ struct Judge {
             if (view(child).type == names::strip) strip(child, panel);
             if (view(child).tag == names::pageDots) dots(child, panel.w);
         }
-        if (scene.question) question(at, panel);
-        else part(at, "what is in the panel").at(0, 0, panel.w, kAny);
+        if (scene.question)
+            question(at, panel);
+        else
+            part(at, "what is in the panel").at(0, 0, panel.w, kAny);
     }
 };
 
@@ -208,7 +236,11 @@ void checkLooks(const Moment &moment, Memory &memory, Findings &findings) {
     if (!scene || moment.now.overlays.empty()) return;
     const SeenWindow &window = moment.now.overlays.front();
     const size_t panel = window.child(0, names::panel);
-    const Judge judge{moment,   window, *scene, coloursOf(moment.settings), isOn(moment.settings, "ca") && !scene->items.empty(),
+    const Judge judge{moment,
+                      window,
+                      *scene,
+                      coloursOf(moment.settings),
+                      isOn(moment.settings, "ca") && !scene->items.empty(),
                       findings};
     if (window.views[panel].frame.w <= 1) return;
     judge.surroundings(panel);

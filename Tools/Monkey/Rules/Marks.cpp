@@ -1,5 +1,5 @@
-// What stands on the icons of the home screen, and the indicator's own drawing: the standard badges or the small marks
-// in their place, and the pulse's glow.
+// What stands on the icons of the home screen, and the indicator's own drawing: the standard badges or the
+// small marks in their place, and the pulse's glow.
 #include "Rules.hpp"
 #include "Settings.hpp"
 
@@ -16,8 +16,8 @@ constexpr const char *kBadge = "SBIconBadgeView";
 constexpr double kGlowRadius = 13; // points
 
 const std::map<std::string, std::string> kColours = {
-    {"black", "#000000ff"}, {"white", "#ffffffff"},  {"gray", "#808080ff"},    {"red", "#ff0000ff"},
-    {"green", "#00ff00ff"}, {"blue", "#0000ffff"},   {"cyan", "#00ffffff"},    {"magenta", "#ff00ffff"},
+    {"black", "#000000ff"}, {"white", "#ffffffff"},  {"gray", "#808080ff"},   {"red", "#ff0000ff"},
+    {"green", "#00ff00ff"}, {"blue", "#0000ffff"},   {"cyan", "#00ffffff"},   {"magenta", "#ff00ffff"},
     {"brown", "#996633ff"}, {"orange", "#ff8000ff"}, {"purple", "#800080ff"}, {"yellow", "#ffff00ff"},
     {"clear", "#00000000"}};
 
@@ -26,7 +26,8 @@ std::string colourOf(const Value &name) {
     return found == kColours.end() ? "#ff0000ff" : found->second;
 }
 
-// As long as the settings are those that the home screen started with: later ones count for each icon from its next drawing.
+// As long as the settings are those that the home screen started with: later ones count for each icon from
+// its next drawing.
 void checkIcon(const Moment &moment, const SeenBadge &badge, Findings &findings) {
     auto part = [&](auto wanted) {
         auto found = std::ranges::find_if(badge.parts, wanted);
@@ -38,27 +39,35 @@ void checkIcon(const Moment &moment, const SeenBadge &badge, Findings &findings)
     const bool hides = isOn(settings, "enable") && isOn(settings, "b");
     const bool marks = hides && isOn(settings, "newb") && !(entry.isObject() && isYes(entry["badge_perapp"]));
     if (own && (own->alpha > 0) == hides)
-        findings.push_back("the badge of " + badge.application + (hides ? " is to be seen" : " is not to be seen"));
+        findings.push_back("the badge of " + badge.application +
+                           (hides ? " is to be seen" : " is not to be seen"));
     if ((mark != nullptr) != marks)
         return findings.push_back(badge.application + (marks ? " has no mark" : " has a mark"));
     if (mark && !isOn(settings, "auto") && mark->tint != colourOf(settings["colors"]))
         findings.push_back("the mark of " + badge.application + " is " + mark->tint);
 }
 
-bool pulses(const Observation &seen) { return std::ranges::find(seen.timers, "pulse:", &SeenTimer::selector) != seen.timers.end(); }
+bool pulses(const Observation &seen) {
+    return std::ranges::find(seen.timers, "pulse:", &SeenTimer::selector) != seen.timers.end();
+}
 
 void checkGlow(const Moment &moment, Findings &findings) {
     const SeenGlow &glow = moment.now.itemGlow;
-    if (!moment.now.itemPlace || !moment.now.itemVisible || !moment.before || !moment.before->itemPlace) return;
+    if (!moment.now.itemPlace || !moment.now.itemVisible || !moment.before || !moment.before->itemPlace)
+        return;
     // A tick and a half, in which a bar that was laid out anew gets its glow back.
     if (moment.to - moment.from < 110'000'000 || moment.call.find("restyle") != std::string::npos) return;
     if (pulses(*moment.before) && pulses(moment.now)) {
         // A bar that changes its style at an animation's end drops the glow until the next tick.
-        auto lacks = [](const SeenGlow &one) { return one.opacity != 1 || std::abs(one.radius - kGlowRadius) > 0.1; };
-        if (lacks(glow) && lacks(moment.before->itemGlow)) findings.push_back("the indicator pulses without its glow");
+        auto lacks = [](const SeenGlow &one) {
+            return one.opacity != 1 || std::abs(one.radius - kGlowRadius) > 0.1;
+        };
+        if (lacks(glow) && lacks(moment.before->itemGlow))
+            findings.push_back("the indicator pulses without its glow");
         if (glow.alpha < 0 || glow.alpha > 1.06) findings.push_back("the pulse has left its bounds");
     } else if (!pulses(*moment.before) && !pulses(moment.now)) {
-        if (glow.opacity != 0 || glow.alpha < 0.99) findings.push_back("the indicator glows, and nothing makes it pulse");
+        if (glow.opacity != 0 || glow.alpha < 0.99)
+            findings.push_back("the indicator glows, and nothing makes it pulse");
     }
 }
 

@@ -1,4 +1,5 @@
-// How the pages in Settings are drawn once they stand still, on a phone that is held upright: by the design's numbers.
+// How the pages in Settings are drawn once they stand still, on a phone that is held upright: by the design's
+// numbers.
 #include "Part.hpp"
 #include "Wording.hpp"
 
@@ -51,9 +52,13 @@ struct Judge {
         part(*parts[0], "the header's bar").at(0, above + kHeight - kBar, width, kBar);
         const double h = parts[1]->view.frame.h;
         if (h < 60) missing("the height of the header's title");
-        part(*parts[1], "the header's title").says("Pendix").sized(80)
+        part(*parts[1], "the header's title")
+            .says("Pendix")
+            .sized(80)
             .at(0, above + (kHeight - h - kBar) / 2 - 5, width, h);
-        part(*parts[2], "the header's tab").at((width - 100) / 2, above + kHeight - kBar - 20, 100, 40).round(90);
+        part(*parts[2], "the header's tab")
+            .at((width - 100) / 2, above + kHeight - kBar - 20, 100, 40)
+            .round(90);
     }
 
     void credits() const {
@@ -69,18 +74,24 @@ struct Judge {
         for (size_t i = 0; i < 4; ++i) {
             const Area &frame = parts[i]->view.frame;
             const Part one = part(*parts[i], "line " + std::to_string(i) + " about the extension");
-            if (i == 0) one.at((width - 40) / 2, top, 40, 40);
-            else one.at((width - frame.w) / 2, top, frame.w, frame.h).sized(fonts[i]);
-            if (frame.w > width - 48 || frame.h < 10) findings.push_back("a line about the extension has the wrong size");
+            if (i == 0)
+                one.at((width - 40) / 2, top, 40, 40);
+            else
+                one.at((width - frame.w) / 2, top, frame.w, frame.h).sized(fonts[i]);
+            if (frame.w > width - 48 || frame.h < 10)
+                findings.push_back("a line about the extension has the wrong size");
             top += frame.h + 12;
         }
         if (parts[0]->view.image.empty()) missing("the glyph about the extension");
         part(*parts[1], "the name of the extension").says("Pendix");
         const std::string &version = parts[2]->view.text;
-        if (!version.starts_with(said("version") + " ") || version.find_first_of("0123456789") == version.npos)
+        if (!version.starts_with(said("version") + " ") ||
+            version.find_first_of("0123456789") == version.npos)
             findings.push_back("the version reads \"" + version + "\"");
         const Area &button = parts[4]->view.frame;
-        part(*parts[4], "the button that leads back").says(said("cancel")).at(width - 16 - button.w, 20, button.w, 44);
+        part(*parts[4], "the button that leads back")
+            .says(said("cancel"))
+            .at(width - 16 - button.w, 20, button.w, 44);
         for (const PaneView *label : pane.childrenOf(*parts[4]))
             if (label->view.type == "UIButtonLabel") part(*label, "the way back").in("#007affff");
     }
@@ -90,11 +101,13 @@ struct Judge {
         if (!view) return missing("the sheet for a code");
         const auto parts = pane.childrenOf(*view);
         const Area &all = view->view.frame;
-        if (std::abs(all.w - width) > 0.5) return findings.push_back("the sheet is not as wide as the screen");
+        if (std::abs(all.w - width) > 0.5)
+            return findings.push_back("the sheet is not as wide as the screen");
         if (parts.size() % 5 != 1) return missing("a part of the sheet");
         const size_t first = static_cast<size_t>(pane.sheet->group) * 5;
         if (first + 5 >= parts.size()) return missing("a group of the sheet");
-        const double below = all.h - 44, textHeight = parts[first]->view.frame.h, w = parts[first]->view.frame.w;
+        const double below = all.h - 44, textHeight = parts[first]->view.frame.h,
+                     w = parts[first]->view.frame.w;
         const double left = (width - w) / 2;
         part(*parts[first], "the sheet's text").sized(16).at(left, (below + textHeight) / 4, w, textHeight);
         for (size_t i = 0; i < 4; ++i) {
@@ -109,8 +122,8 @@ struct Judge {
     const PaneView *swatch() const {
         const PaneView *shown = nullptr;
         for (const PaneView &view : pane.views)
-            if (view.view.tag == 2 && view.view.frame.w == 1 && view.view.frame.h == 1 && view.view.onScreen.x >= 0 &&
-                view.view.onScreen.x < width)
+            if (view.view.tag == 2 && view.view.frame.w == 1 && view.view.frame.h == 1 &&
+                view.view.onScreen.x >= 0 && view.view.onScreen.x < width)
                 shown = &view;
         return shown;
     }
@@ -121,8 +134,10 @@ struct Judge {
         if (!icon || icon->view.image.empty()) return missing("the colour's preview");
         part(*icon, "the colour's preview").at(left, marks ? 20 : 30, side, side);
         if (!marks) {
-            if (icon->shadow != colour) findings.push_back("the preview glows in " + icon->shadow + ", and " + colour + " is right");
-            if (icon->shadowRadius != 25 || icon->shadowOpacity != 1) findings.push_back("the preview's glow is another one");
+            if (icon->shadow != colour)
+                findings.push_back("the preview glows in " + icon->shadow + ", and " + colour + " is right");
+            if (icon->shadowRadius != 25 || icon->shadowOpacity != 1)
+                findings.push_back("the preview's glow is another one");
             return part(*icon, "the glowing preview").in("#000000ff"), void();
         }
         if (!mark || mark->view.image.empty()) return missing("the preview's mark");
@@ -154,7 +169,8 @@ void checkShownColour(const Moment &moment, const Judge &judge, const char *key,
     const PaneView *card = judge.swatch();
     if (!card) return;
     const Value &stored = moment.settings[key];
-    auto wanted = std::ranges::find_if(kColours, [&](const Colour &one) { return stored == Value(one.name); });
+    auto wanted =
+        std::ranges::find_if(kColours, [&](const Colour &one) { return stored == Value(one.name); });
     const std::string drawn = wanted == kColours.end() ? kColours[0].drawn : wanted->drawn;
     if (card->view.background != drawn)
         findings.push_back("the page opens on " + card->view.background + ", and " + drawn + " is stored");
@@ -162,20 +178,25 @@ void checkShownColour(const Moment &moment, const Judge &judge, const char *key,
 
 void checkSwipe(const Moment &moment, const Judge &before, const Judge &after, int step, Findings &findings) {
     auto place = [](const PaneView *card) {
-        auto found = std::ranges::find_if(kColours, [&](const Colour &one) { return card && card->view.background == one.drawn; });
+        auto found = std::ranges::find_if(
+            kColours, [&](const Colour &one) { return card && card->view.background == one.drawn; });
         return static_cast<int>(found - kColours.begin());
     };
-    const int count = static_cast<int>(kColours.size()), from = place(before.swatch()), to = place(after.swatch());
+    const int count = static_cast<int>(kColours.size()), from = place(before.swatch()),
+              to = place(after.swatch());
     if (from == count || to == count) return findings.push_back("a card has a colour that none has");
-    if (to != (from + step + count) % count) findings.push_back(moment.call + " leads to another card than the next");
+    if (to != (from + step + count) % count)
+        findings.push_back(moment.call + " leads to another card than the next");
 }
 
 void checkApplied(const Moment &moment, const Judge &judge, const char *key, Findings &findings) {
     const PaneView *card = judge.swatch();
-    auto stored = std::ranges::find_if(kColours, [&](const Colour &one) { return moment.settings[key] == Value(one.name); });
+    auto stored = std::ranges::find_if(
+        kColours, [&](const Colour &one) { return moment.settings[key] == Value(one.name); });
     if (card && (stored == kColours.end() || card->view.background != stored->drawn))
         findings.push_back("what is applied is not the colour that is shown");
-    if (moment.paneNow->alert != judge.said("tint_color")) findings.push_back("no note tells that the colour was applied");
+    if (moment.paneNow->alert != judge.said("tint_color"))
+        findings.push_back("no note tells that the colour was applied");
 }
 
 } // namespace
@@ -207,7 +228,8 @@ void checkPaneLooks(const Moment &moment, Memory &memory, Findings &findings) {
     if (before.type != pane.type || before.alert) return;
     if (moment.call == "pane:swipe(\"left\") phone:wait(1.2)") checkSwipe(moment, then, judge, 1, findings);
     if (moment.call == "pane:swipe(\"right\") phone:wait(1.2)") checkSwipe(moment, then, judge, -1, findings);
-    if (moment.call == "pane:press(\"" + judge.said("apply") + "\") phone:wait(1.2)") checkApplied(moment, judge, key, findings);
+    if (moment.call == "pane:press(\"" + judge.said("apply") + "\") phone:wait(1.2)")
+        checkApplied(moment, judge, key, findings);
 }
 
 } // namespace sim

@@ -1,5 +1,5 @@
-// The pages in Settings: the rows of each, with their texts and pictures, in their order; where a row leads, what a
-// switch stores, which notes come, and what is made of a code that is typed.
+// The pages in Settings: the rows of each, with their texts and pictures, in their order; where a row leads,
+// what a switch stores, which notes come, and what is made of a code that is typed.
 #include "Part.hpp"
 #include "Settings.hpp"
 #include "Wording.hpp"
@@ -44,15 +44,19 @@ const std::map<std::string, Rows> &pages() {
           {"link", "perapp", "desc_perapp", "perAppController"},
           {"link", "icon", "desc_icon", "pendixIconController"},
           {"link", "passw", "desc_passw"}}},
-        {"reachController", {{"switch", "rech", "desc_rech"}, {"choice", "position", "desc_position", "PSListItemsController"}}},
+        {"reachController",
+         {{"switch", "rech", "desc_rech"}, {"choice", "position", "desc_position", "PSListItemsController"}}},
         {"indeterminateController",
-         {{"switch", "newb", "desc_newb"}, {"switch", "auto", "desc_auto"}, {"link", "colors", "desc_colors", kColors}}},
+         {{"switch", "newb", "desc_newb"},
+          {"switch", "auto", "desc_auto"},
+          {"link", "colors", "desc_colors", kColors}}},
         {"pendixIconController",
          {{"switch", "hide", "desc_hide"},
           {"switch", "hide_t", "desc_hide_t"},
           {"switch", "glow", "desc_glow"},
           {"link", "tint", "desc_tint", kColors}}},
-        {"appController", {{"switch", "hide_perapp", "desc_hide_perapp"}, {"switch", "badge_perapp", "desc_badge_perapp"}}},
+        {"appController",
+         {{"switch", "hide_perapp", "desc_hide_perapp"}, {"switch", "badge_perapp", "desc_badge_perapp"}}},
         {"passwordController",
          {{"switch", "security", "desc_sec"},
           {"switch", "touchid", "desc_id"},
@@ -92,7 +96,8 @@ void checkRow(const Moment &moment, const PaneRow &row, const Row &wanted, const
     const std::string name = "the row \"" + said(moment, key) + "\"";
     if (row.label != said(moment, key)) return findings.push_back(name + " is called \"" + row.label + "\"");
     if (row.kind != wanted.kind) findings.push_back(name + " is a " + row.kind);
-    if (wanted.icon == row.icon.empty()) findings.push_back(name + (wanted.icon ? " has no picture" : " has a picture"));
+    if (wanted.icon == row.icon.empty())
+        findings.push_back(name + (wanted.icon ? " has no picture" : " has a picture"));
     const char *const back = isOn(moment.settings, "light") ? "desc_back_dark" : "desc_back_light";
     const std::string text = footer.empty() ? "" : said(moment, footer == kBackFooter ? back : footer);
     if (row.footer != text && !(footer == kBackFooter && mixed))
@@ -140,17 +145,19 @@ void afterToggle(const Moment &moment, const std::string &label, Findings &findi
     const Row *wanted = wantedRow(moment, rows, label);
     if (!wanted || before.sheet || before.alert) return;
     const std::string_view key = wanted->key;
-    const bool was = isStored(moment.settingsBefore, before, key), is = isStored(moment.settings, before, key);
+    const bool was = isStored(moment.settingsBefore, before, key),
+               is = isStored(moment.settings, before, key);
     if (key == "security" && !storedCode(moment.settingsBefore).empty()) {
-        if (!after.sheet || after.sheet->title != said(moment, "write")) findings.push_back("the lock is changed without the code");
+        if (!after.sheet || after.sheet->title != said(moment, "write"))
+            findings.push_back("the lock is changed without the code");
         if (was != is) findings.push_back("the lock is changed before the code was right");
         return;
     }
     if (was == is) findings.push_back("the switch \"" + label + "\" stores nothing");
     const std::string note = noteAfter(moment, before, key, is);
     if (after.alert.value_or("") != note)
-        findings.push_back("after the switch \"" + label + "\" the note \"" + after.alert.value_or("") + "\" is there, and \"" +
-                           note + "\" is right");
+        findings.push_back("after the switch \"" + label + "\" the note \"" + after.alert.value_or("") +
+                           "\" is there, and \"" + note + "\" is right");
 }
 
 void afterOpening(const Moment &moment, const std::string &label, Findings &findings) {
@@ -162,7 +169,9 @@ void afterOpening(const Moment &moment, const std::string &label, Findings &find
         findings.push_back("the row \"" + label + "\" leads to " + after.type);
     if (!wanted || wanted->key != std::string_view("passw")) return;
     const bool asks = !storedCode(moment.settings).empty() && isOn(moment.settings, "pass");
-    if (asks != after.sheet.has_value()) findings.push_back(asks ? "the lock's page does not ask for the code" : "the lock's page asks for a code");
+    if (asks != after.sheet.has_value())
+        findings.push_back(asks ? "the lock's page does not ask for the code"
+                                : "the lock's page asks for a code");
 }
 
 // A sheet at rest, and digits typed into it that do not go beyond the fourth.
@@ -176,15 +185,17 @@ void afterTyping(const Moment &moment, const std::string &text, PaneMemory &memo
     if (code.size() > 4) return memory.typed.reset();
     auto stays = [&](int64_t dots) {
         if (!after.sheet || after.sheet->label != sheet.label || after.sheet->dots != dots)
-            findings.push_back("\"" + code + "\" was typed at \"" + sheet.label + "\", which is to stay with " +
-                               std::to_string(dots) + " dots");
+            findings.push_back("\"" + code + "\" was typed at \"" + sheet.label +
+                               "\", which is to stay with " + std::to_string(dots) + " dots");
     };
     auto goesOn = [&](std::string_view key) {
         if (!after.sheet || after.sheet->label != said(moment, key) || after.sheet->dots != 0)
-            findings.push_back("\"" + code + "\" was typed at \"" + sheet.label + "\", and \"" + said(moment, key) + "\" does not come");
+            findings.push_back("\"" + code + "\" was typed at \"" + sheet.label + "\", and \"" +
+                               said(moment, key) + "\" does not come");
     };
     auto leaves = [&] {
-        if (after.sheet) findings.push_back("\"" + code + "\" was typed at \"" + sheet.label + "\", and the sheet stays");
+        if (after.sheet)
+            findings.push_back("\"" + code + "\" was typed at \"" + sheet.label + "\", and the sheet stays");
     };
     if (code.size() < 4) return stays(static_cast<int64_t>(code.size()));
     const bool right = code == storedCode(moment.settingsBefore);
@@ -205,13 +216,16 @@ void afterTyping(const Moment &moment, const std::string &text, PaneMemory &memo
 void checkPane(const Moment &moment, Memory &memory, Findings &findings) {
     PaneMemory &pane = memory.pane;
     if (!moment.paneNow) return void(pane = {});
-    pane.mixed = (pane.mixed && moment.paneBefore) || (moment.settingsChanged && moment.call.starts_with("phone:"));
+    pane.mixed =
+        (pane.mixed && moment.paneBefore) || (moment.settingsChanged && moment.call.starts_with("phone:"));
     checkRows(moment, *moment.paneNow, pane.mixed, findings);
     if (!moment.paneBefore) return;
     if (auto label = labelOf(moment.call, "toggle")) afterToggle(moment, *label, findings);
     if (auto label = labelOf(moment.call, "open")) afterOpening(moment, *label, findings);
-    if (auto text = labelOf(moment.call, "type")) afterTyping(moment, *text, pane, findings);
-    else if (moment.call.starts_with("pane:type") || moment.call.starts_with("pane:erase")) pane.typed.reset();
+    if (auto text = labelOf(moment.call, "type"))
+        afterTyping(moment, *text, pane, findings);
+    else if (moment.call.starts_with("pane:type") || moment.call.starts_with("pane:erase"))
+        pane.typed.reset();
 }
 
 } // namespace sim

@@ -53,7 +53,8 @@ void readViews(const Value &answer, PaneSight &sight) {
     for (const Value &fields : all) {
         PaneView view = readView(fields);
         for (const Value &child : fields["children"].array())
-            if (auto place = places.find(child.integer()); place != places.end()) view.children.push_back(place->second);
+            if (auto place = places.find(child.integer()); place != places.end())
+                view.children.push_back(place->second);
         sight.views.push_back(std::move(view));
     }
 }
@@ -86,7 +87,8 @@ std::optional<PaneSight> lookAtPane(SettingsProcess *settings) {
     if (!settings || !settings->running()) return std::nullopt;
     try {
         PaneSight sight;
-        const Value page = settings->ask("page"), alert = settings->ask("alert"), sheet = settings->ask("sheet");
+        const Value page = settings->ask("page"), alert = settings->ask("alert"),
+                    sheet = settings->ask("sheet");
         sight.type = textOr(page["class"]);
         sight.title = textOr(page["title"]);
         for (const Value &row : page["rows"].array()) sight.rows.push_back(readRow(row));

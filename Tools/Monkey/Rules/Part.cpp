@@ -22,7 +22,8 @@ Part::Part(const SeenView &view, std::string what, Findings &findings)
 
 void Part::number(const char *name, double is, double wanted, double tolerance) const {
     if (!std::isnan(wanted) && std::abs(is - wanted) > tolerance)
-        findings_.push_back(what_ + ": its " + name + " is " + textOf(is) + ", and " + textOf(wanted) + " is right");
+        findings_.push_back(what_ + ": its " + name + " is " + textOf(is) + ", and " + textOf(wanted) +
+                            " is right");
 }
 
 void Part::text(const char *name, const std::string &is, const std::string &wanted) const {

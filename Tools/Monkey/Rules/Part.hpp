@@ -1,4 +1,5 @@
-// A view as somebody measures it who has the design at hand. Each call adds a sentence where the view differs.
+// A view as somebody measures it who has the design at hand. Each call adds a sentence where the view
+// differs.
 #pragma once
 
 #include "Rules.hpp"

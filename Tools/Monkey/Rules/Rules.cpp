@@ -21,9 +21,10 @@ std::span<const Rule> rules() {
         {"one panel", checkOnePanel},    {"closed", checkClosed},       {"locked", checkLocked},
         {"lists", checkLists},           {"indicator", checkIndicator}, {"timers", checkTimers},
         {"quiet", checkQuiet},           {"hooks", checkHooks},         {"geometry", checkGeometry},
-        {"settings", checkSettingsFile}, {"contents", checkContents}, {"layout", checkLayout},
+        {"settings", checkSettingsFile}, {"contents", checkContents},   {"layout", checkLayout},
         {"acts", checkConsequences},     {"faces", checkFaces},         {"looks", checkLooks},
-        {"face acts", checkFaceActs}, {"marks", checkMarks}, {"pages", checkPane},           {"page looks", checkPaneLooks},
+        {"face acts", checkFaceActs},    {"marks", checkMarks},         {"pages", checkPane},
+        {"page looks", checkPaneLooks},
     };
     return table;
 }

@@ -2,11 +2,11 @@
 // them.
 #pragma once
 
-#include "Tools/Monkey/Observation.hpp"
 #include "Memory.hpp"
-#include "Supervisor/Boot/BootOptions.hpp"
 #include "PaneSight.hpp"
 #include "Scene.hpp"
+#include "Supervisor/Boot/BootOptions.hpp"
+#include "Tools/Monkey/Observation.hpp"
 
 #include <span>
 
@@ -24,7 +24,7 @@ struct Moment {
     bool pane;                              // the Settings application was open at some time
     const BootOptions &device;
     const std::optional<PaneSight> &paneBefore, &paneNow; // the Settings application
-    int64_t from, to;                       // virtual time in nanoseconds
+    int64_t from, to;                                     // virtual time in nanoseconds
 
     // How many lines with this text came to the log.
     int64_t logged(std::string_view text) const;
@@ -50,11 +50,12 @@ void followPanel(const Moment &moment, Memory &memory);
 // Keeps what `memory` knows of badges, fingers and the panel's place up to date.
 void followScene(const Moment &moment, SceneMemory &memory);
 
-// The panel when it has stood still for a while under nobody's finger, upright on a screen that is on, and as the settings
-// of now had it built; nothing otherwise.
+// The panel when it has stood still for a while under nobody's finger, upright on a screen that is on, and as
+// the settings of now had it built; nothing otherwise.
 std::optional<Scene> sceneAtRest(const Moment &moment, const SceneMemory &memory);
 
-// The same of the moment before a line of one act and a wait of a second and a half, `then` being what was remembered.
+// The same of the moment before a line of one act and a wait of a second and a half, `then` being what was
+// remembered.
 std::optional<Scene> sceneBeforeAct(const Moment &moment, const SceneMemory &then, const SceneMemory &now);
 
 void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);

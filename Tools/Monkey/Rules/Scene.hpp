@@ -1,4 +1,5 @@
-// The panel as somebody sees it who looks at the overlay: nothing of it comes from the extension's variables or log.
+// The panel as somebody sees it who looks at the overlay: nothing of it comes from the extension's variables
+// or log.
 #pragma once
 
 #include "Tools/Monkey/Observation.hpp"
@@ -9,11 +10,11 @@ namespace sim {
 
 struct SceneItem {
     std::string identifier;
-    Area place;             // of its icon on the screen, upright, in points
-    Area frame;             // on the strip
-    std::string name;       // as it is written below
-    std::string badge;      // the number on it; empty without one that can be seen
-    bool marked = false;    // its close mark can be seen
+    Area place;          // of its icon on the screen, upright, in points
+    Area frame;          // on the strip
+    std::string name;    // as it is written below
+    std::string badge;   // the number on it; empty without one that can be seen
+    bool marked = false; // its close mark can be seen
 };
 
 struct Scene {

@@ -26,7 +26,8 @@ std::set<std::string> changedKeys(const Value &before, const Value &after) {
 bool isByPages(const std::string &key) {
     const Setting *setting = settingOfKey(key);
     // Whatever an application is called, its name has a dot.
-    return setting ? setting->kind != Setting::Kind::record : key == "(null)" || key.find('.') != std::string::npos;
+    return setting ? setting->kind != Setting::Kind::record
+                   : key == "(null)" || key.find('.') != std::string::npos;
 }
 
 bool mayChange(const Moment &moment, const std::string &key) {
