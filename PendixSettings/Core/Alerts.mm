@@ -6,14 +6,25 @@
 
 namespace pendix::pane {
 
+namespace {
+
+// An alert does not keep its delegate, and the page may be left under it by a finger that lay on the way
+// back.
+void show(UIAlertView *alert) {
+    [alert.layer setValue:alert.delegate forKey:@"delegateThatStays"];
+    [alert show];
+    [alert release];
+}
+
+} // namespace
+
 void showNote(NSString *title, NSString *message, id delegate) {
     UIAlertView *alert = [[UIAlertView alloc] initWithTitle:shownText(title)
                                                     message:shownText(message)
                                                    delegate:delegate
                                           cancelButtonTitle:shownText(@"ok")
                                           otherButtonTitles:nil];
-    [alert show];
-    [alert release];
+    show(alert);
 }
 
 void offerRestart(id delegate) {
@@ -22,8 +33,7 @@ void offerRestart(id delegate) {
                                                    delegate:delegate
                                           cancelButtonTitle:shownText(@"cancel")
                                           otherButtonTitles:shownText(@"ok"), nil];
-    [alert show];
-    [alert release];
+    show(alert);
 }
 
 void answerRestart(NSInteger button) {

@@ -81,3 +81,24 @@ do
   expect_eq(P.row(pane, "No Mark on Icon").value, false, "another application has its own")
   P.no_harm(phone, pane)
 end
+
+-- An alert answers when its page was left under it, by a finger that lay on the way back when it came.
+for _, answer in ipairs{ "OK", "Cancel" } do
+  local phone, pane = P.start{ enable = true }
+  P.go(pane, { "Configuration" })
+  for _ = 1, 3 do
+    pane:drag({ 160, 400 }, 0, -300, 0.5)
+    pane:settle()
+  end
+  pane:down({ 30, 42 }, 2)
+  pane:tap{ 280, pane:find{ text = "Hide Badges" }.screen.y + 10 }
+  pane:wait(0.1)
+  pane:up(2)
+  pane:settle()
+  expect_eq(pane:page().title, "Pendix", "the page is left")
+  expect_eq(pane:alert().title, "Restart Home Screen?", "under the alert")
+  pane:press(answer)
+  pane:settle()
+  expect_eq(#pane:events("crash"), 0, answer .. " harms nobody")
+  expect_eq(#phone:events("respring"), answer == "OK" and 1 or 0, "and does what it says")
+end

@@ -40,6 +40,11 @@ SettingsProcess *LivePhone::settings() const {
     return last && last->pane && last->pane->running() ? last->pane.get() : nullptr;
 }
 
+const SettingsProcess *LivePhone::lastSettings() const {
+    const Phone *last = script_.lastPhone();
+    return last ? last->pane.get() : nullptr;
+}
+
 void LivePhone::run(const std::string &statements) {
     lua_State *lua = script_.interpreter();
     int status = luaL_loadbufferx(lua, statements.data(), statements.size(), kChunk, "t");

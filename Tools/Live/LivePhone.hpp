@@ -21,6 +21,8 @@ public:
     SimulatedDevice &device() { return *phone_->owner; }
     // The Settings application that was opened last; nullptr when none runs.
     SettingsProcess *settings() const;
+    // The same, also when it has ended since.
+    const SettingsProcess *lastSettings() const;
     // Runs statements in which `phone` is the phone, and `pane` what they put there. Throws CallError.
     void run(const std::string &statements);
 

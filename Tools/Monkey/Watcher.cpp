@@ -34,7 +34,8 @@ bool Watcher::settingsChanged() {
 }
 
 Array Watcher::takeSettingsEvents() {
-    const SettingsProcess *settings = phone_.settings();
+    // One that crashed is gone, and its events tell so.
+    const SettingsProcess *settings = phone_.lastSettings();
     if (settings != settingsProcess_) settingsEvents_ = 0;
     settingsProcess_ = settings;
     if (!settings) return {};
