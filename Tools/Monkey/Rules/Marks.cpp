@@ -51,18 +51,19 @@ bool pulses(const Observation &seen) {
     return std::ranges::find(seen.timers, "pulse:", &SeenTimer::selector) != seen.timers.end();
 }
 
-void checkGlow(const Moment &moment, Findings &findings) {
+void checkGlow(const Moment &moment, Memory &memory, Findings &findings) {
     const SeenGlow &glow = moment.now.itemGlow;
     if (!moment.now.itemPlace || !moment.now.itemVisible || !moment.before || !moment.before->itemPlace)
         return;
     // A tick and a half, in which a bar that was laid out anew gets its glow back.
     if (moment.to - moment.from < 110'000'000 || moment.call.find("restyle") != std::string::npos) return;
     if (pulses(*moment.before) && pulses(moment.now)) {
-        // A bar that changes its style at an animation's end drops the glow until the next tick.
-        auto lacks = [](const SeenGlow &one) {
-            return one.opacity != 1 || std::abs(one.radius - kGlowRadius) > 0.1;
-        };
-        if (lacks(glow) && lacks(moment.before->itemGlow))
+        // A bar that changes its style at an animation's end drops the glow until the next tick: when an
+        // application opens, and again when it is left.
+        constexpr int kMostDull = 2;
+        memory.dull = glow.opacity == 0 ? memory.dull + 1 : 0;
+        const bool other = glow.opacity != 1 || std::abs(glow.radius - kGlowRadius) > 0.1;
+        if (memory.dull > kMostDull || (memory.dull == 0 && other))
             findings.push_back("the indicator pulses without its glow");
         if (glow.alpha < 0 || glow.alpha > 1.06) findings.push_back("the pulse has left its bounds");
     } else if (!pulses(*moment.before) && !pulses(moment.now)) {
@@ -83,7 +84,8 @@ void checkStart(const Moment &moment, Findings &findings) {
 void checkMarks(const Moment &moment, Memory &memory, Findings &findings) {
     constexpr int64_t kDrawn = 300'000'000;
     // A finger that holds a scroll view holds up the pulse.
-    if (memory.scene.fingers.empty() && memory.sceneBefore.fingers.empty()) checkGlow(moment, findings);
+    if (memory.scene.fingers.empty() && memory.sceneBefore.fingers.empty())
+        checkGlow(moment, memory, findings);
     checkStart(moment, findings);
     if (!memory.scene.asBooted || moment.to - moment.from < kDrawn || !moment.now.display) return;
     for (const SeenBadge &badge : moment.now.badges)

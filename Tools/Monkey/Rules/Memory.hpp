@@ -58,6 +58,8 @@ struct Memory {
     // While this panel was shown the indicator was away, or other settings came to place it.
     bool adrift = false;
 
+    int dull = 0; // looks in a row, each a while after the last, at which a pulse had no glow
+
     std::optional<int64_t> crowdedSince; // since when there are many windows of one kind, at every look
 
     int64_t settingsWrites = 0;
