@@ -26,6 +26,7 @@ __attribute__((constructor)) static void start() {
     [greeter performSelector:@selector(setName:) withObject:@"Ada"];
     NSDictionary *facts = @{@"name" : greeter.name, @"list" : @[ @1, @YES, @2.5 ]};
     NSLog(@"<Whole> %@ %@ %@", [facts objectForKey:@"name"], [[facts objectForKey:@"list"] objectAtIndex:1], greeter);
+    [greeter release];
 }
 """
 
