@@ -66,7 +66,7 @@ end
 
 -- How many stand side by side: three on a phone, four on a tablet, or as told; nonsense counts as not told.
 -- More than three on a small screen stand three points narrower.
-for _, case in ipairs{ { nil, 3, 60 }, { 0, 3, 60 }, { -2, 3, 60 }, { "x", 3, 60 }, { "4", 4, 57 }, { 2, 2, 60 },
+for _, case in ipairs{ { nil, 3, 60 }, { 0, 3, 60 }, { -2, 3, 60 }, { "x", 3, 60 }, { 1e300, 3, 60 }, { "4", 4, 57 }, { 2, 2, 60 },
   { 1, 1, 60 }, { 4, 4, 57 }, { 4, 4, 60, "iPhone 6" }, { nil, 4, 76, "iPad Air 2" }, { 0, 4, 76, "iPad Air 2" } } do
   local amount, rows, width, device = case[1], case[2], case[3], case[4] or "iPhone 5s"
   for _, paging in ipairs{ false, true } do

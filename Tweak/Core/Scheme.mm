@@ -4,6 +4,8 @@
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 
+#include <limits>
+
 namespace pendix {
 
 Scheme currentScheme() {
@@ -15,7 +17,9 @@ int numberOfRows() {
     constexpr int kPadRows = 4, kPhoneRows = 3;
     id amount = setting(keys::rows);
     int rows = [amount respondsToSelector:@selector(intValue)] ? [amount intValue] : 0;
-    return rows > 0 ? rows : isPad() ? kPadRows : kPhoneRows;
+    // One that no int holds becomes the largest on a phone, and the smallest elsewhere.
+    const bool counts = rows > 0 && rows < std::numeric_limits<int>::max();
+    return counts ? rows : isPad() ? kPadRows : kPhoneRows;
 }
 
 } // namespace pendix
