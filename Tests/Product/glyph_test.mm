@@ -65,6 +65,8 @@ TEST_F(Glyph, ShimmersUntilAFingerFails) {
     }
     sim::sendFingerEvent(5);
     EXPECT_EQ(glyph.layer.mask, nil);
+    toggle();
+    harness::wait(1);
 }
 
 TEST_F(Glyph, KeepsItsPaceElsewhereUnlessThePanelWaits) {

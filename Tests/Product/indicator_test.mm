@@ -98,6 +98,8 @@ TEST_F(Indicator, ItsLogoIsAwayOnTheSideWithoutAStatusBar) {
                                                                        object:[UIDevice currentDevice]]];
         EXPECT_EQ(logo.alpha, turn.alpha) << turn.orientation;
     }
+    [pendix::Spring tap];
+    harness::wait(1);
 }
 
 TEST_F(Indicator, CountsOnThePanelAreDrawn) {
