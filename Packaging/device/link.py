@@ -49,8 +49,23 @@ def link_arm64(form, out, objects, libraries):
     subprocess.run([*stubs.ARM64_LINK, *form, "-dead_strip", "-o", out, *objects, *arguments], check=True)
 
 
+def spacer(folder):
+    """An object that moves what the old linker lays at the end of a page, and with it the gap behind the commands."""
+    made = folder / "spacer.o"
+    subprocess.run(["clang", "-target", "armv7-apple-ios7.0", "-x", "assembler", "-c", "-", "-o", made], check=True, text=True,
+                   input=".section __TEXT,__const\n.private_extern _spacer\n_spacer:\n.space 64\n")
+    return made
+
+
 def link_armv7(form, out, objects, libraries):
     files = stubs.make(libraries, "armv7", out.parent / "stubs-armv7")
+    link_old(form, out, objects, libraries, files)
+    # By chance there may be none, or too little.
+    if not sign.has_room(out.read_bytes()):
+        link_old(form, out, [*objects, spacer(out.parent)], libraries, files)
+
+
+def link_old(form, out, objects, libraries, files):
     # Never with -dead_strip: this linker would drop the list of classes.
     subprocess.run([*stubs.ARMV7_LINK, *form, "-o", out, *objects,
                     *(files[library.path] for library in libraries)], check=True)

@@ -23,11 +23,21 @@ def aligned(number, to):
     return (number + to - 1) // to * to
 
 
+def end_of_commands(data, file):
+    return file.commands_at + struct.unpack_from("<I", data, 20)[0]
+
+
+def has_room(data):
+    """Whether the signature's load command fits behind the others."""
+    file = macho.MachO(data)
+    first_content = min(section.offset for section in file.sections.values() if section.offset)
+    return end_of_commands(data, file) + 16 <= first_content
+
+
 def add_command(data, file, limit, size):
     """Names the signature, which takes `size` bytes from `limit` on, in a load command of its own."""
-    end = file.commands_at + struct.unpack_from("<I", data, 20)[0]
-    first_content = min(section.offset for section in file.sections.values() if section.offset)
-    if file.command("LC_CODE_SIGNATURE") or end + 16 > first_content:
+    end = end_of_commands(data, file)
+    if file.command("LC_CODE_SIGNATURE") or not has_room(data[:limit]):
         raise ValueError("signed already, or no room for another load command")
     struct.pack_into("<4I", data, end, CODE_SIGNATURE, 16, limit, size)
     struct.pack_into("<II", data, 16, len(file.commands) + 1, end + 16 - file.commands_at)

@@ -13,6 +13,7 @@
 #include <map>
 #include <objc/runtime.h>
 #include <stdexcept>
+#include <utility>
 
 namespace sim {
 
@@ -20,6 +21,16 @@ namespace {
 
 void *poolPush() { return [[NSAutoreleasePool alloc] init]; }
 void poolPop(void *pool) { [static_cast<NSAutoreleasePool *>(pool) release]; }
+
+// The setters that the device's compiler calls for a property that keeps or copies its value.
+void replace(id self, ptrdiff_t offset, id value) {
+    id *place = reinterpret_cast<id *>(reinterpret_cast<char *>(self) + offset);
+    id old = std::exchange(*place, value);
+    [old release];
+}
+void setRetained(id self, SEL, id value, ptrdiff_t offset) { replace(self, offset, [value retain]); }
+void setCopied(id self, SEL, id value, ptrdiff_t offset) { replace(self, offset, [value copyWithZone:nil]); }
+
 void noLazyBinding() { refuseCall("a function was called that should have been bound before"); }
 
 template <typename Function>
@@ -36,6 +47,8 @@ void *shim(const std::string &symbol) {
         {"_NSLog", address(simLogEntry)},
         {"_objc_autoreleasePoolPush", address(poolPush)},
         {"_objc_autoreleasePoolPop", address(poolPop)},
+        {"_objc_setProperty_nonatomic", address(setRetained)},
+        {"_objc_setProperty_nonatomic_copy", address(setCopied)},
         {"_MSHookMessageEx", address(simHookMessage)},
         {"_class_addMethod", address(simAddMethod)},
         {"__objc_empty_cache", emptyCache},
