@@ -21,7 +21,8 @@ BUILD = body.ROOT / "build/dev"
 SIMULATOR = str(BUILD / "bin/pendix-sim")
 
 # These do not run what the package holds: they load small libraries made for this machine, or test the program around.
-OTHER = {"scripting.troublemaker", "scripting.misfit", "command_line", "live_server", "monkey_runs"}
+OTHER = {"scripting.troublemaker", "scripting.misfit", "command_line", "live_server", "monkey_runs", "forks",
+         "supervisor_memory"}
 # The monkey and the long tables of faults are for longer runs.
 LONG = ("monkey.", "faults.class", "faults.method", "faults.lookup", "faults.file", "faults.write", "settings_files.", "growth.", "loader.mutated")
 # Not among the shortest: what is left takes a few minutes.

@@ -83,7 +83,9 @@ std::vector<std::string> SandboxFolder::install(const fs::path &stage,
         } else if (entry->is_directory()) {
             fs::create_directories(at(devicePath));
         } else {
-            fs::copy_file(entry->path(), at(devicePath), fs::copy_options::overwrite_existing);
+            // A link that another boot left in a kept folder would be written through.
+            fs::remove(at(devicePath));
+            fs::copy_file(entry->path(), at(devicePath));
         }
     }
     std::vector<std::string> unknown;

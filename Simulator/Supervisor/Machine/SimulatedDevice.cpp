@@ -71,8 +71,10 @@ void SimulatedDevice::installExtensions() {
     }
     for (const auto &path : all)
         for (const auto &[library, filter] : extensionFiles(path, setup_.package.extensionBuild))
-            for (const auto &file : {library, filter})
-                fs::copy_file(file, folder / file.filename(), fs::copy_options::overwrite_existing);
+            for (const auto &file : {library, filter}) {
+                fs::remove(folder / file.filename());
+                fs::copy_file(file, folder / file.filename());
+            }
     options_.extension = true;
 }
 

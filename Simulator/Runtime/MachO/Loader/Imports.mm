@@ -29,7 +29,9 @@ void replace(id self, ptrdiff_t offset, id value) {
     [old release];
 }
 void setRetained(id self, SEL, id value, ptrdiff_t offset) { replace(self, offset, [value retain]); }
-void setCopied(id self, SEL, id value, ptrdiff_t offset) { replace(self, offset, [value copyWithZone:nil]); }
+void setCopied(id self, SEL, id value, ptrdiff_t offset) {
+    replace(self, offset, [value copyWithZone:nullptr]);
+}
 
 void noLazyBinding() { refuseCall("a function was called that should have been bound before"); }
 
