@@ -58,6 +58,8 @@ def main(program, script, pictures, *arguments):
         part = missing(wants[name], text)
         if part is not None:
             problems.append(f"{name} lacks: {part}")
+    if "failed: " in result.stderr and not any(part.startswith("failed: ") for part in wants["stderr"]):
+        problems.append("an expectation failed that was to hold")
     if result.stderr and not wants["stderr"]:
         problems.append("nothing was to come on stderr")
     if problems:

@@ -3,7 +3,7 @@
 -- stderr: error:
 -- stderr: {name}:11: boot: unknown option 'devise'; did you mean 'device'?
 local held, problem = pcall(boot, { device = "iPhone 4", ios = "8.3" })
-expect(not held and problem:find("never was an iPhone 4 with iOS 8.3", 1, true), tostring(problem))
+expect(not held and problem:find("no iPhone 4 ever ran iOS 8.3", 1, true), tostring(problem))
 held, problem = pcall(boot, { apps = { { id = print } } })
 expect(not held and problem:find("not a function", 1, true), tostring(problem))
 held, problem = pcall(boot, { 1, 2, device = "iPhone 5" })
