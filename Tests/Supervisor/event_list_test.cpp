@@ -1,4 +1,5 @@
 // However many events there are and wherever they lie, the list answers like one that has them all in memory.
+#include "Runtime/Values/Sanitizer.hpp"
 #include "Supervisor/Machine/EventList.hpp"
 
 #include <gtest/gtest.h>
@@ -72,12 +73,7 @@ void compare(const EventList &list, const Model &model) {
     if (!model.all.empty()) EXPECT_NE(tail.find(words(model.all.size() - 1)), tail.npos);
 }
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define FREED_MEMORY_IS_KEPT
-#endif
-#endif
-#ifndef FREED_MEMORY_IS_KEPT
+#ifndef WATCHED_BY_SANITIZER // which keeps what is freed
 size_t residentKilobytes() {
     std::ifstream status("/proc/self/statm");
     size_t whole = 0, resident = 0;
@@ -101,7 +97,7 @@ TEST(EventList, AnswersTheSameWhereverItsEventsLie) {
     }
 }
 
-#ifndef FREED_MEMORY_IS_KEPT
+#ifndef WATCHED_BY_SANITIZER
 // A list in memory would take ten times as much and more.
 TEST(EventList, TakesNoMoreMemoryForMoreEvents) {
     EventList list(nullptr);

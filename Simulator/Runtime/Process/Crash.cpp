@@ -1,6 +1,7 @@
 #include "Crash.hpp"
 
 #include "CrashFrames.hpp"
+#include "Runtime/Values/Sanitizer.hpp"
 
 #include <algorithm>
 #include <csignal>
@@ -12,12 +13,6 @@
 namespace sim {
 
 namespace {
-
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define WATCHED_BY_SANITIZER
-#endif
-#endif
 
 #ifdef WATCHED_BY_SANITIZER
 constexpr int kSignals[] = {SIGABRT};

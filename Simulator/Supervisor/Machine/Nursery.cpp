@@ -1,5 +1,6 @@
 #include "Nursery.hpp"
 
+#include "Runtime/Values/Sanitizer.hpp"
 #include "Supervisor/Protocol/Descriptors.hpp"
 
 #include <algorithm>
@@ -14,11 +15,6 @@ namespace {
 
 // A leak that a process inherits would be reported for each, and what the sanitizer keeps of threads is not
 // made for being forked.
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define WATCHED_BY_SANITIZER
-#endif
-#endif
 #ifdef WATCHED_BY_SANITIZER
 constexpr bool kMayFork = false;
 #else
