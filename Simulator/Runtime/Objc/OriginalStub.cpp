@@ -1,10 +1,10 @@
 #include "OriginalStub.hpp"
 
-#include <cstdint>
-#include <cstring>
+#include "ArgumentRegisters.hpp"
+#include "ExecutableMemory.hpp"
+
 #include <map>
-#include <stdexcept>
-#include <sys/mman.h>
+#include <memory>
 
 namespace {
 
@@ -32,32 +32,10 @@ __asm__(R"(
     .type simOriginalEntry, %function
 simOriginalEntry:
     .cfi_startproc
-    stp x29, x30, [sp, #-224]!
-    .cfi_def_cfa_offset 224
-    .cfi_offset x29, -224
-    .cfi_offset x30, -216
-    mov x29, sp
-    stp x0, x1, [sp, #16]
-    stp x2, x3, [sp, #32]
-    stp x4, x5, [sp, #48]
-    stp x6, x7, [sp, #64]
-    stp x8, x17, [sp, #80]
-    stp q0, q1, [sp, #96]
-    stp q2, q3, [sp, #128]
-    stp q4, q5, [sp, #160]
-    stp q6, q7, [sp, #192]
+    KEEP_ARGUMENTS
     mov x0, x17
     bl simNoteOriginal
-    ldp x0, x1, [sp, #16]
-    ldp x2, x3, [sp, #32]
-    ldp x4, x5, [sp, #48]
-    ldp x6, x7, [sp, #64]
-    ldp x8, x17, [sp, #80]
-    ldp q0, q1, [sp, #96]
-    ldp q2, q3, [sp, #128]
-    ldp q4, q5, [sp, #160]
-    ldp q6, q7, [sp, #192]
-    ldp x29, x30, [sp], #224
+    TAKE_ARGUMENTS_BACK
     ldr x16, [x17]
     br x16
     .cfi_endproc
@@ -115,47 +93,8 @@ namespace sim {
 
 namespace {
 
-constexpr size_t kThunkSize = 32;
-constexpr size_t kPageSize = 4096;
-
-uint8_t *nextThunk() {
-    static uint8_t *page = nullptr;
-    static size_t used = kPageSize;
-    if (used + kThunkSize > kPageSize) {
-        void *memory =
-            mmap(nullptr, kPageSize, PROT_READ | PROT_WRITE | PROT_EXEC, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-        if (memory == MAP_FAILED) throw std::runtime_error("no executable memory for a stub");
-        page = static_cast<uint8_t *>(memory);
-        used = 0;
-    }
-    uint8_t *thunk = page + used;
-    used += kThunkSize;
-    return thunk;
-}
-
-uint8_t *put(uint8_t *at, std::initializer_list<uint8_t> bytes, const void *address) {
-    for (uint8_t byte : bytes) *at++ = byte;
-    memcpy(at, &address, sizeof address);
-    return at + sizeof address;
-}
-
-void writeThunk(uint8_t *thunk, const Stub *stub) {
-    const auto *entry = reinterpret_cast<const void *>(&simOriginalEntry);
-#ifdef __aarch64__
-    // ldr x17, stub; ldr x16, entry; br x16; nop
-    const uint32_t code[] = {0x58000091, 0x580000b0, 0xd61f0200, 0xd503201f};
-    memcpy(thunk, code, sizeof code);
-    put(put(thunk + sizeof code, {}, stub), {}, entry);
-#else
-    // mov r11, stub; mov r10, entry; jmp r10
-    uint8_t *at = put(put(thunk, {0x49, 0xbb}, stub), {0x49, 0xba}, entry);
-    const uint8_t jump[] = {0x41, 0xff, 0xe2};
-    memcpy(at, jump, sizeof jump);
-#endif
-}
-
-std::map<void *, Stub> &stubsByThunk() {
-    static auto &stubs = *new std::map<void *, Stub>; // the thunks hold their addresses
+std::map<void *, std::unique_ptr<Stub>> &stubsByThunk() {
+    static auto &stubs = *new std::map<void *, std::unique_ptr<Stub>>;
     return stubs;
 }
 
@@ -163,14 +102,13 @@ std::map<void *, Stub> &stubsByThunk() {
 
 void *behindStubs(void *implementation) {
     auto stub = stubsByThunk().find(implementation);
-    return stub == stubsByThunk().end() ? implementation : behindStubs(stub->second.target);
+    return stub == stubsByThunk().end() ? implementation : behindStubs(stub->second->target);
 }
 
 void *makeStub(void *target, std::function<void()> note) {
-    uint8_t *thunk = nextThunk();
-    Stub &stub = stubsByThunk()[thunk] = Stub{target, std::move(note)};
-    writeThunk(thunk, &stub);
-    __builtin___clear_cache(reinterpret_cast<char *>(thunk), reinterpret_cast<char *>(thunk + kThunkSize));
+    auto stub = std::make_unique<Stub>(Stub{target, std::move(note)});
+    void *thunk = makeThunk(stub.get(), reinterpret_cast<const void *>(&simOriginalEntry));
+    stubsByThunk()[thunk] = std::move(stub);
     return thunk;
 }
 
