@@ -31,6 +31,9 @@ using BitmapRef = std::shared_ptr<const Bitmap>;
 BitmapRef decodePng(std::string_view bytes, double scale);
 // The bytes of a PNG file; the same pixels always give the same bytes.
 std::string encodePng(const Bitmap &bitmap);
+// The bytes of an animated PNG that shows the frames, all of one size, for so many seconds each, again and
+// again. Transparency is dropped. Throws std::invalid_argument for frames of several sizes.
+std::string encodeAnimation(const std::vector<Bitmap> &frames, double seconds);
 // An SVG drawing fitted into width × height pixels; nullptr when it cannot be read. Text in it is set in the
 // regular face, whatever face it asks for; throws std::runtime_error when the fonts are not installed.
 BitmapRef drawSvg(std::string_view source, int width, int height, double scale);

@@ -60,7 +60,7 @@ class Extensions(unittest.TestCase):
     def test_the_template_is_made_built_and_run(self):
         self.assertIn("pendix-sim build Hello", self.does("new", "Hello"))
         package = self.does("build", "Hello", "--phone").split()[-1]
-        self.does("run", "Hello/Tests/opens.lua", "--out", "pictures")
+        self.assertIn("1 passed, 0 failed", self.does("test", "Hello/Tests"))
         self.holds_both_slices(package)
         self.assertIn("there is already a Hello", self.refused("new", "Hello"))
         # Its test sees what it does.
@@ -72,7 +72,7 @@ class Extensions(unittest.TestCase):
     def test_the_example_is_built_and_run(self):
         shutil.copytree(CLONE / "examples/Focus", self.folder / "Focus", ignore=shutil.ignore_patterns("build"))
         self.holds_both_slices(self.does("build", "Focus", "--phone").split()[-1])
-        self.does("run", "Focus/Tests/icons.lua", "--out", "pictures")
+        self.assertIn("2 passed, 0 failed", self.does("test", "Focus/Tests", "--jobs", "2"))
 
     def test_a_constructor_finds_its_own_unit_and_the_log_has_no_addresses(self):
         self.does("new", "Whole")

@@ -18,6 +18,7 @@ Installation findInstallation() {
             .platform = stage / "platform",
             .manifest = stage / "package.json",
             .page = stage / "page",
+            .trace = stage / "trace",
             .scripts = stage / "Lua",
             .settings = stage / "settings.json"};
 }

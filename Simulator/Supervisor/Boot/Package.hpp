@@ -13,6 +13,7 @@ struct Installation {
     std::filesystem::path platform;  // pictures of the simulated platform, applications.json
     std::filesystem::path manifest;  // package.json
     std::filesystem::path page;      // the files of the live page
+    std::filesystem::path trace;     // the files that a trace is made of
     std::filesystem::path scripts;   // what the build made for scripts to load
     std::filesystem::path settings;  // settings.json: the extension's settings, for tools
 };

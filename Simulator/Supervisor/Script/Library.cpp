@@ -256,6 +256,8 @@ std::span<const Global> languageGlobals() {
 std::vector<GlobalFamily> globalFamilies() {
     return {{"starting", "Starting devices", deviceGlobals()},
             {"expecting", "Expecting", expectationGlobals()},
+            {"pictures", "Pictures that were agreed on", pictureGlobals()},
+            {"tests", "Tests", testGlobals()},
             {"lua", "What differs from the language's own library", languageGlobals()}};
 }
 

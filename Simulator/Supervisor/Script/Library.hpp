@@ -19,6 +19,8 @@ struct Global {
 };
 std::span<const Global> languageGlobals(); // what differs from the language's own
 std::span<const Global> expectationGlobals();
+std::span<const Global> pictureGlobals();
+std::span<const Global> testGlobals();
 std::span<const Global> deviceGlobals();
 // All of them by what they are for.
 struct GlobalFamily {

@@ -31,6 +31,7 @@ enum class Record {
     row,
     alert,
     sheet,
+    allowance,
 };
 const RecordKind &recordKind(Record record);
 // In the order of Record.

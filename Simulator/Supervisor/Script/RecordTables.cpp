@@ -133,6 +133,10 @@ std::vector<RecordKind> makeKinds() {
           {"label", "of that group"},
           {"dots", "how many places are filled; one counts when it shows an image called \"dot\""},
           {"cancel", "whether it can be left"}}},
+        {"allowance",
+         "How far a picture may be from what was agreed on.",
+         {{"tolerance", "0 to 255: by how much a channel may differ without counting; 0 without it"},
+          {"max_pixels", "how many pixels may differ; 0 without it"}}},
     };
 }
 

@@ -6,8 +6,10 @@
 #include "Supervisor/Machine/DeviceReport.hpp"
 #include "Supervisor/Machine/Interrupt.hpp"
 #include "Supervisor/Machine/OutputFile.hpp"
+#include "Traceback.hpp"
 
 #include <algorithm>
+#include <chrono>
 #include <iostream>
 #include <stdexcept>
 #include <unistd.h>
@@ -17,16 +19,6 @@ namespace sim {
 namespace {
 
 constexpr size_t kMostPictures = 5; // of failures of one run
-
-// Adds the calls that led to an error to its text, and what was meant by the name of a function that is none.
-// A coroutine of a caught error is not looked into.
-int addTraceback(lua_State *lua) {
-    if (lua_type(lua, 1) != LUA_TSTRING) luaL_tolstring(lua, 1, nullptr);
-    std::string text = lua_tostring(lua, -1);
-    if (interrupted()) return 1;
-    luaL_traceback(lua, lua, (text + misspeltGlobal(text)).c_str(), 1);
-    return 1;
-}
 
 // The interpreter that an interrupt stops.
 lua_State *running = nullptr;
@@ -41,6 +33,16 @@ void stopSoon() { lua_sethook(running, raiseInterrupt, LUA_MASKCALL | LUA_MASKRE
 
 } // namespace
 
+// Adds the calls that led to an error to its text, and what was meant by the name of a function that is none.
+// A coroutine of a caught error is not looked into.
+int addTraceback(lua_State *lua) {
+    if (lua_type(lua, 1) != LUA_TSTRING) luaL_tolstring(lua, 1, nullptr);
+    std::string text = lua_tostring(lua, -1);
+    if (interrupted()) return 1;
+    luaL_traceback(lua, lua, (text + misspeltGlobal(text)).c_str(), 1);
+    return 1;
+}
+
 Script::Script(DeviceSetup setup, ScriptOptions options)
     : setup_(std::move(setup)), options_(std::move(options)), lua_(luaL_newstate()) {
     if (!lua_) throw std::runtime_error("no memory for the interpreter");
@@ -51,13 +53,20 @@ Script::Script(DeviceSetup setup, ScriptOptions options)
 Script::~Script() { lua_close(lua_); }
 
 Outcome Script::run() {
+    auto start = std::chrono::steady_clock::now();
     Outcome outcome = runFile();
+    if (test_) endTest();
     for (auto &phone : phones_) {
         tellWarnings(phone->device);
         addTroubles(phone->device.shutDown());
     }
     runs_ = false;
-    if (outcome == Outcome::passed && failed_) outcome = Outcome::failed;
+    if (!isLeftOut(outcome)) {
+        std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+        tellOutside(taken.count());
+        if (outcome == Outcome::passed && failed_) outcome = Outcome::failed;
+        if (refused_) outcome = Outcome::refused;
+    }
     summarize(outcome);
     return outcome;
 }
@@ -75,6 +84,7 @@ Outcome Script::runFile() {
     try {
         loadScript(lua_, options_.file);
     } catch (const std::runtime_error &error) {
+        noteFailure(error.what());
         std::cerr << error.what() << '\n';
         return Outcome::refused;
     }
@@ -89,20 +99,26 @@ Outcome Script::runFile() {
 Outcome Script::reportError() {
     std::string text = lua_tostring(lua_, -1);
     if (interrupted()) {
+        noteFailure("interrupted");
         std::cerr << text << '\n';
         return Outcome::failed;
     }
     std::cerr << "error: " << text << '\n';
+    noteFailure(text.substr(0, text.find('\n')));
     reportDevice();
-    bool boot =
-        std::ranges::any_of(bootErrors_, [&](const auto &known) { return text.find(known) != text.npos; });
-    return boot ? Outcome::refused : Outcome::failed;
+    return isBootError(text) ? Outcome::refused : Outcome::failed;
+}
+
+bool Script::isBootError(const std::string &text) const {
+    return std::ranges::any_of(bootErrors_, [&](const auto &known) { return text.find(known) != text.npos; });
 }
 
 void Script::fail(const std::string &where, const std::string &message) {
     failed_ = true;
     ++failures_;
-    std::cerr << "failed: " << where << ": " << message << '\n';
+    std::string named = test_ ? "test '" + test_->name + "': " : "";
+    noteFailure(where + ": " + message);
+    std::cerr << "failed: " << where << ": " << named << message << '\n';
     reportDevice();
 }
 
@@ -139,6 +155,7 @@ void Script::tellWarnings(const SimulatedScreen &device) const {
 void Script::addTroubles(const std::string &troubles) {
     if (troubles.empty()) return;
     failed_ = true;
+    noteFailure(troubles);
     std::cerr << troubles << std::flush;
 }
 

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "Supervisor/Machine/SimulatedDevice.hpp"
+#include "Tests.hpp"
 
 #include <filesystem>
+#include <functional>
 #include <lua.hpp>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +21,10 @@ struct ScriptOptions {
     std::vector<std::string> arguments;
     std::filesystem::path pictures = "out"; // made when the first picture is written
     int64_t seed = 0;
+    bool update = false; // expect_picture() agrees to what is there
+    std::string filter;  // of tests: a part of their titles
+    // Told of each test as soon as it has ended. Null: nobody is.
+    std::function<void(const TestResult &)> tested = nullptr;
 };
 
 // Exit statuses.
@@ -42,6 +49,9 @@ public:
     void fail(const std::string &where, const std::string &message);
     // One did.
     void hold() { ++held_; }
+    // Runs the function on top of the stack as a test, if it is chosen. Throws std::runtime_error within
+    // another test.
+    void runTest(lua_State *lua, const std::string &name);
     // A boot was wrong; the script may go on if it catches the error.
     void noteBootError(const std::string &text) { bootErrors_.push_back(text); }
     Phone &add(std::unique_ptr<Phone> phone);
@@ -53,6 +63,12 @@ public:
 
 private:
     Outcome runFile();
+    void noteFailure(const std::string &text);
+    void endTest();
+    // Whether nothing of the script was chosen; what failed in one that could not go on counts all the same.
+    bool isLeftOut(Outcome ended) const;
+    void tellOutside(double seconds);
+    bool isBootError(const std::string &text) const;
     Outcome reportError();
     void reportDevice();
     std::string pictureOfFailure(SimulatedScreen &device);
@@ -65,8 +81,11 @@ private:
     lua_State *lua_;
     std::vector<std::unique_ptr<Phone>> phones_; // in the order of their boots
     std::vector<std::string> bootErrors_;
-    std::string reported_; // of the device, last
-    bool failed_ = false;
+    std::string reported_;           // of the device, last
+    std::optional<TestResult> test_; // that runs now
+    TestResult outside_;             // of any test
+    size_t testsRun_ = 0, testsLeftOut_ = 0;
+    bool failed_ = false, refused_ = false;
     bool runs_ = false; // run() was called: this is no piece of a script
     size_t held_ = 0, failures_ = 0;
     size_t pictured_ = 0; // failures of which there is a picture
