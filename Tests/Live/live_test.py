@@ -86,23 +86,47 @@ class Recording(unittest.TestCase):
     def test_the_script_reads_as_a_person_would_write_it(self):
         with Live(PROGRAM, "--boot", '{"settings": {"enable": true, "a b": "\\"\\n"}}') as live:
             page = Page(live.port)
-            page.send("step", frames=15)
-            page.call("badge", MAIL, 3)
-            for frames in (6, 30):
-                page.send("down", pointer=4, x=100, y=200.123)
+
+            def touch(x, y, frames=6, then=60):
+                page.send("down", pointer=4, x=x, y=y)
                 page.send("step", frames=frames)
                 page.send("up", pointer=4)
-            page.send("down", pointer=4, x=10, y=20)
-            page.send("move", pointer=4, x=11, y=20)
-            page.send("move", pointer=4, x=12, y=20)
+                page.send("step", frames=then)
+
+            page.send("step", frames=15)
+            page.call("badge", MAIL, 3)
+            page.send("step", frames=15)
+            touch(150, 150)
+            page.call("home")
+            touch(298, 8)
+            touch(120, 60, frames=30)
+            touch(20, 400, frames=1)
+            page.send("down", pointer=4, x=10, y=620.123)
+            page.send("move", pointer=4, x=11, y=620)
+            page.send("move", pointer=4, x=20, y=620)
             page.send("step", frames=1)
             page.send("up", pointer=4)
             page.call("badge", "com.apple.mail", 1)
-            lines = page.whole_script().splitlines()
-            self.assertEqual(lines[1:], [
-                'local phone = boot{settings = {["a b"] = "\\"\\010", enable = true}}', "phone:wait(0.25)",
-                f'phone:badge("{MAIL}", 3)', "phone:tap{100, 200.12}", "phone:hold({100, 200.12}, 0.5)",
-                "phone:down{10, 20}", "phone:move(12, 20)", "phone:wait(0.016666666)", "phone:up()"])
+            page.send("show", screen="settings")
+            page.send("step", frames=60)
+            touch(330, 310)
+            touch(200, 400)
+            touch(20, 40, frames=30)
+            self.assertEqual(page.whole_script().splitlines()[1:], [
+                'local phone = boot{settings = {["a b"] = "\\"\\010", enable = true}}',
+                'local apps = {Mail = "com.apple.mobilemail"}',
+                'local function item(name) return phone:find{ window = "overlay", name = apps[name] or name } end',
+                "local function at(view, dx, dy) local s = view.screen "
+                "return { s.x + s.w / 2 + dx, s.y + s.h / 2 + dy } end",
+                "phone:wait(0.25)", f'phone:badge("{MAIL}", 3)', "phone:wait(0.25)",
+                'phone:tap(phone:icon("com.apple.mobiletimer"))', "phone:wait(1)", "phone:home()",
+                "phone:tap(phone:indicator().view)", "phone:wait(1)",
+                'phone:hold(at(item("Mail"), 22.5, -27.5), 0.5)', "phone:wait(1)", "phone:tap{20, 400}",
+                "phone:wait(0.916666666)", "phone:down{10, 620.12}", "phone:move(20, 620)", "phone:wait(0.016666667)",
+                "phone:up()", "pane = phone:open_settings()", "phone:wait(1)", 'pane:toggle("Enable")', "phone:wait(1)",
+                'pane:open("Configuration")', "phone:wait(1)", "pane:hold({44.75, 42}, 0.5)", "phone:wait(1)"])
+            page.send("replay", hurry=True)
+            self.assertIsNone(page.wait_for("replayed")["difference"])
             self.assertIn("did you mean", page.latest["notice"]["text"], "what was refused is not recorded")
 
 

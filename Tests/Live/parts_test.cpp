@@ -44,13 +44,13 @@ TEST(Journal, ATouchThatOthersInterruptStaysInParts) {
     sim::Journal journal(Value{});
     journal.takeChange();
     constexpr int64_t second = 1'000'000'000;
-    journal.addDown(second, 1, 2, 1);
+    journal.addDown(second, "{1, 2}", 1);
     journal.add(second, "phone:home()");
     journal.addUp(2 * second, 1);
-    journal.addDown(3 * second, 5, 6, 2);
+    journal.addDown(3 * second, "{5, 6}", 2);
     journal.addUp(4 * second, 2);
     EXPECT_EQ(journal.takeChange(), 2u);
-    journal.addDown(5 * second, 7, 8, 1);
+    journal.addDown(5 * second, "it", 1, "pane", "pane:open(\"It\")");
     size_t withDown = journal.lines().size();
     EXPECT_EQ(journal.takeChange(), withDown - 2) << "the wait and the touch";
     journal.addUp(5 * second + second / 10, 1);
@@ -58,9 +58,10 @@ TEST(Journal, ATouchThatOthersInterruptStaysInParts) {
     std::string text = journal.script(6 * second);
     EXPECT_EQ(text.substr(text.find("\nphone") + 1),
               "phone:wait(1)\nphone:down{1, 2}\nphone:home()\nphone:wait(1)\nphone:up()\nphone:wait(1)\n"
-              "phone:down({5, 6}, 2)\nphone:wait(1)\nphone:up(2)\nphone:wait(1)\nphone:tap{7, 8}\n"
+              "phone:down({5, 6}, 2)\nphone:wait(1)\nphone:up(2)\nphone:wait(1)\npane:open(\"It\")\n"
               "phone:wait(0.9)\n");
     EXPECT_EQ(journal.steps().size(), 7u);
+    EXPECT_EQ(journal.steps()[5].call, "pane:down(it)");
 }
 
 TEST(UnseenParts, WhatChangedIsCoveredOnce) {

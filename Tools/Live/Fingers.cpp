@@ -1,5 +1,7 @@
 #include "Fingers.hpp"
 
+#include "Runtime/Values/Nanoseconds.hpp"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -9,6 +11,7 @@ namespace sim {
 namespace {
 
 constexpr int64_t kFingers = 10;
+constexpr double kStill = 2; // points: no finger keeps stiller
 
 // A hundredth of a point is finer than any pointer; shorter numbers make a better script.
 double tidy(double coordinate) { return std::round(coordinate * 100) / 100 + 0.0; }
@@ -26,8 +29,8 @@ void Fingers::down(Pointer pointer, double x, double y) {
     x = tidy(x);
     y = tidy(y);
     int64_t began = device_.now();
-    device_.touchDown(x, y, number);
-    down_.emplace(pointer, Finger{number, x, y, began});
+    TouchPlace place = device_.touchDown(x, y, number);
+    down_.emplace(pointer, Finger{number, x, y, place.x - x, place.y - y, began});
 }
 
 void Fingers::move(Pointer pointer, double x, double y) {
@@ -36,20 +39,43 @@ void Fingers::move(Pointer pointer, double x, double y) {
     Finger &finger = found->second;
     x = tidy(x);
     y = tidy(y);
+    if (finger.still && std::hypot(x - finger.x, y - finger.y) < kStill) return;
+    finger.still = false;
     finger.moved = finger.moved || x != finger.x || y != finger.y;
     finger.x = x;
     finger.y = y;
 }
 
 void Fingers::commit(Finger &finger) {
-    if (std::exchange(finger.moved, false)) device_.touchMove(finger.x, finger.y, finger.number);
+    if (!std::exchange(finger.moved, false)) return;
+    device_.touchMove(tidy(finger.x + finger.shiftX), tidy(finger.y + finger.shiftY), finger.number);
+}
+
+bool Fingers::mayLift(const Finger &finger) const {
+    int64_t passed = device_.now() - finger.began;
+    return finger.still ? passed >= kTapDuration : passed > 0;
+}
+
+bool Fingers::mayBeTap() const {
+    if (down_.size() != 1) return false;
+    const Finger &finger = down_.begin()->second;
+    return finger.still && !finger.lifting && device_.now() - finger.began == kTapDuration;
+}
+
+int64_t Fingers::atMost(int64_t frames) const {
+    for (const auto &[pointer, finger] : down_) {
+        int64_t rest = finger.began + kTapDuration - device_.now();
+        if (finger.still && rest > 0)
+            frames = std::min(frames, std::max<int64_t>(1, (rest * 60 + kSecond / 2) / kSecond));
+    }
+    return frames;
 }
 
 void Fingers::commit() {
     std::vector<Pointer> due;
     for (auto &[pointer, finger] : down_) {
         commit(finger);
-        if (finger.lifting && device_.now() > finger.began) due.push_back(pointer);
+        if (finger.lifting && mayLift(finger)) due.push_back(pointer);
     }
     for (const auto &pointer : due) lift(pointer);
 }
@@ -58,7 +84,7 @@ void Fingers::up(Pointer pointer) {
     auto found = down_.find(pointer);
     if (found == down_.end()) return;
     found->second.lifting = true;
-    if (device_.now() > found->second.began) lift(pointer);
+    if (mayLift(found->second)) lift(pointer);
 }
 
 void Fingers::lift(Pointer pointer) {

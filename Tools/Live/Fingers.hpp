@@ -22,24 +22,30 @@ public:
     // Points of the screen as seen upright. A pointer that is down already is lifted first; an eleventh
     // finger is refused.
     void down(Pointer pointer, double x, double y);
-    // Takes effect at commit(), for a frame shows one place only.
+    // Takes effect at commit(), for a frame shows one place only. A finger that hardly moves keeps still.
     void move(Pointer pointer, double x, double y);
-    // A touch lasts: one that would end in the instant in which it began ends at a later commit().
+    // A touch lasts: one that keeps still takes at least as long as a tap, and ends at a later commit().
     void up(Pointer pointer);
     void liftAll(uint64_t page);
     void liftAll();
     // Moves fingers to where they were last said to be, and lifts those that are due.
     void commit();
+    // Whether the only finger becomes a tap if it is let go now, and a longer touch if time goes on.
+    bool mayBeTap() const;
+    // So many frames of those may pass that no touch which may be a tap grows longer unseen.
+    int64_t atMost(int64_t frames) const;
     // Forgets them: the device that they were on is gone.
     void clear() { down_.clear(); }
 
 private:
     struct Finger {
-        int64_t number; // from 1
-        double x, y;
-        int64_t began; // virtual time
-        bool moved = false, lifting = false;
+        int64_t number;        // from 1
+        double x, y;           // of the pointer
+        double shiftX, shiftY; // from there to where the finger is
+        int64_t began;         // virtual time
+        bool still = true, moved = false, lifting = false;
     };
+    bool mayLift(const Finger &finger) const;
     void lift(Pointer pointer);
     void commit(Finger &finger);
 

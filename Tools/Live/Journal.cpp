@@ -1,7 +1,6 @@
 #include "Journal.hpp"
 
 #include "LuaText.hpp"
-
 #include "Runtime/Values/Nanoseconds.hpp"
 
 #include <algorithm>
@@ -13,13 +12,7 @@ namespace sim {
 namespace {
 
 constexpr size_t kMostSteps = 200'000;
-constexpr int64_t kTapDuration = 100'000'000;
-
-// Whole points read best without a fraction.
-Value coordinate(double value) {
-    auto whole = static_cast<int64_t>(value);
-    return static_cast<double>(whole) == value ? Value(whole) : Value(value);
-}
+constexpr size_t kHead = 2; // lines before the prelude
 
 std::string wait(int64_t duration) { return "phone:wait(" + secondsText(duration) + ")"; }
 
@@ -33,6 +26,13 @@ std::string secondsText(int64_t nanoseconds) {
     result.erase(result.find_last_not_of('0') + 1);
     if (result.ends_with(".")) result.pop_back();
     return result;
+}
+
+std::string touchCall(std::string_view screen, const char *name, const std::string &target,
+                      const std::string &more) {
+    std::string call = std::string(screen) + ":" + name;
+    if (more.empty() && target.starts_with("{")) return call + target;
+    return call + "(" + target + (more.empty() ? "" : ", " + more) + ")";
 }
 
 Journal::Journal(Value options) : options_(std::move(options)) {
@@ -63,13 +63,20 @@ void Journal::add(int64_t time, std::string call) {
     steps_.push_back({time, std::move(call)});
 }
 
-void Journal::addDown(int64_t time, double x, double y, int64_t finger, std::string_view screen) {
-    Touch touch{finger, time, steps_.size(), lines_.size(), x, y};
+void Journal::setPrelude(const std::vector<std::string> &lines) {
+    auto begin = lines_.begin() + kHead;
+    lines_.erase(begin, begin + static_cast<std::ptrdiff_t>(prelude_));
+    lines_.insert(lines_.begin() + kHead, lines.begin(), lines.end());
+    touch_.lines += lines.size() - prelude_;
+    prelude_ = lines.size();
+    changed_ = std::min(changed_, kHead);
+}
+
+void Journal::addDown(int64_t time, const std::string &target, int64_t finger, std::string_view screen,
+                      const std::string &tap) {
+    Touch touch{finger, time, steps_.size(), lines_.size(), target, tap};
     if (time > written_) ++touch.lines;
-    Array arguments;
-    arguments.emplace_back(Array{coordinate(x), coordinate(y)});
-    if (finger != 1) arguments.emplace_back(finger);
-    add(time, luaCall("down", arguments, screen));
+    add(time, touchCall(screen, "down", target, finger == 1 ? "" : std::to_string(finger)));
     if (finger == 1 && !full_) touch_ = touch;
 }
 
@@ -85,14 +92,15 @@ void Journal::addUp(int64_t time, int64_t finger, std::string_view screen) {
         return;
     }
     Touch touch = std::exchange(touch_, {});
-    Value point = Array{coordinate(touch.x), coordinate(touch.y)};
     int64_t duration = time - touch.start;
     steps_.push_back({time, luaCall("up", {}, screen)});
     lines_.resize(touch.lines);
     changed_ = std::min(changed_, touch.lines);
-    write(duration == kTapDuration
-              ? luaCall("tap", {point}, screen)
-              : std::string(screen) + ":hold(" + luaText(point) + ", " + secondsText(duration) + ")");
+    if (duration != kTapDuration) {
+        write(touchCall(screen, "hold", touch.target, secondsText(duration)));
+    } else {
+        write(touch.tap.empty() ? touchCall(screen, "tap", touch.target) : touch.tap);
+    }
     written_ = time;
 }
 

@@ -2,6 +2,7 @@
 
 #include "LuaText.hpp"
 #include "Supervisor/Text/Readable.hpp"
+#include "ViewNames.hpp"
 
 #include <algorithm>
 #include <cstdio>
@@ -23,6 +24,7 @@ void LiveDevice::boot(const Value &options) {
     journal_ = std::make_unique<Journal>(options);
     replay_.reset();
     start(options);
+    helpers_.emplace(this->options());
 }
 
 void LiveDevice::start(const Value &options) {
@@ -34,6 +36,7 @@ void LiveDevice::start(const Value &options) {
     try {
         phone_ = std::make_unique<LivePhone>(setup_, options);
         trouble_.clear();
+        phone_->run(Helpers(this->options()).statements());
     } catch (const BootError &error) {
         trouble_ = error.what();
         throw;
@@ -109,11 +112,24 @@ void LiveDevice::note(const std::string &call) {
     if (std::sscanf(call.c_str(), "phone:rotate(%d)", &orientation) == 1) turned_ = orientation;
 }
 
-void LiveDevice::touchDown(double x, double y, int64_t finger) {
+TouchPlace LiveDevice::touchDown(double x, double y, int64_t finger) {
     checkReady();
     int64_t time = now();
-    phone_->run(luaCall("down", {Array{x, y}, finger}, object()));
-    journal_->addDown(time, x, y, finger, object());
+    TouchPlace place = placeOfTouch(*phone_, *screen(), object(), x, y);
+    phone_->run(touchCall(object(), "down", place.target, std::to_string(finger)));
+    if (helpers_->use(place.target)) journal_->setPrelude(helpers_->lines());
+    journal_->addDown(time, place.target, finger, object(), place.tap);
+    return place;
+}
+
+Value LiveDevice::pick(double x, double y) {
+    checkReady();
+    Value seen = screen()->ask("seen", {{"x", x}, {"y", y}});
+    if (seen.isNull()) return {};
+    const Value &view = seen["line"].array()[0];
+    return Object{{"query", queryFor(*phone_, seen, 0, object())},
+                  {"class", view["class"]},
+                  {"screen", view["screen"]}};
 }
 
 void LiveDevice::touchMove(double x, double y, int64_t finger) {

@@ -1,8 +1,10 @@
 // The device behind the page: what is done to it is written down, and can be done again.
 #pragma once
 
+#include "Helpers.hpp"
 #include "Journal.hpp"
 #include "LivePhone.hpp"
+#include "TouchPlace.hpp"
 
 #include <memory>
 #include <optional>
@@ -37,9 +39,13 @@ public:
     // Calls that people see on the home screen bring it back first.
     bool leavesSettings(const std::string &action) const;
     void perform(const std::string &action, const Array &arguments);
-    void touchDown(double x, double y, int64_t finger);
+    // Gives where the touch landed: a finger near the middle of what has a name lands in its middle.
+    TouchPlace touchDown(double x, double y, int64_t finger);
     void touchMove(double x, double y, int64_t finger);
     void touchUp(int64_t finger);
+    // How a script finds what a person sees there: {"query", "class", "screen": its rectangle}; the query is
+    // empty when nothing tells it from others, all is null where nothing is seen.
+    Value pick(double x, double y);
 
     // Lets time pass until `to`, with what a replay does on the way.
     void advance(int64_t to);
@@ -70,6 +76,7 @@ private:
     DeviceSetup setup_;
     std::unique_ptr<LivePhone> phone_;
     std::unique_ptr<Journal> journal_;
+    std::optional<Helpers> helpers_; // of the journal
     std::unique_ptr<Replay> replay_;
     std::optional<std::string> verdict_;
     std::string trouble_ = "it has not been started";

@@ -1,6 +1,7 @@
 #include "LivePhone.hpp"
 
 #include "Supervisor/Script/Conversion.hpp"
+#include "Supervisor/Script/ViewTable.hpp"
 
 #include <algorithm>
 
@@ -50,6 +51,50 @@ void LivePhone::run(const std::string &statements) {
     int status = luaL_loadbufferx(lua, statements.data(), statements.size(), kChunk, "t");
     if (status == LUA_OK) status = lua_pcall(lua, 0, 0, 0);
     if (status != LUA_OK) throw CallError(takeError(lua));
+}
+
+// Leaves its value on the stack.
+void LivePhone::evaluate(const std::string &expression) {
+    lua_State *lua = script_.interpreter();
+    std::string chunk = "return " + expression;
+    int status = luaL_loadbufferx(lua, chunk.data(), chunk.size(), kChunk, "t");
+    if (status == LUA_OK) status = lua_pcall(lua, 0, 1, 0);
+    if (status != LUA_OK) throw CallError(takeError(lua));
+}
+
+int64_t LivePhone::number(const std::string &expression) {
+    evaluate(expression);
+    lua_State *lua = script_.interpreter();
+    int64_t result = lua_tointeger(lua, -1);
+    lua_pop(lua, 1);
+    return result;
+}
+
+std::optional<LivePhone::Sight> LivePhone::look(const std::string &expression) {
+    lua_State *lua = script_.interpreter();
+    int top = lua_gettop(lua);
+    std::optional<Sight> sight;
+    try {
+        evaluate(expression);
+        const Phone *last = script_.lastPhone();
+        if (isView(lua, -1)) {
+            const Phone &owner = expression.starts_with("pane") ? *last : *phone_;
+            sight = Sight{.number = viewNumber(lua, -1, owner)};
+            lua_getfield(lua, -1, "screen");
+            auto field = [&](const char *name) {
+                lua_getfield(lua, -1, name);
+                double value = lua_tonumber(lua, -1);
+                lua_pop(lua, 1);
+                return value;
+            };
+            sight->x = field("x") + field("w") / 2;
+            sight->y = field("y") + field("h") / 2;
+        }
+    } catch (const std::runtime_error &) {
+        sight.reset();
+    }
+    lua_settop(lua, top);
+    return sight;
 }
 
 BootOptions checkBootOptions(const DeviceSetup &setup, const Value &table) {

@@ -4,6 +4,7 @@
 
 #include "Supervisor/Script/Phone.hpp"
 
+#include <optional>
 #include <string>
 
 namespace sim {
@@ -25,8 +26,18 @@ public:
     const SettingsProcess *lastSettings() const;
     // Runs statements in which `phone` is the phone, and `pane` what they put there. Throws CallError.
     void run(const std::string &statements);
+    // The whole number that an expression gives. Throws CallError.
+    int64_t number(const std::string &expression);
+    // The view that an expression gives on that screen; nothing when it gives nil, or fails.
+    struct Sight {
+        int64_t number = 0;
+        double x = 0, y = 0; // its centre, upright
+    };
+    std::optional<Sight> look(const std::string &expression);
 
 private:
+    void evaluate(const std::string &expression);
+
     Script script_;
     Phone *phone_ = nullptr;
 };

@@ -20,6 +20,7 @@ constexpr auto kFrame = std::chrono::nanoseconds(kSecond / 60);
 constexpr auto kIdle = 250ms;          // how soon an interrupt is noticed, at the latest
 constexpr auto kThoroughEvery = 250ms; // between looks at views and counters
 constexpr auto kHurryFor = 12ms;       // of a tick, in a replay that hurries
+constexpr auto kLetGo = 100ms;         // that a press may be longer than a tap
 constexpr int64_t kMostSteps = 600;    // frames, in one request
 
 double seconds(std::chrono::steady_clock::duration duration) {
@@ -45,7 +46,8 @@ const LiveSession::Command *LiveSession::findCommand(const std::string &name) {
         {"show", &LiveSession::show},        {"boot", &LiveSession::boot},
         {"clock", &LiveSession::setClock},   {"step", &LiveSession::step},
         {"replay", &LiveSession::replay},    {"script", &LiveSession::sendScript},
-        {"seen", &LiveSession::acknowledge}, {"watch", &LiveSession::watch}};
+        {"seen", &LiveSession::acknowledge}, {"watch", &LiveSession::watch},
+        {"pick", &LiveSession::pick}};
     auto found = std::ranges::find_if(commands, [&](const Command &command) { return name == command.name; });
     return found == std::end(commands) ? nullptr : found;
 }
@@ -170,7 +172,12 @@ void LiveSession::step(Client, const Value &message) {
     if (frames < 1 || frames > kMostSteps)
         throw CallError("a step is 1 to " + std::to_string(kMostSteps) + " frames");
     fingers_.commit();
-    advance(frames);
+    while (frames > 0) {
+        int64_t part = fingers_.atMost(frames);
+        advance(part);
+        fingers_.commit();
+        frames -= part;
+    }
 }
 
 // {"hurry": true for as fast as it goes}
@@ -197,12 +204,27 @@ void LiveSession::watch(Client client, const Value &message) {
     looked_ = {};
 }
 
+// {"x", "y"}: of the pointer
+void LiveSession::pick(Client client, const Value &message) {
+    viewers_.tell(client, Object{{"kind", "picked"},
+                                 {"view", device_.pick(message["x"].number(), message["y"].number())}});
+}
+
 Value LiveSession::clockMessage() {
     return Object{
         {"kind", "clock"}, {"speed", clock_.speed()}, {"replays", device_.replays()}, {"now", device_.now()}};
 }
 
 void LiveSession::advance(int64_t frames) { device_.advance(frameAfter(device_.now(), frames)); }
+
+// A person's press is seldom as short as a tap: the device waits a moment for its end, so that it is one.
+bool LiveSession::waitsForLift() {
+    if (!fingers_.mayBeTap())
+        ripe_.reset();
+    else if (!ripe_)
+        ripe_ = now();
+    return ripe_ && now() - *ripe_ < kLetGo;
+}
 
 void LiveSession::passTime() {
     auto before = std::exchange(passed_, now());
@@ -214,8 +236,8 @@ void LiveSession::passTime() {
     }
     if (hurry_ && device_.replays()) {
         while (device_.replays() && now() - passed_ < kHurryFor) advance(1);
-    } else if (int64_t frames = clock_.pass(seconds(passed_ - before)); frames > 0) {
-        advance(frames);
+    } else if (int64_t frames = clock_.pass(seconds(passed_ - before)); frames > 0 && !waitsForLift()) {
+        advance(fingers_.atMost(frames));
     }
     if (auto verdict = device_.takeVerdict()) {
         viewers_.tellAll(

@@ -6,6 +6,7 @@
 #include "Viewers.hpp"
 
 #include <filesystem>
+#include <optional>
 
 namespace sim {
 
@@ -46,9 +47,11 @@ private:
     void sendScript(Client client, const Value &message);
     void acknowledge(Client client, const Value &message);
     void watch(Client client, const Value &message);
+    void pick(Client client, const Value &message);
 
     Value clockMessage();
     void passTime();
+    bool waitsForLift();
     void advance(int64_t frames);
     void look();
     void tellTime(bool thorough);
@@ -64,8 +67,9 @@ private:
     Fingers fingers_;
     LiveClock clock_;
     Time tick_, passed_, looked_;
-    int64_t told_ = -1;  // the time that the pages know
-    bool hurry_ = false; // a replay runs as fast as it can
+    std::optional<Time> ripe_; // since when a touch is as long as a tap
+    int64_t told_ = -1;        // the time that the pages know
+    bool hurry_ = false;       // a replay runs as fast as it can
 };
 
 } // namespace sim

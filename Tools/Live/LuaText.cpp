@@ -11,4 +11,11 @@ std::string luaCall(std::string_view name, const Array &arguments, std::string_v
     return call + "(" + list + ")";
 }
 
+Value coordinate(double value) {
+    auto whole = static_cast<int64_t>(value);
+    return static_cast<double>(whole) == value ? Value(whole) : Value(value);
+}
+
+std::string pointText(double x, double y) { return luaText(Array{coordinate(x), coordinate(y)}); }
+
 } // namespace sim

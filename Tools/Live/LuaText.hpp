@@ -12,4 +12,9 @@ namespace sim {
 // arguments are written as luaText() does.
 std::string luaCall(std::string_view name, const Array &arguments, std::string_view object = "phone");
 
+// A coordinate as it reads best: whole points without a fraction.
+Value coordinate(double value);
+// "{10, 20.5}"
+std::string pointText(double x, double y);
+
 } // namespace sim

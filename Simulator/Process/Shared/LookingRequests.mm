@@ -1,6 +1,8 @@
 #include "Requests.h"
 #include "Runtime/Objc/HiddenClasses.hpp"
+#include "Screen.h"
 #include "TouchablePlaces.h"
+#include "UIKit/Touch/TouchInput.h"
 #include "ViewSearch.h"
 #include "ViewSnapshot.h"
 
@@ -39,11 +41,25 @@ Value touchable(const Value &arguments) {
     return touchablePlaces(names);
 }
 
+// {"window": of the view, "line": the view and those that hold it, from the inside out}; null without a view.
+Value inItsWindow(UIView *view) {
+    if (![view window]) return {};
+    return Object{{"window", windowName([view window])}, {"line", lineage(view)}};
+}
+
+CGPoint pointIn(const Value &arguments) { return {arguments["x"].number(), arguments["y"].number()}; }
+
+// {"x", "y"}: what a finger would touch there
+Value touched(const Value &arguments) { return inItsWindow(touchTarget(fromUpright(pointIn(arguments)))); }
+
+// {"x", "y"}: what a person sees there
+Value seen(const Value &arguments) { return inItsWindow(viewSeenAt(pointIn(arguments))); }
+
 } // namespace
 
 std::span<const Request> lookingRequests() {
-    static const Request requests[] = {
-        {"find", find}, {"view", view}, {"windows", windows}, {"touchable", touchable}};
+    static const Request requests[] = {{"find", find},           {"view", view},       {"windows", windows},
+                                       {"touchable", touchable}, {"touched", touched}, {"seen", seen}};
     return requests;
 }
 

@@ -28,6 +28,10 @@ NSString *textOf(UIView *view);
 // "parent": number, "visible"}, in depth-first drawing order. Stops at the first match when told to.
 std::vector<UIView *> findViews(const Value &query, bool first);
 
+// The view that a person would name there, at a point seen upright: the innermost one that shows something or
+// takes touches, of those that lie above. nil without one.
+UIView *viewSeenAt(CGPoint point);
+
 // The names of all classes that views can have, in ascending order.
 Array viewClasses();
 

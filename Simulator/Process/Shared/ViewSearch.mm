@@ -51,7 +51,30 @@ bool matches(UIView *view, const Value &query, UIView *inside, UIView *parent) {
     return !query.has("visible") || isVisible(view) == query["visible"].boolean();
 }
 
+// Containers that fill the screen and show nothing would hide what lies below them.
+bool showsSomething(UIView *view) {
+    if (!state(view).recognizers.empty() || [view isKindOfClass:[UIControl class]] || textOf(view))
+        return true;
+    return [view respondsToSelector:@selector(image)] || [view backgroundColor];
+}
+
+UIView *seenBelow(UIView *view, CGPoint point) {
+    constexpr double kLeastAlpha = 0.01;
+    if ([view isHidden] || presented([view layer]).opacity <= kLeastAlpha) return nil;
+    auto parts = drawnSubviews(view);
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
+        if (UIView *found = seenBelow(*part, point)) return found;
+    return showsSomething(view) && CGRectContainsPoint(presentedOnScreen(view), point) ? view : nil;
+}
+
 } // namespace
+
+UIView *viewSeenAt(CGPoint point) {
+    auto windows = visibleWindows();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window)
+        if (UIView *found = seenBelow(*window, point)) return found;
+    return nil;
+}
 
 std::string windowName(UIWindow *window) {
     switch (role(window)) {

@@ -14,6 +14,9 @@ namespace sim {
 // rounded to millionths.
 Value snapshot(const std::vector<UIView *> &views);
 
+// The view and all that hold it, from the inside out, each with its fields alone.
+Array lineage(UIView *view);
+
 // What the image that a view shows came from; null when it shows none. A status-bar item is known by its
 // image's name.
 Value imageOf(UIView *view);

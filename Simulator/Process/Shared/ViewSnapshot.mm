@@ -164,6 +164,12 @@ Array lookOf(UIView *view) {
     };
 }
 
+Array lineage(UIView *view) {
+    Array result;
+    for (; view; view = [view superview]) result.push_back(fields(view));
+    return result;
+}
+
 Value snapshot(const std::vector<UIView *> &views) {
     Array matches, all;
     std::set<int64_t> seen;

@@ -51,6 +51,12 @@ void SettingsDriver::tapAt(const Value &place) {
     finger_.tap({.view = {}, .x = place["x"].number(), .y = place["y"].number()});
 }
 
+bool SettingsDriver::isInReach(const Value &place) {
+    const Value &area = place["area"];
+    double top = area["y"].number(), y = place["y"].number();
+    return y > top + kEdge && y < top + area["h"].number() - kEdge;
+}
+
 Value SettingsDriver::bringOnScreen(const std::string &label, const std::vector<std::string> &kinds,
                                     const Object &more) {
     constexpr int kMostDrags = 60;
@@ -66,8 +72,7 @@ Value SettingsDriver::bringOnScreen(const std::string &label, const std::vector<
         }
         const Value &area = place["area"];
         double top = area["y"].number(), height = area["h"].number(), y = place["y"].number();
-        bool seen = y > top + kEdge && y < top + height - kEdge;
-        if (seen || drags == kMostDrags) return place;
+        if (isInReach(place) || drags == kMostDrags) return place;
         double way = std::clamp(top + height / 2 - y, -0.7 * height, 0.7 * height);
         // At the very side there is no control that would follow the finger.
         TouchTarget start{

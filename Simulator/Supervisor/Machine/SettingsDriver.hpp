@@ -29,6 +29,9 @@ public:
     void type(const std::string &text);
     void erase(int64_t count);
 
+    // Whether a finger reaches a row where it is, without scrolling; `place` is an answer to "place_row".
+    static bool isInReach(const Value &place);
+
     // The finger goes that way over the middle of the cards.
     void swipe(bool left);
 
