@@ -2,12 +2,15 @@
 #pragma once
 
 #include <QuartzCore/QuartzCore.h>
+#include <UIKit/UIAccessibility.h>
+#include <UIKit/UIAccessibilityElement.h>
 #include <UIKit/UIAlertView.h>
 #include <UIKit/UIApplication.h>
 #include <UIKit/UIBackdropView.h>
 #include <UIKit/UIBarButtonItem.h>
 #include <UIKit/UIBezierPath.h>
 #include <UIKit/UIColor.h>
+#include <UIKit/UIContentSizeCategory.h>
 #include <UIKit/UIControl.h>
 #include <UIKit/UIDevice.h>
 #include <UIKit/UIFont.h>

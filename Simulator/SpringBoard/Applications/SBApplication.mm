@@ -1,10 +1,10 @@
 #include "Applications.h"
 
 #include "ApplicationLife.h"
+#include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/Events.hpp"
 #include "Snapshots.h"
 #include "SpringBoard/Icons/Icons.h"
-#include "SpringBoard/Versions.hpp"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "GlyphPaths.hpp"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "Runtime/Objc/Versions.hpp"
 #include "ShapeLayers.h"
-#include "SpringBoard/Versions.hpp"
 #include "UIKit/QuartzCore/CAShapeLayer+Further.h"
 
 #include <PassKit/PKGlyphView.h>

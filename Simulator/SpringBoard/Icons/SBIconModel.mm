@@ -1,6 +1,6 @@
 #include "Icons.h"
 
-#include "SpringBoard/Versions.hpp"
+#include "Runtime/Objc/Versions.hpp"
 
 #include <map>
 

@@ -2,10 +2,10 @@
 
 #include "LockScreenView.h"
 #include "LockState.h"
+#include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/Applications/ApplicationWindow.h"
 #include "SpringBoard/Home/HomeViews.h"
-#include "SpringBoard/Versions.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Application/UIWindow+Further.h"
 #include "UIKit/StatusBar/StatusBarData.hpp"

@@ -2,9 +2,9 @@
 #include "LockScreenView.h"
 #include "LockState.h"
 
+#include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/Events.hpp"
 #include "SBLockScreenManager+Further.h"
-#include "SpringBoard/Versions.hpp"
 #include "UIKit/Controllers/UIViewController+Further.h"
 
 #include <SpringBoard/SBLockScreen.h>

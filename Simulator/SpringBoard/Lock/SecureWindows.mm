@@ -1,5 +1,5 @@
 // Windows that may show while the device is locked; from 8.0 on. Before, all may.
-#include "SpringBoard/Versions.hpp"
+#include "Runtime/Objc/Versions.hpp"
 #include "UIKit/Application/ApplicationState.h"
 
 #include <UIKit/UIWindow.h>

@@ -1,6 +1,6 @@
+#include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "SpringBoard/System/Interface.h"
-#include "SpringBoard/Versions.hpp"
 
 #include <SpringBoard/SpringBoard.h>
 

@@ -1,9 +1,9 @@
 #include "SwitcherModel.h"
 
+#include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "SBAppSwitcherModel+Further.h"
 #include "SpringBoard/Applications/Applications.h"
-#include "SpringBoard/Versions.hpp"
 
 namespace {
 

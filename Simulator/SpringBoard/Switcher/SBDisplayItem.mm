@@ -1,6 +1,6 @@
 #include "SwitcherModel.h"
 
-#include "SpringBoard/Versions.hpp"
+#include "Runtime/Objc/Versions.hpp"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // The controllers behind the switcher's own screen, as far as they send an application away.
 #include "SwitcherModel.h"
 
+#include "Runtime/Objc/Versions.hpp"
 #include "SpringBoard/Applications/Applications.h"
-#include "SpringBoard/Versions.hpp"
 
 #include <UIKit/UIKit.h>
 

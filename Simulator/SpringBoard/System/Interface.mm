@@ -1,5 +1,6 @@
 #include "Interface.h"
 
+#include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Time/Clock.hpp"
 #include "SpringBoard/Applications/ApplicationLife.h"
@@ -7,7 +8,6 @@
 #include "SpringBoard/Home/FolderOverlay.h"
 #include "SpringBoard/Home/HomeViews.h"
 #include "SpringBoard/Lock/LockState.h"
-#include "SpringBoard/Versions.hpp"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/StatusBar/StatusBarState.h"
 #include "UIKit/Touch/TouchInput.h"

@@ -1,6 +1,7 @@
 #include "NavigationState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
+#include "UIKit/Accessibility/GivenProperties.h"
 
 namespace {
 
@@ -54,6 +55,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
     [state(self).title release];
     [state(self).image release];
     delete &state(self);
+    sim::forgetGiven(self);
     [super dealloc];
 }
 

@@ -1,6 +1,7 @@
 #include "FirstResponder.h"
 #include "ViewState.h"
 
+#include "UIKit/Accessibility/GivenProperties.h"
 #include "UIResponder+Further.h"
 
 #include <UIKit/UIResponder.h>
@@ -18,6 +19,7 @@ UIResponder *firstResponder() { return first; }
 
 - (void)dealloc {
     if (self == first) first = nil;
+    sim::forgetGiven(self);
     [super dealloc];
 }
 

@@ -5,6 +5,7 @@
 #include "Hooking.hpp"
 #include "Messages.hpp"
 #include "Runtime/Objc/HiddenClasses.hpp"
+#include "Runtime/Process/SymbolLookup.hpp"
 #include "Thunks.hpp"
 #include "VariableArguments.hpp"
 
@@ -35,6 +36,17 @@ void setCopied(id self, SEL, id value, ptrdiff_t offset) {
 
 void noLazyBinding() { refuseCall("a function was called that should have been bound before"); }
 
+// Functions that were looked for are called as imported ones are.
+void *lookUp(void *handle, const char *name) {
+    constexpr intptr_t kAnywhere = -2;
+    if (reinterpret_cast<intptr_t>(handle) != kAnywhere) refuseCall("dlsym with a handle");
+    try {
+        return findImport(std::string("_") + name);
+    } catch (const std::runtime_error &error) {
+        refuseCall(error.what());
+    }
+}
+
 template <typename Function>
 void *address(Function *function) {
     return reinterpret_cast<void *>(function);
@@ -53,6 +65,7 @@ void *shim(const std::string &symbol) {
         {"_objc_setProperty_nonatomic_copy", address(setCopied)},
         {"_MSHookMessageEx", address(simHookMessage)},
         {"_class_addMethod", address(simAddMethod)},
+        {"_dlsym", address(lookUp)},
         {"__objc_empty_cache", emptyCache},
         {"dyld_stub_binder", address(noLazyBinding)},
         {"___CFConstantStringClassReference", reinterpret_cast<void *>(object_getClass(@""))},
@@ -75,7 +88,7 @@ void *function(const std::string &name) {
         throw std::runtime_error(
             "it calls " + name +
             ", whose variable arguments the device passes differently and nobody translates");
-    void *found = dlsym(RTLD_DEFAULT, name.c_str());
+    void *found = platformSymbol(name);
     if (!found || !givesTruth(name)) return found;
     auto *route = new Route{.target = found,
                             .name = name,

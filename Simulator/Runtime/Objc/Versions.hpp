@@ -1,7 +1,7 @@
 // The system versions that the tables of version-dependent methods and classes name.
 #pragma once
 
-#include "Runtime/Objc/Availability.hpp"
+#include "Availability.hpp"
 
 namespace sim {
 

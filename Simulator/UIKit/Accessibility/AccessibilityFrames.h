@@ -1,0 +1,16 @@
+// Rectangles as the accessibility protocol has them: of the screen, which turns with the interface from 8.0
+// on.
+#pragma once
+
+#include <UIKit/UIView.h>
+
+namespace sim {
+
+// Of the view's own coordinates, where the view is seen at this moment.
+CGRect accessibilityRect(CGRect rect, UIView *view);
+// From there to the screen held in portrait, in which windows and touches lie.
+CGPoint touchPoint(CGPoint accessibilityPoint);
+// The whole screen.
+CGRect accessibilityScreen();
+
+} // namespace sim
