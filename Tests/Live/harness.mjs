@@ -34,15 +34,28 @@ export function run(script) {
   return execFileSync(program, ["run", file, "--out", folder], { encoding: "utf8" });
 }
 
+// Runs a script of the project with these options; its pictures go where those of the others do.
+export function runFile(file, ...options) {
+  execFileSync(program, ["run", file, "--out", folder, ...options], { encoding: "utf8", stdio: "pipe" });
+}
+
+// A file of the test's own.
+export const own = name => join(folder, name);
 // The picture that a script took under that name, as a data URL.
 export const picture = name => `data:image/png;base64,${readFileSync(join(folder, `${name}.png`), "base64")}`;
 export const cleanUp = () => rmSync(folder, { recursive: true });
 
 // A page on which nothing may go wrong unnoticed.
-export async function open(browser, address, problems, options = {}) {
+export async function watched(browser, problems, options = {}) {
   const page = await browser.newPage({ viewport: { width: 1440, height: 1000 }, ...options });
   page.on("pageerror", error => problems.push(error.message));
   page.on("console", message => message.type() === "error" && problems.push(message.text()));
+  return page;
+}
+
+// The live page, when it shows the device.
+export async function open(browser, address, problems, options = {}) {
+  const page = await watched(browser, problems, options);
   await page.goto(address);
   await page.waitForSelector("#status[data-state=good]");
   return page;
@@ -111,9 +124,9 @@ export async function finger(page) {
   };
 }
 
-// How many pixels of the screen differ from a picture; -1 for one of another size.
-export const difference = (page, url) => page.evaluate(async source => {
-  const canvas = document.getElementById("screen");
+// How many pixels of the canvas differ from a picture; -1 for one of another size.
+export const difference = (page, url, id = "screen") => page.evaluate(async ([source, id]) => {
+  const canvas = document.getElementById(id);
   const image = new Image();
   image.src = source;
   await image.decode();
@@ -123,4 +136,4 @@ export const difference = (page, url) => page.evaluate(async source => {
   const pixels = from => new Uint32Array(from.getContext("2d").getImageData(0, 0, canvas.width, canvas.height).data.buffer);
   const one = pixels(canvas), two = pixels(other);
   return one.reduce((sum, pixel, index) => sum + (pixel !== two[index]), 0);
-}, url);
+}, [url, id]);

@@ -1,7 +1,9 @@
 """`pendix-sim test`, as the author of tests meets it: what it prints and writes, and how it ends."""
 
+import json
 import os
 import pathlib
+import re
 import shutil
 import signal
 import struct
@@ -120,6 +122,56 @@ class TestCommand(unittest.TestCase):
                            ["tests.lua:5: a touch needs a view or a point {x, y}, not \"nowhere\""]),
                           ("tests.lua", "goes on", [])])
         self.assertIn("1, wanted 2", suite.find("system-out").text)
+
+    def test_a_trace_tells_every_step_and_changes_none(self):
+        self.write("Lua/hands.lua", "return { open = function(phone)\n  phone:tap(phone:indicator().view)\nend }")
+        self.write("a.lua", """local hands = require("hands")
+local phone = boot { settings = { enable = true } }
+test("news", function()
+  phone:badge("com.apple.mobilemail", 3)
+  expect(phone:find { window = "overlay" }, "looking is no step")
+  phone:wait(1 / 3)
+  hands.open(phone)
+  expect(false, "</script>")
+  phone:set("tint", "red")
+end)
+local pane = phone:open_settings()
+pane:toggle("Enable")
+for _, event in ipairs(phone:events()) do print(event.t, event.kind) end
+phone:tap("nowhere")""")
+        self.write("b.lua", "expect(true)")
+        plain, traced = (self.call("a.lua", "b.lua", *more) for more in ([], ["--trace", "deep/a.html", "--jobs", "2"]))
+        self.assertEqual((plain.returncode, traced.returncode), (1, 1))
+        self.assertEqual(*(re.sub(r"\(\d+\.\d+ s\)", "", result.stdout) for result in (plain, traced)))
+        page = (self.folder / "deep/a.html").read_text()
+        self.assertNotRegex(page, r"""(?i)(src|href)=["']?(?!data:)[a-z./]|@import|url\(|fetch\(|https?://(?!www\.w3\.org)""")
+        data = page.split('<script type="application/json" id="trace">')[1].split("</script>")[0]
+        trace, other = json.loads(data)
+        self.assertEqual((other["script"], other["steps"]), ("b.lua", []))
+        files = [source["file"] for source in trace["sources"]]
+        steps = [(step["call"], [f"{os.path.basename(files[file])}:{line}" for file, line in step["places"]], step["test"],
+                  step.get("failure")) for step in trace["steps"]]
+        inside = ["a.lua:7", "a.lua:3"]
+        self.assertEqual(steps, [
+            ("boot", ["a.lua:2"], "", None),
+            ('phone:badge("com.apple.mobilemail", 3)', ["a.lua:4", "a.lua:3"], "news", None),
+            ("phone:wait(0.333333)", ["a.lua:6", "a.lua:3"], "news", None),
+            (steps[3][0], ["hands.lua:2", *inside], "news", None),
+            ("failed", ["a.lua:8"], "news", "</script>"),
+            ('phone:set("tint", "red")', ["a.lua:9", "a.lua:3"], "news", None),
+            ("open_settings", ["a.lua:11"], "", None),
+            ('pane:toggle("Enable")', ["a.lua:12"], "", None),
+            ("failed", ["a.lua:14"], "", 'a touch needs a view or a point {x, y}, not "nowhere"')])
+        self.assertTrue(steps[3][0].startswith("phone:tap(UIStatusBar"), steps[3][0])
+        self.assertEqual(trace["screens"], ["iPhone 6, iOS 8.1", "Settings on iPhone 6, iOS 8.1"])
+        self.assertEqual([round(step["to"], 3) for step in trace["steps"][:5]], [0, 0, 0.333, 0.433, 0.433])
+        self.assertIn([0.0, "badge_set", "id com.apple.mobilemail  value 3"], trace["steps"][1]["events"])
+        tree = [trace["lines"][line] for line in trace["trees"][trace["steps"][1]["tree"]]]
+        self.assertTrue(any(line.lstrip().startswith("SBIconBadgeView (") for line in tree))
+        self.assertTrue(tree[0].endswith("\t0 0 375 667"), tree[0])
+        self.assertIn("cannot make the folder", self.call("b.lua", "--trace", "/proc/none/x.html").stderr)
+        self.assertIn("cannot make the folder", subprocess.run([PROGRAM, "run", self.folder / "b.lua", "--trace", "/proc/none/x.html"],
+                                                               capture_output=True, text=True, check=False).stderr)
 
     def test_pictures(self):
         shown = self.write("shown.lua", "phone = boot { extension = false, device = args[2] or 'iPhone 4S' } "

@@ -1,5 +1,6 @@
 #include "BootArguments.hpp"
 #include "Command.hpp"
+#include "TracePage.hpp"
 
 namespace sim {
 
@@ -10,6 +11,10 @@ class RunCommand : public Command {
         options.file({.names = "FILE", .about = "The script (Lua 5.4)", .required = true}, script_.file);
         options.path({.names = "--out", .about = "Folder for pictures"}, script_.pictures);
         options.number({.names = "--seed", .about = "Seed of math.random"}, script_.seed);
+        options.path({.names = "--trace",
+                      .about = "Write a page with a picture, the events and the views of every step",
+                      .value = "FILE.html"},
+                     trace_);
         arguments_.describe(options);
         options.flag({.names = "--gdb", .about = "Start the simulated processes under gdb in this terminal"},
                      arguments_.debugger);
@@ -20,10 +25,16 @@ class RunCommand : public Command {
 
     Outcome run(const Program &program) override {
         script_.arguments = program.arguments;
-        return Script(arguments_.setup(), script_).run();
+        script_.trace = !trace_.empty();
+        DeviceSetup setup = arguments_.setup();
+        Script script(setup, script_);
+        Outcome outcome = script.run();
+        if (script_.trace) writeTracePage(trace_, setup.installation.trace, {script.trace()->json()});
+        return outcome;
     }
 
     ScriptOptions script_;
+    std::filesystem::path trace_;
     SetupArguments arguments_;
 };
 

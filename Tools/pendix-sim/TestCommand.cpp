@@ -4,6 +4,7 @@
 #include "Supervisor/Machine/Interrupt.hpp"
 #include "Supervisor/Machine/OutputFile.hpp"
 #include "TestRun.hpp"
+#include "TracePage.hpp"
 
 #include <cstdlib>
 #include <iostream>
@@ -38,6 +39,10 @@ class TestCommand : public Command {
             {.names = "--update", .about = "Agree to what expect_picture() sees, and write its pictures"},
             options_.update);
         options.path({.names = "--junit", .about = "Write the results as XML, too", .value = "FILE"}, junit_);
+        options.path({.names = "--trace",
+                      .about = "Write a page with a picture, the events and the views of every step",
+                      .value = "FILE.html"},
+                     trace_);
         arguments_.describe(options);
         options.footer("What follows -- on the command line is in the scripts' global `args`.\n"
                        "Exits with 0 when every test passed, 1 when one failed, 2 when the call, a script or "
@@ -51,14 +56,24 @@ class TestCommand : public Command {
             throw std::runtime_error("--update agrees to pictures that somebody looked at; the environment "
                                      "variable CI says that nobody does");
         options_.arguments = program.arguments;
+        options_.trace = !trace_.empty();
+        DeviceSetup setup = arguments_.setup();
         std::vector<TestedFile> ended;
-        runTestFiles(arguments_.setup(), testFiles(paths_, out_), options_, static_cast<size_t>(jobs_),
+        runTestFiles(setup, testFiles(paths_, out_), options_, static_cast<size_t>(jobs_),
                      [&](TestedFile file) {
                          tell(file);
                          ended.push_back(std::move(file));
                      });
         if (!junit_.empty()) writeOutput(junit_, junitReport(ended));
+        if (options_.trace) writeTracePage(trace_, setup.installation.trace, traces(ended));
         return summarize(ended);
+    }
+
+    static std::vector<std::string> traces(const std::vector<TestedFile> &files) {
+        std::vector<std::string> result;
+        for (const auto &file : files)
+            if (!file.trace.empty()) result.push_back(file.trace);
+        return result;
     }
 
     Outcome summarize(const std::vector<TestedFile> &files) const {
@@ -78,7 +93,7 @@ class TestCommand : public Command {
     }
 
     std::vector<std::filesystem::path> paths_;
-    std::filesystem::path out_ = "out", junit_;
+    std::filesystem::path out_ = "out", junit_, trace_;
     int64_t jobs_ = 1;
     ScriptOptions options_;
     SetupArguments arguments_;

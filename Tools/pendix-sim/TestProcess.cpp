@@ -44,12 +44,14 @@ private:
 };
 
 // In the process of its own. Does not throw.
-int runTests(DeviceSetup setup, ScriptOptions options, FILE *told) {
+int runTests(DeviceSetup setup, ScriptOptions options, FILE *told, FILE *traced) {
     try {
         if (setup.nurseries) setup.nurseries = std::make_shared<Nurseries>();
         options.tested = [told](const TestResult &result) { append(told, toJson(toValue(result)) + "\n"); };
         Script script(setup, std::move(options));
-        return static_cast<int>(script.run());
+        Outcome outcome = script.run();
+        if (script.trace()) append(traced, script.trace()->json());
+        return static_cast<int>(outcome);
     } catch (const std::exception &error) {
         std::cerr << error.what() << '\n';
         return static_cast<int>(Outcome::refused);
@@ -78,19 +80,20 @@ TestProcess::TestProcess(const DeviceSetup &setup, const ScriptOptions &options)
     sigprocmask(SIG_SETMASK, &none, nullptr);
     dup2(fileno(said_.get()), STDOUT_FILENO);
     dup2(fileno(said_.get()), STDERR_FILENO);
-    int outcome = runTests(setup, options, told_.get());
+    int outcome = runTests(setup, options, told_.get(), trace_.get());
     std::cout.flush();
     fflush(nullptr);
     _exit(outcome);
 }
 
 TestedFile TestProcess::result(int status) const {
-    TestedFile result{.script = script_, .said = contents(said_.get()), .trace = contents(trace_.get())};
+    TestedFile result{.script = script_, .said = contents(said_.get())};
     std::string told = contents(told_.get());
     for (size_t at = 0, end; (end = told.find('\n', at)) != told.npos; at = end + 1)
         result.tests.push_back(testResult(parseJson(told.substr(at, end - at))));
     if (WIFEXITED(status) && WEXITSTATUS(status) <= static_cast<int>(Outcome::refused)) {
         result.outcome = static_cast<Outcome>(WEXITSTATUS(status));
+        result.trace = contents(trace_.get());
         return result;
     }
     std::string how = WIFSIGNALED(status) ? strsignal(WTERMSIG(status))

@@ -15,7 +15,7 @@ struct TestedFile {
     std::filesystem::path script;
     std::vector<TestResult> tests;
     std::string said;  // on its standard output and error
-    std::string trace; // of its run, when one was asked for
+    std::string trace; // JSON, when one was asked for and its process came to its end
     Outcome outcome = Outcome::passed;
 };
 

@@ -8,6 +8,7 @@
 namespace sim {
 
 Value SimulatedScreen::act(const char *request, Object arguments) {
+    ++acts_;
     bool died;
     return perform(request, arguments, &died);
 }

@@ -32,6 +32,8 @@ public:
     Value act(const char *request, Object arguments = {});
     // The same for a question, which a crash leaves without an answer: that is a RequestError.
     Value ask(const char *request, Object arguments = {});
+    // How often it was asked to do something.
+    uint64_t acts() const { return acts_; }
     // The screen at this moment, upright: on its side it is as wide as it was high.
     render::Bitmap picture();
     // The same incrementally: `picture` is what this gave the last time, or an empty one, and is updated
@@ -68,6 +70,7 @@ protected:
     virtual SimulatedProcess &process() = 0;
 
 private:
+    uint64_t acts_ = 0;
     int interfaceOrientation_ = 1;
     unsigned drawn_ = 0; // the generation whose last drawing refresh() has seen; 0: none
 };

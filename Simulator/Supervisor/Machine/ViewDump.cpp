@@ -41,13 +41,14 @@ std::string line(const Value &view) {
             text += std::string(" ") + name + " " + readable(view[name]);
     for (const auto &animation : view["animations"].array())
         text += " animates " + animation["keypath"].string();
-    return text + '\n';
+    return text;
 }
 
-void dump(std::string &text, const std::map<int64_t, const Value *> &views, int64_t number, size_t depth) {
+void walk(std::vector<ViewLine> &lines, const std::map<int64_t, const Value *> &views, int64_t number,
+          size_t depth) {
     const Value &view = *views.at(number);
-    text += std::string(depth * 2, ' ') + line(view);
-    for (const auto &child : view["children"].array()) dump(text, views, child.integer(), depth + 1);
+    lines.push_back({depth, line(view), &view});
+    for (const auto &child : view["children"].array()) walk(lines, views, child.integer(), depth + 1);
 }
 
 } // namespace
@@ -60,11 +61,17 @@ std::string viewTitle(const Value &view) {
     return text;
 }
 
-std::string viewDump(const Value &answer) {
+std::vector<ViewLine> viewLines(const Value &answer) {
     std::map<int64_t, const Value *> views;
     for (const auto &view : answer["views"].array()) views.emplace(view["number"].integer(), &view);
+    std::vector<ViewLine> lines;
+    for (const auto &root : answer["matches"].array()) walk(lines, views, root.integer(), 0);
+    return lines;
+}
+
+std::string viewDump(const Value &answer) {
     std::string text;
-    for (const auto &root : answer["matches"].array()) dump(text, views, root.integer(), 0);
+    for (const auto &line : viewLines(answer)) text += std::string(line.depth * 2, ' ') + line.text + '\n';
     return text;
 }
 

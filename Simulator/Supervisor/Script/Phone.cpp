@@ -3,6 +3,7 @@
 #include "Conversion.hpp"
 #include "Supervisor/Boot/Extensions.hpp"
 #include "Supervisor/Text/Suggest.hpp"
+#include "TracedCall.hpp"
 
 #include <algorithm>
 #include <stdexcept>
@@ -35,6 +36,7 @@ int callMethod(lua_State *lua, Script &script) {
         throw std::runtime_error(word(phone) + std::string(":") + method.name + " takes " +
                                  (most ? "at most " + std::to_string(most) : "no") + " argument" +
                                  (most == 1 ? "" : "s"));
+    TracedCall traced(lua, script, phone, method.name);
     return method.run(lua, phone, script);
 }
 
@@ -126,6 +128,7 @@ void pushPhone(lua_State *lua, Phone &phone) {
         luaL_setfuncs(lua, events, 0);
     }
     lua_setmetatable(lua, -2);
+    traceOpening(lua, phone);
 }
 
 uint64_t nextSerial() {

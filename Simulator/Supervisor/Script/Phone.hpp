@@ -63,7 +63,7 @@ struct MethodFamily {
 };
 std::vector<MethodFamily> methodFamilies();
 
-// Pushes the object of a phone or pane that the script owns.
+// Pushes the object of a phone or pane that was just opened and that the script owns.
 void pushPhone(lua_State *lua, Phone &phone);
 // Tells them apart; never 0.
 uint64_t nextSerial();

@@ -47,6 +47,7 @@ Script::Script(DeviceSetup setup, ScriptOptions options)
     : setup_(std::move(setup)), options_(std::move(options)), lua_(luaL_newstate()) {
     if (!lua_) throw std::runtime_error("no memory for the interpreter");
     *static_cast<Script **>(lua_getextraspace(lua_)) = this;
+    if (options_.trace) trace_.emplace(options_.file);
     openLibrary(lua_, options_);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Supervisor/Machine/SimulatedDevice.hpp"
+#include "Supervisor/Trace/Trace.hpp"
 #include "Tests.hpp"
 
 #include <filesystem>
@@ -23,6 +24,7 @@ struct ScriptOptions {
     int64_t seed = 0;
     bool update = false; // expect_picture() agrees to what is there
     std::string filter;  // of tests: a part of their titles
+    bool trace = false;  // keep what each step did
     // Told of each test as soon as it has ended. Null: nobody is.
     std::function<void(const TestResult &)> tested = nullptr;
 };
@@ -56,6 +58,8 @@ public:
     void noteBootError(const std::string &text) { bootErrors_.push_back(text); }
     Phone &add(std::unique_ptr<Phone> phone);
     void close(Phone *phone);
+    // What each step did; nullptr unless that was asked for.
+    Trace *trace() { return trace_ ? &*trace_ : nullptr; }
     // For who runs pieces of a script one by one.
     lua_State *interpreter() const { return lua_; }
     // The one that was booted last; nullptr before the first boot.
@@ -84,6 +88,7 @@ private:
     std::string reported_;           // of the device, last
     std::optional<TestResult> test_; // that runs now
     TestResult outside_;             // of any test
+    std::optional<Trace> trace_;
     size_t testsRun_ = 0, testsLeftOut_ = 0;
     bool failed_ = false, refused_ = false;
     bool runs_ = false; // run() was called: this is no piece of a script

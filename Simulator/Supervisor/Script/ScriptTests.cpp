@@ -18,6 +18,7 @@ void Script::runTest(lua_State *lua, const std::string &name) {
     ++testsRun_;
     auto start = std::chrono::steady_clock::now();
     test_ = {.name = name};
+    if (trace_) trace_->setTest(name);
     lua_pushcfunction(lua, addTraceback);
     lua_insert(lua, -2);
     bool ended = lua_pcall(lua, 0, 0, -2) == LUA_OK;
@@ -38,9 +39,13 @@ void Script::runTest(lua_State *lua, const std::string &name) {
 void Script::endTest() {
     if (options_.tested) options_.tested(*test_);
     test_.reset();
+    if (trace_) trace_->setTest("");
 }
 
-void Script::noteFailure(const std::string &text) { (test_ ? *test_ : outside_).failures.push_back(text); }
+void Script::noteFailure(const std::string &text) {
+    (test_ ? *test_ : outside_).failures.push_back(text);
+    if (trace_) trace_->addFailure(text);
+}
 
 bool Script::isLeftOut(Outcome ended) const {
     return ended == Outcome::passed && testsRun_ == 0 && !isChosen(options_.filter, options_.file, "");
