@@ -13,6 +13,7 @@
 #include "Runtime/Process/Interposed.hpp"
 #include "Runtime/Time/Clock.hpp"
 #include "Runtime/Time/Timers.hpp"
+#include "UIKit/Accessibility/AidSettings.h"
 #include "UIKit/Application/ApplicationState.h"
 
 #include <stdexcept>
@@ -78,6 +79,7 @@ void bootDevice(const BootMessage &message) {
     watchFile(message.countedFile);
     onRespringRequest(askForRespring);
     applyAvailability(device().version);
+    setAids(message.aids);
     hideClasses(message.hiddenClasses);
     forEachMethod(message.hiddenMethods, hideMethod, "hide");
     forEachMethod(message.silencedMethods, silenceMethod, "silence");

@@ -21,9 +21,11 @@ struct Request {
     Value (*handle)(const Value &arguments);
 };
 
-std::span<const Request> timeRequests();      // advance, busy
-std::span<const Request> touchRequests();     // touch_down, touch_move, touch_up
-std::span<const Request> lookingRequests();   // find, view, windows, touchable, touched, seen
+std::span<const Request> timeRequests();    // advance, busy
+std::span<const Request> touchRequests();   // touch_down, touch_move, touch_up
+std::span<const Request> lookingRequests(); // find, view, windows, touchable, touched, seen
+// spoken, focus, activate, act, adjust, escape, scroll_page, aids
+std::span<const Request> speakingRequests();
 std::span<const Request> observingRequests(); // counters, reset_counters, draw
 
 // What one kind of process answers besides; each program has its own.

@@ -13,7 +13,8 @@ const std::map<std::string, Request> &requests() {
     static const std::map<std::string, Request> table = [] {
         std::map<std::string, Request> all;
         auto families = ownRequests();
-        for (auto family : {timeRequests(), touchRequests(), lookingRequests(), observingRequests()})
+        for (auto family :
+             {timeRequests(), touchRequests(), lookingRequests(), speakingRequests(), observingRequests()})
             families.push_back(family);
         for (auto family : families)
             for (const auto &request : family) all.emplace(request.name, request);

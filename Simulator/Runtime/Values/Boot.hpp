@@ -2,6 +2,7 @@
 // names: by them a script's table is read, and the boot message written and read.
 #pragma once
 
+#include "Aids.hpp"
 #include "Nanoseconds.hpp"
 #include "Value.hpp"
 
@@ -60,6 +61,7 @@ struct SharedOptions {
     bool passcodeLocked = false;
     std::optional<bool> interfaceTurns; // absent: as the device's and the version's does
     int64_t orientation = 1;            // how the device is held, 1 to 4
+    Aids aids;
 
     bool operator==(const SharedOptions &) const = default;
 };
@@ -125,6 +127,7 @@ void eachField(SharedOptions &options, Field &&field) {
     field("passcode", options.passcode);
     field("passcode_locked", options.passcodeLocked);
     field("interface_turns", options.interfaceTurns);
+    eachField(options.aids, field);
 }
 
 Value toValue(BootMessage message);

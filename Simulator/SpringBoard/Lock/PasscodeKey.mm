@@ -1,5 +1,6 @@
 #include "PasscodeKey.h"
 
+#include "UIKit/Accessibility/DefaultSpeech.h"
 #include "UIKit/Views/ViewState.h"
 
 namespace {
@@ -32,6 +33,12 @@ render::TextRun line(const std::string &text, const render::Rect &key, double mi
     } else {
         [UIView animateWithDuration:kFade animations:^{ [self setBackgroundColor:color]; }];
     }
+}
+
+- (sim::Speech)defaultSpeech {
+    return {.element = YES,
+            .label = [NSString stringWithFormat:@"%d", _digit],
+            .traits = UIAccessibilityTraitKeyboardKey};
 }
 
 - (void)appendDrawingsTo:(render::Node &)node {

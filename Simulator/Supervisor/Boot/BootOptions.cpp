@@ -1,5 +1,6 @@
 #include "BootOptions.hpp"
 
+#include "AidOptions.hpp"
 #include "OptionTables.hpp"
 #include "Runtime/Values/Json.hpp"
 #include "Supervisor/Text/Suggest.hpp"
@@ -174,6 +175,7 @@ BootOptions readBootOptions(const Value &table, std::string_view stockApplicatio
     readSettings(reader, options);
     readApplications(reader, options, stockApplications);
     eachField(options, reader);
+    checkAids(reader, options.aids);
     readFaults(reader, options);
     readColorBadges(reader, options);
     options.passcode = options.passcode || options.passcodeLocked;

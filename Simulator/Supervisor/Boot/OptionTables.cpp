@@ -1,9 +1,13 @@
 #include "OptionTables.hpp"
 
+#include "AidOptions.hpp"
+
 namespace sim {
 
-const OptionTable &bootOptionTable() {
-    static const OptionTable table = {
+namespace {
+
+OptionTable makeBootOptionTable() {
+    return {
         "boot",
         "All of them may be left out.",
         {{"device", "\"iPhone 6\" without it; `help devices` lists all"},
@@ -45,6 +49,16 @@ const OptionTable &bootOptionTable() {
          {"root",
           "folder for the device's file system, kept, relative to the current one; a temporary one without "
           "it"}}};
+}
+
+} // namespace
+
+const OptionTable &bootOptionTable() {
+    static const OptionTable table = [] {
+        OptionTable all = makeBootOptionTable();
+        all.options.insert(all.options.end(), aidOptions().begin(), aidOptions().end());
+        return all;
+    }();
     return table;
 }
 

@@ -151,6 +151,14 @@ void SimulatedDevice::respring() {
     boot();
 }
 
+void SimulatedDevice::setAids(const Aids &aids) {
+    options_.aids = aids;
+    Object values;
+    eachField(options_.aids, [&](const char *name, const auto &aid) { values.emplace(name, aid); });
+    if (home_) act("aids", values);
+    if (settingsProcess_ && settingsProcess_->running()) settingsProcess_->act("aids", values);
+}
+
 void SimulatedDevice::attach(SettingsProcess *process) {
     if (settingsProcess_) settingsProcess_->close();
     settingsProcess_ = process;

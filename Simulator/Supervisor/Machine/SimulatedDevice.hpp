@@ -49,6 +49,9 @@ public:
     // Ends the home screen and starts it anew; the rest of the device goes on.
     void respring();
 
+    // What its user sets to be helped; every process hears of it.
+    void setAids(const Aids &aids);
+
     // For the Settings application, of which there is one at most:
     void attach(SettingsProcess *process);
     void detach(SettingsProcess *process);
@@ -72,7 +75,7 @@ private:
     SimulatedProcess &process() override { return *home_; }
 
     DeviceSetup setup_;
-    BootOptions options_; // applications, lock and orientation as they are by now
+    BootOptions options_; // applications, lock, orientation and aids as they are by now
     SandboxFolder root_;
     SettingsFile settings_;
     EventList events_;

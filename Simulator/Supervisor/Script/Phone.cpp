@@ -107,6 +107,7 @@ std::vector<MethodFamily> methodFamilies() {
     return {{"time", "Time", timeMethods(), true, true},
             {"touches", "Touches", touchMethods(), true, true},
             {"looking", "Looking", lookingMethods(), true, true},
+            {"speaking", "Speaking", speakingMethods(), true, true},
             {"observing", "Observing", observingMethods(), true, true},
             {"file", "The settings file", settingsMethods(), true, true},
             {"home-screen", "The home screen", homeScreenMethods(), true, false},

@@ -47,6 +47,7 @@ struct Method {
 std::span<const Method> timeMethods();
 std::span<const Method> touchMethods();
 std::span<const Method> lookingMethods();
+std::span<const Method> speakingMethods();
 std::span<const Method> homeScreenMethods();
 std::span<const Method> lockMethods();
 std::span<const Method> settingsMethods();

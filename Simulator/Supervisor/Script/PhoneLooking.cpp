@@ -3,20 +3,13 @@
 #include "Supervisor/Machine/ViewDump.hpp"
 #include "Supervisor/Text/Suggest.hpp"
 #include "ViewTable.hpp"
+#include "Windows.hpp"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace sim {
 
 namespace {
-
-const std::vector<std::string> kWindows = {"overlay", "statusbar", "home", "lock", "alert", "app"};
-
-void checkWindow(const std::string &window) {
-    if (!std::ranges::count(kWindows, window))
-        throw std::runtime_error("there is no window '" + window + "'" + suggestion(window, kWindows));
-}
 
 Value criterion(lua_State *lua, const std::string &name, const Phone &phone) {
     if (name == "inside" || name == "parent") return viewNumber(lua, -1, phone);
@@ -75,13 +68,7 @@ int again(lua_State *lua, Phone &phone, Script &) {
 }
 
 int dump(lua_State *lua, Phone &phone, Script &) {
-    Object arguments;
-    if (!lua_isnoneornil(lua, 2)) {
-        std::string window = text(lua, 2, "the window");
-        checkWindow(window);
-        arguments.emplace("window", window);
-    }
-    lua_pushstring(lua, viewDump(phone.device.ask("windows", std::move(arguments))).c_str());
+    lua_pushstring(lua, viewDump(phone.device.ask("windows", windowArgument(lua, 2))).c_str());
     return 1;
 }
 

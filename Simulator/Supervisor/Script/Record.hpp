@@ -25,6 +25,7 @@ enum class Record {
     scroll,
     animation,
     indicator,
+    element,
     event,
     counters,
     page,

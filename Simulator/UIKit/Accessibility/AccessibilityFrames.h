@@ -9,6 +9,7 @@ namespace sim {
 // Of the view's own coordinates, where the view is seen at this moment.
 CGRect accessibilityRect(CGRect rect, UIView *view);
 // From there to the screen held in portrait, in which windows and touches lie.
+CGRect portraitRect(CGRect accessibilityRect);
 CGPoint touchPoint(CGPoint accessibilityPoint);
 // The whole screen.
 CGRect accessibilityScreen();

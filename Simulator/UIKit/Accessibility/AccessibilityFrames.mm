@@ -24,6 +24,10 @@ CGRect accessibilityRect(CGRect rect, UIView *view) {
     return CGRectApplyAffineTransform(rect, CGAffineTransformConcat(toScreen, fromPortrait()));
 }
 
+CGRect portraitRect(CGRect accessibilityRect) {
+    return CGRectApplyAffineTransform(accessibilityRect, CGAffineTransformInvert(fromPortrait()));
+}
+
 CGPoint touchPoint(CGPoint accessibilityPoint) {
     return CGPointApplyAffineTransform(accessibilityPoint, CGAffineTransformInvert(fromPortrait()));
 }

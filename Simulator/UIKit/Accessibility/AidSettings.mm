@@ -53,6 +53,7 @@ const Aids &aids() { return current; }
 
 void setAids(const Aids &next) {
     Aids before = std::exchange(current, next);
+    if (![UIApplication sharedApplication]) return;
     const std::pair<bool Aids::*, NSString *> switches[] = {
         {&Aids::voiceOver, UIAccessibilityVoiceOverStatusChanged},
         {&Aids::reduceMotion, UIAccessibilityReduceMotionStatusDidChangeNotification},

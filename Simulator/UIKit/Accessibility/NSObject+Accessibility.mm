@@ -1,4 +1,5 @@
-// Every object answers the protocol: what it was given, else that it is nothing and does nothing.
+// Every object answers the protocol: with what it was given, else with what its class says of itself.
+#include "DefaultSpeech.h"
 #include "GivenProperties.h"
 
 #include "Runtime/Objc/Ownership.h"
@@ -7,17 +8,25 @@
 using sim::giveTo;
 using sim::givenTo;
 
+@implementation NSObject (DefaultSpeech)
+- (sim::Speech)defaultSpeech {
+    return {};
+}
+@end
+
 @implementation NSObject (UIAccessibility)
 
 - (BOOL)isAccessibilityElement {
-    return givenTo(self).element.value_or(NO);
+    auto given = givenTo(self).element;
+    return given ? *given : [self defaultSpeech].element;
 }
 - (void)setIsAccessibilityElement:(BOOL)element {
     giveTo(self).element = element;
 }
 
 - (NSString *)accessibilityLabel {
-    return givenTo(self).label;
+    NSString *given = givenTo(self).label;
+    return given ? given : [self defaultSpeech].label;
 }
 - (void)setAccessibilityLabel:(NSString *)label {
     sim::copyInto(giveTo(self).label, label);
@@ -31,14 +40,16 @@ using sim::givenTo;
 }
 
 - (NSString *)accessibilityValue {
-    return givenTo(self).value;
+    NSString *given = givenTo(self).value;
+    return given ? given : [self defaultSpeech].value;
 }
 - (void)setAccessibilityValue:(NSString *)value {
     sim::copyInto(giveTo(self).value, value);
 }
 
 - (UIAccessibilityTraits)accessibilityTraits {
-    return givenTo(self).traits.value_or(UIAccessibilityTraitNone);
+    auto given = givenTo(self).traits;
+    return given ? *given : [self defaultSpeech].traits;
 }
 - (void)setAccessibilityTraits:(UIAccessibilityTraits)traits {
     giveTo(self).traits = traits;
@@ -74,7 +85,8 @@ using sim::givenTo;
 }
 
 - (BOOL)accessibilityViewIsModal {
-    return givenTo(self).modal.value_or(NO);
+    auto given = givenTo(self).modal;
+    return given ? *given : [self defaultSpeech].modal;
 }
 - (void)setAccessibilityViewIsModal:(BOOL)modal {
     giveTo(self).modal = modal;

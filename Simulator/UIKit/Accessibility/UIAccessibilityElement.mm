@@ -1,4 +1,5 @@
-#include "GivenProperties.h"
+#include "DefaultSpeech.h"
+#include "Forgetting.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
 #include "Runtime/Objc/Versions.hpp"
@@ -30,7 +31,7 @@ const bool kRegistered = (sim::registerClassVersions(kClasses), true);
 }
 
 - (void)dealloc {
-    sim::forgetGiven(self);
+    sim::forgetAccessibility(self);
     [super dealloc];
 }
 
@@ -41,8 +42,8 @@ const bool kRegistered = (sim::registerClassVersions(kClasses), true);
     _accessibilityElementState = container;
 }
 
-- (BOOL)isAccessibilityElement {
-    return sim::givenTo(self).element.value_or(YES);
+- (sim::Speech)defaultSpeech {
+    return {.element = YES};
 }
 
 @end

@@ -8,6 +8,7 @@
 #include "UIKit/CoreGraphics/CGGeometry+Further.h"
 #include "UIKit/Views/ViewState.h"
 
+#include <UIKit/UIAccessibility.h>
 #include <UIKit/UIAlertView.h>
 
 #include <algorithm>
@@ -82,7 +83,10 @@ void showPanel(UIAlertView *alert) {
             [panel setAlpha:1];
             [panel setTransform:CGAffineTransformIdentity];
         }
-        completion:^(BOOL) { tell(alert, @selector(didPresentAlertView:)); }];
+        completion:^(BOOL) {
+            tell(alert, @selector(didPresentAlertView:));
+            UIAccessibilityPostNotification(UIAccessibilityScreenChangedNotification, nil);
+        }];
 }
 
 // `last`: nothing waits behind it, so the dimming goes too.

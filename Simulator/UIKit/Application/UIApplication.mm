@@ -3,6 +3,7 @@
 #include "Runtime/Process/Device.hpp"
 #include "Runtime/Process/Events.hpp"
 #include "Runtime/Time/Clock.hpp"
+#include "UIKit/Accessibility/VoiceOver.h"
 #include "UIKit/Views/ViewState.h"
 
 NSString *const UITrackingRunLoopMode = @"UITrackingRunLoopMode";
@@ -25,6 +26,7 @@ void installRunLoop() {
     Clock::shared().onCommit([] {
         layoutPendingViews();
         commitAnimations();
+        speakPosted();
     });
 }
 

@@ -6,6 +6,7 @@
 #include "UIKit/Views/ViewState.h"
 #include "UIViewController+Further.h"
 
+#include <UIKit/UIAccessibility.h>
 #include <UIKit/UIWindow.h>
 
 #include <objc/blocks_runtime.h>
@@ -97,6 +98,7 @@ void refuse(UIViewController *presenting, UIViewController *presented) {
         sim::endAppearance(base, animated);
         sim::endAppearance(controller, animated);
         callOnce(completion);
+        UIAccessibilityPostNotification(UIAccessibilityScreenChangedNotification, nil);
     });
 }
 
@@ -123,6 +125,7 @@ void refuse(UIViewController *presenting, UIViewController *presented) {
         sim::endAppearance(controller, animated);
         sim::endAppearance(base, animated);
         callOnce(completion);
+        UIAccessibilityPostNotification(UIAccessibilityScreenChangedNotification, nil);
         [controller autorelease];
     });
 }

@@ -14,6 +14,7 @@ bool CGRectEqualToRect(CGRect a, CGRect b);
 bool CGRectIsEmpty(CGRect rect);
 bool CGRectIntersectsRect(CGRect a, CGRect b);
 CGRect CGRectIntersection(CGRect a, CGRect b);
+CGRect CGRectUnion(CGRect a, CGRect b);
 CGRect CGRectOffset(CGRect rect, CGFloat dx, CGFloat dy);
 CGAffineTransform CGAffineTransformMake(CGFloat a, CGFloat b, CGFloat c, CGFloat d, CGFloat tx, CGFloat ty);
 bool CGAffineTransformIsIdentity(CGAffineTransform transform);

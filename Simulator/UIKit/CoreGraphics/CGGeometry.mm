@@ -37,6 +37,13 @@ bool CGRectIntersectsRect(CGRect a, CGRect b) {
            CGRectGetMinY(a) < CGRectGetMaxY(b) && CGRectGetMinY(b) < CGRectGetMaxY(a);
 }
 
+CGRect CGRectUnion(CGRect a, CGRect b) {
+    CGFloat left = std::min(CGRectGetMinX(a), CGRectGetMinX(b)),
+            top = std::min(CGRectGetMinY(a), CGRectGetMinY(b));
+    CGFloat right = std::max(CGRectGetMaxX(a), CGRectGetMaxX(b));
+    return CGRectMake(left, top, right - left, std::max(CGRectGetMaxY(a), CGRectGetMaxY(b)) - top);
+}
+
 CGRect CGRectIntersection(CGRect a, CGRect b) {
     if (!CGRectIntersectsRect(a, b)) return CGRectZero;
     CGFloat x = std::max(CGRectGetMinX(a), CGRectGetMinX(b));

@@ -1,7 +1,7 @@
 #include "NavigationState.h"
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Objc/Ownership.h"
-#include "UIKit/Accessibility/GivenProperties.h"
+#include "UIKit/Accessibility/Forgetting.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ void setBar(UIBarButtonItem *item, UINavigationBar *bar) {
     [state(self).title release];
     [state(self).image release];
     delete &state(self);
-    sim::forgetGiven(self);
+    sim::forgetAccessibility(self);
     [super dealloc];
 }
 

@@ -7,6 +7,7 @@
 #include "UIKit/Views/ViewState.h"
 #include "UINavigationController+Further.h"
 
+#include <UIKit/UIAccessibility.h>
 #include <UIKit/UIApplication.h>
 
 #include <algorithm>
@@ -77,6 +78,7 @@ void endTransition(UINavigationController *controller) {
     sim::endAppearance([controller topViewController], true);
     if (!stays) [left removeFromParentViewController];
     [left release];
+    UIAccessibilityPostNotification(UIAccessibilityScreenChangedNotification, nil);
 }
 
 void slide(UINavigationController *controller, UIViewController *from, UIViewController *to, bool forward) {

@@ -15,6 +15,7 @@
 }
 - (instancetype)initWithText:(NSString *)text footer:(BOOL)footer;
 - (NSString *)text;
+- (BOOL)isFooter;
 @end
 
 namespace sim {

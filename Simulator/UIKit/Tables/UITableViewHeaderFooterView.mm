@@ -76,6 +76,10 @@ CGFloat footerTextHeight(NSString *text, CGFloat width) {
     return [state(self).label text];
 }
 
+- (BOOL)isFooter {
+    return state(self).footer;
+}
+
 - (void)layoutSubviews {
     [super layoutSubviews];
     auto &mine = state(self);

@@ -1,7 +1,7 @@
 #include "FirstResponder.h"
 #include "ViewState.h"
 
-#include "UIKit/Accessibility/GivenProperties.h"
+#include "UIKit/Accessibility/Forgetting.h"
 #include "UIResponder+Further.h"
 
 #include <UIKit/UIResponder.h>
@@ -19,7 +19,7 @@ UIResponder *firstResponder() { return first; }
 
 - (void)dealloc {
     if (self == first) first = nil;
-    sim::forgetGiven(self);
+    sim::forgetAccessibility(self);
     [super dealloc];
 }
 
