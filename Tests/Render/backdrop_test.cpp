@@ -129,7 +129,8 @@ TEST(Reducing, AveragesWholeSquaresAndWhatIsLeftAtTheEdge) {
 TEST(MaterialSource, WorksOnlyForWhatIsNew) {
     TileGrid grid(960, 960);
     MaterialSource source(grid, 2, blurred(20));
-    auto paint = [](cairo_surface_t *, int) {};
+    Bitmap below(TileGrid::kSide, TileGrid::kSide);
+    auto paint = [&](int) -> const Bitmap & { return below; };
     auto work = [&](const PixelRect &area) {
         MaterialSource::Work before = source.work();
         grid.forEach(area, [&](int tile) { source.tile(tile, area, paint); });

@@ -235,6 +235,55 @@ TEST(ManyChanges, OneAfterAnotherLeaveNoTrace) {
     }
 }
 
+// A node of the scene, at any depth, that is no root.
+Node &anyNode(Scene &scene, std::mt19937 &random) {
+    Node *node = &scene.roots[random() % scene.roots.size()];
+    do node = &node->children[random() % node->children.size()];
+    while (!node->children.empty() && random() % 2);
+    return *node;
+}
+
+// One view moves for some frames, so that painting begins just below it, while others change now and then,
+// above it, below it and round it.
+TEST(ManyChanges, WhileOneViewMovesLeaveNoTrace) {
+    std::mt19937 random(7);
+    Renderer renderer;
+    for (int round = 0; round < 40; round++) {
+        Scene scene = everything(round % 2 ? 2 : 1);
+        for (int i = 0; i < 6; i++) inWindow(scene, random() % 5).clips = random() % 2;
+        if (round % 3 == 0) scene.roots[round % 2].mask = std::make_shared<Node>(icon(scene, 4));
+        Node &mover = anyNode(scene, random);
+        for (int frame = 0; frame < 8; frame++) {
+            mover.transform.tx += 5.25;
+            Node &other = anyNode(scene, random);
+            Node &around = scene.roots[random() % scene.roots.size()];
+            switch (random() % 8) {
+            case 0:
+                other.transform.ty += 7;
+                break;
+            case 1:
+                other.opacity = static_cast<double>(random() % 3) / 2;
+                break;
+            case 2:
+                other.cornerRadius = random() % 30;
+                break;
+            case 3:
+                around.opacity = random() % 2 ? 0.5 : 1;
+                break;
+            case 4:
+                around.clips = !around.clips;
+                around.bounds.width = 200;
+                break;
+            case 5:
+                other.background = Paint(random() % 2 ? white : blue);
+                break;
+            }
+            ASSERT_TRUE(sameBytes(renderer.draw(scene), draw(scene)))
+                << "round " << round << ", frame " << frame;
+        }
+    }
+}
+
 TEST(Repainting, KeepsToWhatChanged) {
     struct {
         const char *name;

@@ -33,6 +33,7 @@ void Compositor::resize(const Scene &scene) {
     canvas_ = Bitmap(width, height, scene.scale);
     grid_ = TileGrid(width, height);
     marked_.assign(grid_.count(), true);
+    underlays_ = Underlays(grid_);
     items_.clear();
     scene_ = {};
 }
@@ -43,13 +44,28 @@ void Compositor::addMaterials() {
             item.material = std::make_shared<MaterialSource>(grid_, scene_.scale, *item.node->backdrop);
 }
 
-void Compositor::mark(const PixelRect &area) {
-    grid_.forEach(area, [this](int tile) { marked_[tile] = true; });
+void Compositor::mark(const PixelRect &area, int index) {
+    grid_.forEach(area, [&](int tile) {
+        marked_[tile] = true;
+        lowest_[tile] = std::min(lowest_[tile], index);
+    });
 }
 
 void Compositor::markChanges(const Items &before, const std::vector<Change> &changes) {
-    forEachChangeBelow(before, items_, changes, static_cast<int>(before.size()),
-                       static_cast<int>(items_.size()), [this](const PixelRect &area) { mark(area); });
+    for (const Change &change : changes) {
+        // What was there before shows again what lies below the item that took its place.
+        int place = change.newFirst < change.newEnd ? change.newFirst : kNone;
+        for (int i = change.oldFirst; i < change.oldEnd; i++) mark(before[i].own, place);
+        for (int i = change.newFirst; i < change.newEnd; i++) mark(items_[i].own, i);
+    }
+}
+
+void Compositor::dropUnderlays(const Items &before, const std::vector<Change> &changes) {
+    for (const Change &change : changes)
+        for (int i = change.oldFirst; i < change.oldEnd; i++) underlays_.drop(before[i].own, i);
+    underlays_.renumber(before, items_);
+    for (const Change &change : changes)
+        for (int i = change.newFirst; i < change.newEnd; i++) underlays_.drop(items_[i].own, i);
 }
 
 void Compositor::updateMaterials(const Items &before, const std::vector<Change> &changes) {
@@ -62,7 +78,8 @@ void Compositor::updateMaterials(const Items &before, const std::vector<Change> 
             item.material->drop(area);
             PixelRect seen = intersect(inflate(area, item.material->reach()), item.own);
             if (seen.empty()) return;
-            mark(seen);
+            mark(seen, i);
+            underlays_.drop(seen, i);
             spreads.push_back({i, seen});
         };
         size_t earlier = spreads.size();
@@ -89,37 +106,14 @@ const Bitmap &Compositor::draw(const Scene &scene) {
     items_ = layOutItems(scene_.roots, scaling(scene_.scale), grid_.screen());
     std::vector<Change> changes = compareFrames(before, items_);
     addMaterials();
+    lowest_.assign(grid_.count(), kNone);
     markChanges(before, changes);
+    dropUnderlays(before, changes);
+    // Of a first picture nothing tells yet what will move.
+    if (before.empty()) lowest_.assign(grid_.count(), kNone);
     updateMaterials(before, changes);
     paintMarked();
     return canvas_;
-}
-
-void Compositor::paintTile(cairo_surface_t *surface, int tile, int limit) {
-    PixelRect area = grid_.rect(tile);
-    Context context(cairo_create(surface));
-    setSource(context.get(), scene_.background);
-    cairo_set_operator(context.get(), CAIRO_OPERATOR_SOURCE);
-    cairo_paint(context.get());
-    auto materialOf = [&](int index) -> const Bitmap & {
-        auto paintBelow = [this, index](cairo_surface_t *below, int which) {
-            paintTile(below, which, index);
-        };
-        return items_[index].material->tile(tile, items_[index].own, paintBelow);
-    };
-    Painter(resources_, items_, scene_.scale, area, materialOf).paint(surface, limit);
-}
-
-void Compositor::paintMarked() {
-    repainted_.clear();
-    for (int tile = 0; tile < grid_.count(); tile++) {
-        if (!marked_[tile]) continue;
-        PixelRect area = grid_.rect(tile);
-        Surface surface = surfaceOver(canvas_, area);
-        paintTile(surface.get(), tile, static_cast<int>(items_.size()));
-        marked_[tile] = false;
-        repainted_.push_back(area);
-    }
 }
 
 } // namespace render

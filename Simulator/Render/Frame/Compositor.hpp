@@ -5,6 +5,9 @@
 #include "Painter.hpp"
 #include "Render/DisplayList.hpp"
 
+#include "Underlays.hpp"
+#include <limits>
+
 namespace render {
 
 class Compositor {
@@ -15,6 +18,8 @@ public:
     MaterialSource::Work materialWork() const;
 
 private:
+    static constexpr int kNone = std::numeric_limits<int>::max();
+
     // An item whose picture changes because of what changed below its backdrop.
     struct Spread {
         int index;
@@ -23,10 +28,15 @@ private:
 
     void resize(const Scene &scene);
     void addMaterials();
-    void mark(const PixelRect &area);
+    // The item `index` looks different in `area`.
+    void mark(const PixelRect &area, int index);
     void markChanges(const Items &before, const std::vector<Change> &changes);
     void updateMaterials(const Items &before, const std::vector<Change> &changes);
+    void dropUnderlays(const Items &before, const std::vector<Change> &changes);
+    // Paints the items before `limit` over all that the surface, of the tile's size, shows.
     void paintTile(cairo_surface_t *surface, int tile, int limit);
+    // Valid until the next call.
+    const Bitmap &pictureBelow(int tile, int limit);
     void paintMarked();
 
     Scene scene_;
@@ -34,6 +44,9 @@ private:
     Bitmap canvas_;
     TileGrid grid_;
     std::vector<bool> marked_; // tiles to paint
+    std::vector<int> lowest_;  // by tile: the first item that changed in this frame; or kNone
+    Underlays underlays_;
+    Bitmap scratch_; // a picture below a backdrop that cannot be kept
     std::vector<PixelRect> repainted_;
     PaintResources resources_;
 };

@@ -61,16 +61,20 @@ public:
     Layout(Items &items, const PixelRect &screen) : items_(items), screen_(screen) {}
 
     void add(const Node &node, const Affine &parentToDevice, const PixelRect &clip) {
-        place(node, concat(node.transform, parentToDevice), clip, node.opacity > 0, true);
+        place(node, -1, concat(node.transform, parentToDevice), clip, node.opacity > 0, true);
     }
     // Without its transform, its opacity and its shadow.
-    void addAlone(const Node &node, const Affine &toDevice) { place(node, toDevice, screen_, true, false); }
+    void addAlone(const Node &node, const Affine &toDevice) {
+        place(node, -1, toDevice, screen_, true, false);
+    }
 
 private:
-    void place(const Node &node, const Affine &toDevice, const PixelRect &clip, bool shown, bool withShadow) {
-        size_t index = items_.size();
+    void place(const Node &node, int parent, const Affine &toDevice, const PixelRect &clip, bool shown,
+               bool withShadow) {
+        auto index = static_cast<int>(items_.size());
         Item item;
         item.node = &node;
+        item.parent = parent;
         item.toDevice = toDevice;
         item.clip = intersect(clip, screen_);
         shown = shown && isDrawable(toDevice);
@@ -87,7 +91,7 @@ private:
         // Hidden ones are laid out too, so that they are recognised when they come back.
         for (const Node &child : node.children) {
             size_t at = items_.size();
-            place(child, concat(child.transform, toDevice), inside, shown && child.opacity > 0, true);
+            place(child, index, concat(child.transform, toDevice), inside, shown && child.opacity > 0, true);
             items_[index].whole = unite(items_[index].whole, items_[at].whole);
         }
         items_[index].end = static_cast<int>(items_.size());

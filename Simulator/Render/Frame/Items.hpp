@@ -12,6 +12,7 @@ namespace render {
 struct Item {
     const Node *node = nullptr;
     int end = 0;     // the index after the last one of its subtree
+    int parent = -1; // of a root: -1
     Affine toDevice; // from the node's coordinates to the screen's pixels
     PixelRect clip;  // what its ancestors' bounds leave of the screen
     PixelRect own;   // what it may paint itself

@@ -15,11 +15,11 @@ void MaterialSource::drop(const PixelRect &area) {
     if (!intersect(seen, ready_).empty()) ready_ = {};
 }
 
-const Bitmap &MaterialSource::tile(int tile, const PixelRect &area, const PaintBelow &paintBelow) {
+const Bitmap &MaterialSource::tile(int tile, const PixelRect &area, const PictureBelow &pictureBelow) {
     Bitmap &known = enlarged_[tile];
     if (!known.pixels.empty()) return known;
     PixelRect rect = grid_.rect(tile);
-    if (!contains(ready_, rect)) blurArea(grid_.widened(unite(area, rect)), paintBelow);
+    if (!contains(ready_, rect)) blurArea(grid_.widened(unite(area, rect)), pictureBelow);
     known = enlarge(rect);
     return known;
 }
@@ -31,28 +31,24 @@ PixelRect MaterialSource::cellsOf(const PixelRect &area) const {
     return {x, y, right - x, bottom - y};
 }
 
-void MaterialSource::gather(const PixelRect &cells, const PaintBelow &paintBelow) {
+void MaterialSource::gather(const PixelRect &cells, const PictureBelow &pictureBelow) {
     PixelRect pixels = {cells.x * factor_, cells.y * factor_, cells.width * factor_, cells.height * factor_};
     grid_.forEach(pixels, [&](int tile) {
         if (gathered_[tile]) return;
         PixelRect rect = grid_.rect(tile);
-        Bitmap picture(rect.width, rect.height);
-        Surface surface = surfaceOver(picture);
-        paintBelow(surface.get(), tile);
-        cairo_surface_flush(surface.get());
-        reduce(picture, factor_, below_, rect.x / factor_, rect.y / factor_);
+        reduce(pictureBelow(tile), factor_, below_, rect.x / factor_, rect.y / factor_);
         gathered_[tile] = true;
         work_.painted++;
     });
 }
 
-void MaterialSource::blurArea(const PixelRect &area, const PaintBelow &paintBelow) {
+void MaterialSource::blurArea(const PixelRect &area, const PictureBelow &pictureBelow) {
     PixelRect whole = cellsOf(grid_.screen());
     if (below_.pixels.empty()) below_ = Bitmap(whole.width, whole.height);
     // One cell more on each side for enlarging.
     PixelRect wanted = intersect(whole, inflate(cellsOf(area), 1));
     PixelRect needed = intersect(whole, inflate(wanted, steps_.reach()));
-    gather(needed, paintBelow);
+    gather(needed, pictureBelow);
 
     std::vector<Lanes> cells;
     cells.reserve(static_cast<size_t>(needed.width) * needed.height);

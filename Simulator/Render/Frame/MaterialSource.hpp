@@ -23,13 +23,13 @@ public:
     // The picture below has changed in `area`.
     void drop(const PixelRect &area);
 
-    // Paints the picture below onto a surface of the tile's size.
-    using PaintBelow = std::function<void(cairo_surface_t *surface, int tile)>;
+    // The picture below, of the tile's size; used at once.
+    using PictureBelow = std::function<const Bitmap &(int tile)>;
     // The material of one tile, of the tile's size. `area`, in which the tile lies, is what the backdrop
     // covers at present, so that it is blurred in one go. Valid until the next call of this object.
-    const Bitmap &tile(int tile, const PixelRect &area, const PaintBelow &paintBelow);
+    const Bitmap &tile(int tile, const PixelRect &area, const PictureBelow &pictureBelow);
 
-    // How often the picture below was painted for a tile, and how often an area was blurred; for
+    // How often the picture below was taken for a tile, and how often an area was blurred; for
     // measurements.
     struct Work {
         int painted = 0, blurred = 0;
@@ -38,8 +38,8 @@ public:
 
 private:
     PixelRect cellsOf(const PixelRect &area) const;
-    void gather(const PixelRect &cells, const PaintBelow &paintBelow);
-    void blurArea(const PixelRect &area, const PaintBelow &paintBelow);
+    void gather(const PixelRect &cells, const PictureBelow &pictureBelow);
+    void blurArea(const PixelRect &area, const PictureBelow &pictureBelow);
     Bitmap enlarge(const PixelRect &tile) const;
 
     TileGrid grid_;

@@ -36,7 +36,7 @@ const ShadowMask &Painter::outlineShadow(Item &item) {
         PixelRect all = {0, 0, cairo_image_surface_get_width(surface),
                          cairo_image_surface_get_height(surface)};
         Items items = layOutItems({&alone, 1}, toMask, all);
-        Painter(resources_, items, scale_, all, nullptr).paint(surface, static_cast<int>(items.size()));
+        Painter(resources_, items, scale_, all, nullptr).paint(surface, 0, static_cast<int>(items.size()));
     };
     Affine linear = linearPart(item.toDevice);
     item.outlineShadow =

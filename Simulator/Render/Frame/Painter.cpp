@@ -22,13 +22,23 @@ Painter::Painter(PaintResources &resources, Items &items, double scale, const Pi
                  MaterialOf materialOf)
     : resources_(resources), items_(items), scale_(scale), area_(area), materialOf_(std::move(materialOf)) {}
 
-void Painter::paint(cairo_surface_t *surface, int limit) {
+void Painter::paint(cairo_surface_t *surface, int from, int limit) {
     Context context(cairo_create(surface));
     context_ = context.get();
+    from_ = from;
     limit_ = limit;
     for (int i = 0; i < std::min<int>(limit, static_cast<int>(items_.size())); i = items_[i].end)
         paintItem(i);
     context_ = nullptr;
+}
+
+int Painter::beginning(int index) const {
+    int result = index;
+    for (int around = items_[index].parent; around >= 0; around = items_[around].parent) {
+        const Node &node = *items_[around].node;
+        if (node.opacity < 1 || node.mask || (node.clips && !clipsSquarely(items_[around]))) result = around;
+    }
+    return result;
 }
 
 void Painter::useCoordinates(const Item &item) {
@@ -69,9 +79,14 @@ bool Painter::liesInside(const Item &item) const {
     return false;
 }
 
+// True when clipping to the bounds cuts off whole pixels.
+bool Painter::clipsSquarely(const Item &item) const {
+    return snapped(item.node->bounds, item.toDevice) && (radiusOf(*item.node) == 0 || liesInside(item));
+}
+
 void Painter::paintItem(int index) {
     const Item &item = items_[index];
-    if (index >= limit_ || intersect(item.whole, area_).empty()) return;
+    if (index >= limit_ || item.end <= from_ || intersect(item.whole, area_).empty()) return;
     if (item.node->opacity >= 1) return paintMasked(index);
     cairo_push_group(context_);
     paintMasked(index);
@@ -104,8 +119,7 @@ void Painter::paintClipped(int index) {
     const Item &item = items_[index];
     const Node &node = *item.node;
     if (!node.clips) return paintContent(index, true);
-    bool upright = snapped(node.bounds, item.toDevice).has_value();
-    bool square = upright && (radiusOf(node) == 0 || liesInside(item));
+    bool square = clipsSquarely(item);
     if (square || isOnePiece(node)) {
         cairo_save(context_);
         addBounds(item, !square);
@@ -125,7 +139,7 @@ void Painter::paintClipped(int index) {
 void Painter::paintContent(int index, bool rounded) {
     Item &item = items_[index];
     const Node &node = *item.node;
-    if (!intersect(item.own, area_).empty()) {
+    if (index >= from_ && !intersect(item.own, area_).empty()) {
         if (isVisible(node.shadow)) paintShadowOf(item);
         if (node.backdrop) paintBackdrop(index, rounded);
         useCoordinates(item);

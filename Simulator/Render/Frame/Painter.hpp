@@ -30,8 +30,13 @@ public:
             MaterialOf materialOf);
 
     // Paints the items before `limit`, and of those around it what lies below: all that the item at `limit`
-    // has under it. Paints onto what the surface shows already.
-    void paint(cairo_surface_t *surface, int limit);
+    // has under it. Paints onto what the surface shows already, which is what lies below the item at `from`;
+    // it has to be possible to begin there.
+    void paint(cairo_surface_t *surface, int from, int limit);
+
+    // The nearest item, `index` itself or one of those around it, at which painting can begin: nothing around
+    // it is put together apart from the surface.
+    int beginning(int index) const;
 
 private:
     void paintItem(int index);
@@ -50,6 +55,7 @@ private:
     void usePixels();
     void addBounds(const Item &item, bool rounded);
     bool liesInside(const Item &item) const;
+    bool clipsSquarely(const Item &item) const;
 
     PaintResources &resources_;
     Items &items_;
@@ -57,7 +63,7 @@ private:
     PixelRect area_;
     MaterialOf materialOf_;
     cairo_t *context_ = nullptr;
-    int limit_ = 0;
+    int from_ = 0, limit_ = 0;
 };
 
 } // namespace render
