@@ -17,7 +17,7 @@ export async function serve(options, port = "0") {
   const server = spawn(program, ["live", "--port", port, ...options], { stdio: ["ignore", "pipe", "inherit"] });
   for await (const line of createInterface(server.stdout)) {
     const address = line.match(/http:\S+/)?.[0];
-    if (address) return { address, end: () => ended(server) };
+    if (address) return { address, end: () => ended(server), signal: name => server.kill(name) };
   }
   throw new Error("the server did not start");
 }
@@ -101,6 +101,11 @@ export async function finger(page) {
     await resume(page);
   }
   return {
+    point: (x, y) => page.mouse.move(...at(x, y)),
+    async click() {
+      await page.mouse.down();
+      await page.mouse.up();
+    },
     tap: (x, y) => touch([x, y]),
     swipe: (x, y, dx, dy) => touch(...Array.from({ length: 13 }, (_, i) => [x + dx * i / 12, y + dy * i / 12])),
     // To and fro between the ends of the way until `end` of performance.now(), a place every 8 ms, so that there is one for

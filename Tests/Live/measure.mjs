@@ -1,10 +1,12 @@
 // Frames a second and processor time of the open panel with the blur behind it, at rest and while the strip is dragged:
 // Tests/Live/run --measure [SECONDS]. Prints a table; proves nothing.
 import { finger, launch, open, serve } from "./harness.mjs";
+import { slowLine } from "./slow_line.mjs";
 import { load, processorTime } from "./usage.mjs";
 
 const seconds = Number(process.argv[2] ?? 8);
 const devices = ["iPhone 6", "iPad Air 2"];
+const slow = { bits: 15e6, delay: 50 }; // 15 Mbit/s, and 100 ms there and back
 const apps = ["Mail", "Messages", "Phone", "Calendar", "Weather", "Reminders"].map((name, index) =>
   ({ id: `com.example.${name}`, name, badge: index + 1 }));
 
@@ -35,17 +37,20 @@ async function measure(page, name, during) {
   console.log(`| ${row.join(" | ")} |`);
 }
 
-async function measureDevice(browser, device) {
+async function measureDevice(browser, device, line, options = []) {
   const server = await serve(["--device", device, "--ios", "8.1", "--set", "enable=true", "--set", "glow=true", "--boot",
-    JSON.stringify({ apps })]);
-  const page = await open(browser, server.address, []);
+    JSON.stringify({ apps }), ...options]);
+  const way = line ? await slowLine(server.address, line) : server;
+  const name = [device, ...(line ? ["slow line"] : []), ...options].join(", ");
+  const page = await open(browser, way.address, []);
   await page.evaluate(countFrames);
   await page.getByRole("button", { name: "Activator", exact: true }).click();
   await page.waitForTimeout(2000);
-  await measure(page, `${device}, at rest (the pulse)`, () => page.waitForTimeout(seconds * 1000));
+  await measure(page, `${name}, at rest (the pulse)`, () => page.waitForTimeout(seconds * 1000));
   const hand = await finger(page);
-  await measure(page, `${device}, strip dragged to and fro`, end => hand.shake(250, 90, -150, 0, end));
+  await measure(page, `${name}, strip dragged to and fro`, end => hand.shake(250, 90, -150, 0, end));
   await page.close();
+  if (line) way.end();
   await server.end();
 }
 
@@ -53,4 +58,6 @@ console.log("| | Frames a second | Pixels to the page | Home screen | Supervisor
 console.log("|---|---|---|---|---|---|---|");
 const browser = await launch();
 for (const device of devices) await measureDevice(browser, device);
+for (const device of devices)
+  for (const options of [[], ["--no-compress"]]) await measureDevice(browser, device, slow, options);
 await browser.close();

@@ -1,6 +1,7 @@
 // The live page in a real browser: a person sees badges come, opens the panel with a tap, clears a badge with a swipe,
 // changes a setting, records and replays all that; and the screen shows, pixel by pixel, what a script's picture shows.
 import assert from "node:assert/strict";
+import { createRequire } from "node:module";
 import { after, before, test } from "node:test";
 import { cleanUp, difference, finger, launch, open, pause, picture, run, serve } from "./harness.mjs";
 
@@ -121,6 +122,81 @@ test("a tablet on its side, its Settings and back", () => withDevice(["--device"
     await page.locator("#script-state", { hasText: "same events and picture" }).waitFor();
   }));
 
+test("at first sight: badges, a word what to do, and what a finger meets there", () => withDevice(["--compress"],
+  async address => {
+    const page = await open(browser, address, problems);
+    await page.locator("#greeting", { hasText: "Three applications carry badges" }).waitFor();
+    await page.locator("#status-text", { hasText: "compressed" }).waitFor();
+    await page.click("#tab-script");
+    const [indicator, mail] = places(await scriptText(page));
+    const hand = await finger(page);
+    await page.click("#tab-views");
+    await hand.tap(...indicator);
+    await panelView(page).waitFor();
+    assert.equal(await page.locator("#views-tree .said", { hasText: "12" }).count(), 1, "a text is told from a frame");
+
+    await page.click("#pick");
+    await hand.point(...mail);
+    await page.locator("#pick-query", { hasText: `name = "${MAIL}" }` }).waitFor();
+    await hand.click();
+    const query = await page.textContent("#pick-query");
+    assert.equal(await page.getAttribute("#pick", "aria-pressed"), "false");
+    await pause(page);
+    const script = await wholeScript(page);
+    assert.match(script, /phone:(tap|hold)\(phone:indicator\(\)\.view[^\n]*\nphone:wait\([\d.]+\)\n$/, "a pick is no touch");
+    assert.match(run(`${script}\nprint(${query}.class)\nphone:shot("packed")`), /UIImageView/);
+    assert.equal(await difference(page, picture("packed")), 0, "packed frames lose nothing");
+  }));
+
+test("what has no effect now says so, and what is chosen shows in every scheme", () => withDevice(
+  ["--device", "iPad 2", ...SETTINGS], async address => {
+    const page = await open(browser, address, problems);
+    const button = name => page.getByRole("button", { name, exact: true });
+    await page.locator("[aria-disabled=true]", { hasText: "Matches" }).waitFor();
+    await button("Matches").focus();
+    await page.keyboard.press("Enter");
+    await page.locator("#tip", { hasText: "no fingerprint sensor" }).waitFor();
+    await button("Display off").click();
+    await button("Display on").click();
+    await page.locator("[aria-disabled=false]", { hasText: "Unlock" }).waitFor();
+    await button("Unlock").click();
+    await button("Step a frame").hover();
+    await page.locator("#tip", { hasText: "pause it" }).waitFor();
+
+    await page.click("#tab-settings");
+    await button("Remove glow").click();
+    await page.locator("#settings-state", { hasText: "2 keys" }).waitFor();
+    assert.doesNotMatch(await page.textContent("#settings-text"), /glow/);
+
+    await page.click("#tab-script");
+    await page.focus("#script-lines li");
+    await page.keyboard.press("End");
+    assert.match(await page.evaluate(() => document.activeElement.textContent), /phone:set\("glow", nil\)/);
+    assert.doesNotMatch(await scriptText(page), /finger/, "what has no effect is not done");
+
+    await page.emulateMedia({ forcedColors: "active" });
+    const ground = selector => page.$eval(selector, element => getComputedStyle(element).backgroundColor);
+    assert.notEqual(await ground("[data-show=home]"), await ground("[data-show=settings]"));
+    assert.notEqual(await ground("[name=speed]:checked + span"), await ground("[name=speed]:not(:checked) + span"));
+    assert.notEqual(await ground("#tab-script"), await ground("#tab-events"));
+  }));
+
+test("nothing serious stands in the way of assistive programs", () => withDevice(["--no-compress"], async address => {
+  for (const colorScheme of ["light", "dark"]) {
+    const page = await open(browser, address, problems, { colorScheme, bypassCSP: true });
+    await page.addScriptTag({ path: createRequire(import.meta.url).resolve("axe-core/axe.min.js") });
+    await page.getByRole("button", { name: "Activator", exact: true }).click();
+    for (const tab of ["events", "views", "counters", "settings", "script"]) {
+      await page.click(`#tab-${tab}`);
+      if (tab === "views") await page.locator("#views-tree li").first().click();
+      const { violations } = await page.evaluate(() => window.axe.run());
+      const serious = violations.filter(({ impact }) => ["serious", "critical"].includes(impact));
+      assert.deepEqual(serious.map(({ id, nodes }) => [id, ...nodes.map(node => node.html)]), [], `${tab}, ${colorScheme}`);
+    }
+    await page.close();
+  }
+}));
+
 test("a page without a mouse, and one that loses its server", async () => {
   await withDevice(SETTINGS, async address => {
     const page = await open(browser, address, problems);
@@ -151,8 +227,15 @@ test("the page says so when the server goes, and comes back with it", async () =
   problems = [];
   const first = await serve(SETTINGS);
   const page = await open(browser, first.address, []);
+  first.signal("SIGSTOP");
+  await page.locator("#status[data-state=bad]", { hasText: "does not answer" }).waitFor();
+  first.signal("SIGCONT");
+  await page.waitForSelector("#status[data-state=good]");
+  await page.locator("#veil").waitFor({ state: "hidden" });
   await first.end();
   await page.locator("#veil", { hasText: "Trying again" }).waitFor();
+  await page.evaluate(() => new Promise(resolve => setTimeout(resolve, 1500)));
+  assert.equal(await page.getAttribute("#status", "data-state"), "bad", "the lamp stays so");
   const second = await serve(SETTINGS, new URL(first.address).port);
   await page.waitForSelector("#status[data-state=good]");
   await page.locator("#veil").waitFor({ state: "hidden" });

@@ -4,6 +4,7 @@
 #include "Tools/Live/Journal.hpp"
 #include "Tools/Live/LiveClock.hpp"
 #include "Tools/Live/LuaText.hpp"
+#include "Tools/Live/Packing.hpp"
 
 #include <gtest/gtest.h>
 
@@ -86,6 +87,38 @@ TEST(UnseenParts, APageGetsRedGreenBlue) {
     std::memcpy(words, frame.data(), sizeof words);
     const uint32_t wanted[] = {9, 2, 2, 1, 1, 0, 1, 2, 0xff060504, 0xff0c0b0a};
     EXPECT_TRUE(std::equal(words, words + 10, wanted));
+}
+
+TEST(Packing, FollowsTheLineUnlessItIsSettled) {
+    sim::Packing packing, never(false);
+    EXPECT_TRUE(packing.packs()) << "until the line is known";
+    uint32_t number = 0;
+    double now = 0;
+    // A frame of 500 KB, or a tenth of that, on a line of so many bytes a second; then another one waits for
+    // it.
+    auto use = [&](double speed, int frames) {
+        for (int i = 0; i < frames; ++i) {
+            size_t bytes = packing.packs() ? 50'000 : 500'000;
+            packing.sent(++number, bytes, 500'000, now);
+            never.sent(number, 500'000, 500'000, now);
+            now += static_cast<double>(bytes) / speed;
+            packing.heldUp(now);
+            never.heldUp(now);
+            packing.seen(number, now);
+            never.seen(number, now);
+        }
+    };
+    use(100e6, 3000);
+    EXPECT_FALSE(packing.packs()) << "a quick line";
+    use(1.9e6, 1);
+    EXPECT_TRUE(packing.packs()) << "a slow one";
+    use(1.9e6, 1000);
+    EXPECT_TRUE(packing.packs()) << "as long as it is";
+    use(100e6, 1000);
+    EXPECT_TRUE(packing.packs()) << "half a second tells little";
+    use(100e6, 6000);
+    EXPECT_FALSE(packing.packs()) << "quick again";
+    EXPECT_FALSE(never.packs());
 }
 
 TEST(LiveClock, FramesFollowRealTimeAndNeverRush) {

@@ -14,6 +14,7 @@ class Live:
     """`pendix-sim live`, or another command that serves, on a port of its own, with a clock that moves in steps."""
 
     def __init__(self, program, *arguments, command="live"):
+        arguments = arguments or ("--boot", "{}")  # without any it shows the tour
         self.process = subprocess.Popen([program, command, "--port", "0", "--speed", "0", *arguments], stdout=subprocess.PIPE,
                                         stderr=subprocess.PIPE, text=True)
         line = self.process.stdout.readline()

@@ -3,12 +3,17 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <stdexcept>
+#include <zlib.h>
 
 namespace sim {
 
 namespace {
 
 static_assert(std::endian::native == std::endian::little);
+
+constexpr size_t kWord = sizeof(uint32_t), kHead = 4; // words before the areas
+constexpr uint32_t kPacked = 0x80000000;              // in the number of areas
 
 // Premultiplied blue first to red first; screens are opaque.
 uint32_t swapped(uint32_t pixel) {
@@ -73,7 +78,7 @@ std::vector<PictureArea> UnseenParts::take() {
 
 std::string encodeFrame(const render::Bitmap &screen, const std::vector<PictureArea> &areas,
                         uint32_t number) {
-    constexpr size_t kWord = sizeof(uint32_t), kHead = 4, kAreaHead = 4;
+    constexpr size_t kAreaHead = 4;
     size_t words = kHead;
     for (const auto &area : areas)
         words += kAreaHead + static_cast<size_t>(area.width) * static_cast<size_t>(area.height);
@@ -86,6 +91,29 @@ std::string encodeFrame(const render::Bitmap &screen, const std::vector<PictureA
         for (int word : {area.x, area.y, area.width, area.height}) to = put(to, static_cast<uint32_t>(word));
     for (const auto &area : areas) to = putPixels(to, screen, area);
     return frame;
+}
+
+std::string packFrame(const std::string &frame) {
+    // A sixth less than the quickest one gives; more takes several times as long.
+    constexpr int kLevel = 4, kRaw = -15, kMemory = 9;
+    z_stream stream{};
+    if (deflateInit2(&stream, kLevel, Z_DEFLATED, kRaw, kMemory, Z_DEFAULT_STRATEGY) != Z_OK)
+        throw std::runtime_error("no memory to pack a frame");
+    constexpr size_t head = kHead * kWord;
+    size_t rest = frame.size() - head;
+    std::string packed(head + deflateBound(&stream, rest), '\0');
+    std::memcpy(packed.data(), frame.data(), head);
+    uint32_t count = 0;
+    std::memcpy(&count, frame.data() + head - kWord, kWord);
+    put(packed.data() + head - kWord, count | kPacked);
+    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(frame.data() + head));
+    stream.avail_in = static_cast<uInt>(rest);
+    stream.next_out = reinterpret_cast<Bytef *>(packed.data() + head);
+    stream.avail_out = static_cast<uInt>(packed.size() - head);
+    deflate(&stream, Z_FINISH);
+    packed.resize(head + stream.total_out);
+    deflateEnd(&stream);
+    return packed;
 }
 
 } // namespace sim

@@ -31,4 +31,8 @@ private:
 // bytes each: red, green, blue, alpha.
 std::string encodeFrame(const render::Bitmap &screen, const std::vector<PictureArea> &areas, uint32_t number);
 
+// The same frame in fewer bytes: the areas and their pixels as a raw deflate stream, which the highest bit of
+// the number of areas tells.
+std::string packFrame(const std::string &frame);
+
 } // namespace sim

@@ -29,6 +29,14 @@ double seconds(std::chrono::steady_clock::duration duration) {
 
 std::chrono::steady_clock::time_point now() { return std::chrono::steady_clock::now(); }
 
+// What a person sees who has asked for nothing: the extension at work.
+const std::pair<const char *, int> kTourBadges[] = {
+    {"com.apple.mobilemail", 3}, {"com.apple.MobileSMS", 12}, {"com.apple.mobilephone", 1}};
+
+Value tourOptions() {
+    return Object{{"settings", Object{{"enable", true}, {"glow", true}, {"hide_t", true}, {"tint", "cyan"}}}};
+}
+
 // Nothing that must be done in the handler: the loop looks often enough.
 void wake() {}
 
@@ -47,17 +55,31 @@ const LiveSession::Command *LiveSession::findCommand(const std::string &name) {
         {"clock", &LiveSession::setClock},   {"step", &LiveSession::step},
         {"replay", &LiveSession::replay},    {"script", &LiveSession::sendScript},
         {"seen", &LiveSession::acknowledge}, {"watch", &LiveSession::watch},
-        {"pick", &LiveSession::pick}};
+        {"pick", &LiveSession::pick},        {"alive", &LiveSession::stayInTouch}};
     auto found = std::ranges::find_if(commands, [&](const Command &command) { return name == command.name; });
     return found == std::end(commands) ? nullptr : found;
 }
 
 LiveSession::LiveSession(DeviceSetup setup, LiveOptions options)
     : setup_(std::move(setup)), options_(std::move(options)), device_(setup_),
-      server_(options_.port, readPageFiles(setup_.installation.page)), viewers_(server_, device_),
-      fingers_(device_) {
+      server_(options_.port, readPageFiles(setup_.installation.page)),
+      viewers_(server_, device_, options_.pack), fingers_(device_) {
     clock_.setSpeed(options_.speed);
+    if (options_.tour) options_.boot = tourOptions();
+    bootDevice();
+}
+
+// Badges are part of the tour, whatever device it is seen on.
+void LiveSession::bootDevice() {
     device_.boot(options_.boot);
+    if (!options_.tour) return;
+    for (const auto &[identifier, number] : kTourBadges) device_.perform("badge", {identifier, number});
+}
+
+std::string LiveSession::greeting() const {
+    if (!options_.tour) return "";
+    return "Three applications carry badges. Tap the indicator at the right of the status bar to open the "
+           "panel.";
 }
 
 std::string LiveSession::address() const {
@@ -85,7 +107,7 @@ void LiveSession::take(const WebServer::Message &message) {
     try {
         switch (message.kind) {
         case WebServer::Message::Kind::opened:
-            viewers_.add(message.client, helloMessage(setup_));
+            viewers_.add(message.client, helloMessage(setup_, greeting()));
             viewers_.tell(message.client, clockMessage());
             break;
         case WebServer::Message::Kind::closed:
@@ -157,7 +179,7 @@ void LiveSession::boot(Client, const Value &message) {
     viewers_.tellAll(Object{{"kind", "booting"}});
     fingers_.clear();
     options_.boot = options;
-    device_.boot(options);
+    bootDevice();
 }
 
 // {"speed"}: 0 stops it, 1 is real time
@@ -202,6 +224,11 @@ void LiveSession::acknowledge(Client client, const Value &message) {
 void LiveSession::watch(Client client, const Value &message) {
     viewers_.watch(client, message["views"].boolean(), message["counters"].boolean());
     looked_ = {};
+}
+
+// A page hears nothing of a server that is gone without a word.
+void LiveSession::stayInTouch(Client client, const Value &) {
+    viewers_.tell(client, Object{{"kind", "alive"}});
 }
 
 // {"x", "y"}: of the pointer

@@ -15,6 +15,8 @@ struct LiveOptions {
     Value boot;                   // the table of `boot`
     double speed = 1;             // of the clock at the start: 1 is real time, 0 stands still
     std::filesystem::path script; // where to write at the end what was done; empty: nowhere
+    std::optional<bool> pack;     // whether frames are packed; without it as the line of each page asks for
+    bool tour = false;            // boot: what shows the extension, with badges and a word what to do
 };
 
 class LiveSession {
@@ -49,6 +51,10 @@ private:
     void watch(Client client, const Value &message);
     void pick(Client client, const Value &message);
 
+    void stayInTouch(Client client, const Value &message);
+
+    void bootDevice();
+    std::string greeting() const;
     Value clockMessage();
     void passTime();
     bool waitsForLift();

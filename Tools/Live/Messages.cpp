@@ -41,12 +41,13 @@ Array applications(const BootOptions &options) {
 
 } // namespace
 
-Value helloMessage(const DeviceSetup &setup) {
+Value helloMessage(const DeviceSetup &setup, const std::string &greeting) {
     Array devices;
     for (const auto &profile : profiles())
         devices.push_back(Object{{"name", profile.name},
                                  {"versions", Array(profile.versions.begin(), profile.versions.end())}});
-    return Object{{"kind", "hello"}, {"devices", devices}, {"languages", languages(setup)}};
+    return Object{
+        {"kind", "hello"}, {"devices", devices}, {"languages", languages(setup)}, {"greeting", greeting}};
 }
 
 Value deviceMessage(LiveDevice &device) {
@@ -65,6 +66,7 @@ Value deviceMessage(LiveDevice &device) {
                     {"scale", profile.scale},
                     {"pad", profile.pad()},
                     {"sensor", profile.touchSensor},
+                    {"reachability", profile.reachability && options.version >= "8"},
                     {"turned", device.turned()},
                     {"settings", device.showsSettings()},
                     {"interface", device.screen()->interfaceOrientation()},
@@ -92,6 +94,12 @@ Value settingsMessage(const SettingsFile &settings) {
 Value viewsMessage(SimulatedScreen &screen) {
     return Object{{"kind", "views"},
                   {"windows", screen.ask("windows", {{"window", screen.reportedWindow()}})}};
+}
+
+Value stateMessage(SimulatedDevice &device) {
+    Value message = device.ask("state");
+    message.set("kind", "state");
+    return message;
 }
 
 Value countersMessage(SimulatedScreen &screen) {

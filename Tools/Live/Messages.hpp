@@ -5,8 +5,9 @@
 
 namespace sim {
 
-// What there is to choose from: devices with their versions, and languages.
-Value helloMessage(const DeviceSetup &setup);
+// What there is to choose from: devices with their versions, and languages; `greeting` is a line for a person
+// who has come without a wish.
+Value helloMessage(const DeviceSetup &setup, const std::string &greeting);
 // The device that was booted, its applications, and its boot's count; or why there is none.
 Value deviceMessage(LiveDevice &device);
 // {"events": those from `first` on, "first"}
@@ -15,6 +16,9 @@ Value eventsMessage(const EventList &events, size_t first);
 Value settingsMessage(const SettingsFile &settings);
 // {"windows": the views of the overlay, or of Settings, as {"matches", "views"}}
 Value viewsMessage(SimulatedScreen &screen);
+// What decides whether a call has an effect now: {"badges": numbers by identifier, "display", "locked",
+// "reached", "matching"}
+Value stateMessage(SimulatedDevice &device);
 Value countersMessage(SimulatedScreen &screen);
 // {"from": index of the first line, "lines"}
 Value scriptMessage(const Journal &journal, size_t from);

@@ -9,8 +9,14 @@ namespace sim {
 
 namespace {
 
-constexpr uint32_t kFramesUnderWay = 3; // more would only make what is shown older
-constexpr size_t kOldEvents = 2000;     // of what happened before it came, a page gets no more
+// More would only make what is shown older; on a slow line, whose answers take long, fewer would leave it
+// idle.
+constexpr uint32_t kFramesUnderWay = 3, kPackedUnderWay = 6;
+double seconds() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+constexpr size_t kOldEvents = 2000; // of what happened before it came, a page gets no more
 
 } // namespace
 
@@ -27,6 +33,7 @@ void Viewers::add(WebServer::Client client, const Value &welcome) {
     // Everybody is at one point, from which the new one goes on.
     if (!viewers_.empty()) update(false);
     Viewer &viewer = viewers_[client];
+    viewer.packing = Packing(pack_);
     tell(client, welcome);
     tell(client, deviceMessage(device_));
     tell(client, scriptMessage(device_.journal(), 0));
@@ -37,6 +44,7 @@ void Viewers::add(WebServer::Client client, const Value &welcome) {
     }
     views_.clear();
     counters_.clear();
+    state_.clear();
     viewer.unseen.reset(screen_.width, screen_.height);
     if (viewers_.size() > 1) return;
     // Nobody was told while nobody was there.
@@ -50,7 +58,9 @@ void Viewers::acknowledge(WebServer::Client client, int64_t frame) {
     if (found == viewers_.end()) return;
     Viewer &viewer = found->second;
     bool sensible = frame > viewer.seen && frame <= viewer.sent;
-    if (sensible) viewer.seen = static_cast<uint32_t>(frame);
+    if (!sensible) return;
+    viewer.seen = static_cast<uint32_t>(frame);
+    viewer.packing.seen(viewer.seen, seconds());
 }
 
 void Viewers::watch(WebServer::Client client, bool views, bool counters) {
@@ -131,6 +141,7 @@ void Viewers::tellWatched() {
         views = views || viewer.views;
         counters = counters || viewer.counters;
     }
+    tellNews(state_, stateMessage(*device_.device()), nullptr);
     if (views) tellNews(views_, viewsMessage(*device_.screen()), &Viewer::views);
     if (counters) tellNews(counters_, countersMessage(*device_.screen()), &Viewer::counters);
 }
@@ -150,9 +161,22 @@ void Viewers::showScreen() {
 
 void Viewers::sendFrames() {
     for (auto &[client, viewer] : viewers_) {
-        if (viewer.unseen.empty() || viewer.sent - viewer.seen >= kFramesUnderWay) continue;
-        server_.sendBytes(client, encodeFrame(screen_, viewer.unseen.take(), ++viewer.sent));
+        if (viewer.unseen.empty()) continue;
+        uint32_t most = viewer.packing.packs() ? kPackedUnderWay : kFramesUnderWay;
+        if (viewer.sent - viewer.seen < most) {
+            sendFrame(client, viewer);
+        } else {
+            viewer.packing.heldUp(seconds());
+        }
     }
+}
+
+void Viewers::sendFrame(WebServer::Client client, Viewer &viewer) {
+    std::string frame = encodeFrame(screen_, viewer.unseen.take(), ++viewer.sent);
+    size_t plain = frame.size();
+    if (viewer.packing.packs()) frame = packFrame(frame);
+    viewer.packing.sent(viewer.sent, frame.size(), plain, seconds());
+    server_.sendBytes(client, std::move(frame));
 }
 
 } // namespace sim

@@ -3,6 +3,7 @@
 
 #include "FrameParts.hpp"
 #include "LiveDevice.hpp"
+#include "Packing.hpp"
 #include "Tools/Live/Web/WebServer.hpp"
 
 #include <map>
@@ -11,7 +12,9 @@ namespace sim {
 
 class Viewers {
 public:
-    Viewers(WebServer &server, LiveDevice &device) : server_(server), device_(device) {}
+    // `pack`: whether frames are packed; without it that is decided for each page.
+    Viewers(WebServer &server, LiveDevice &device, std::optional<bool> pack)
+        : server_(server), device_(device), pack_(pack) {}
 
     bool empty() const { return viewers_.empty(); }
     // `welcome` is sent first.
@@ -33,6 +36,7 @@ private:
     struct Viewer {
         UnseenParts unseen;
         uint32_t sent = 0, seen = 0; // numbers of frames
+        Packing packing;
         bool views = false, counters = false;
     };
     void tellDevice();
@@ -44,9 +48,11 @@ private:
     void tellNews(std::string &before, const Value &message, bool Viewer::*wanted);
     void showScreen();
     void sendFrames();
+    void sendFrame(WebServer::Client client, Viewer &viewer);
 
     WebServer &server_;
     LiveDevice &device_;
+    std::optional<bool> pack_;
     std::map<WebServer::Client, Viewer> viewers_;
     render::Bitmap screen_;
     bool ofSettings_ = false; // what screen_ shows
@@ -62,7 +68,7 @@ private:
     Known known() const;
     Known known_;
     size_t events_ = 0;
-    std::string settings_, views_, counters_; // as told last
+    std::string settings_, views_, counters_, state_; // as told last
     std::string settingsState_;
 };
 

@@ -38,7 +38,7 @@ std::span<const Request> bootRequests();              // boot
 std::span<const Request> homeScreenLookingRequests(); // icon, indicator
 std::span<const Request> homeScreenRequests(); // badge, run, home, restyle, rotate, reachability, activator,
                                                // foreground, switcher, call
-std::span<const Request> inspectionRequests(); // watch, inspect
+std::span<const Request> inspectionRequests(); // watch, inspect, state
 std::span<const Request> lockRequests();       // display, lock, unlock, home_twice, banner, finger
 
 // Carries out the request, and what is due at this moment after it.

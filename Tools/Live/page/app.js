@@ -4,9 +4,11 @@ import { Connection } from "./connection.js";
 import { Controls } from "./controls.js";
 import { installCounters } from "./counters.js";
 import { installEvents } from "./events.js";
+import { installPick } from "./pick.js";
 import { draw, fit, setDevice } from "./screen.js";
 import { installScript } from "./script.js";
 import { installSettings } from "./settingsfile.js";
+import { allow, installTips } from "./tips.js";
 import { installTabs } from "./tabs.js";
 import { installTouches } from "./touches.js";
 import { hoverViews, installViews, showViews } from "./views.js";
@@ -52,26 +54,27 @@ function veil(text, { detail = "", boot = false } = {}) {
 }
 
 function installDevice() {
-  let device = null, since = 0, frames = 0, veiled = null;
+  let device = null, frames = 0, packed = false, veiled = null;
+  let reached = false; // the server answers
 
   const showStatus = () => {
-    if (device?.running) setStatus(`${device.name}, iOS ${device.ios} · ${frames} fps`, "good");
+    if (reached && device?.running)
+      setStatus(`${device.name}, iOS ${device.ios} · ${frames} fps${packed ? " · compressed" : ""}`, "good");
     frames = 0;
   };
   setInterval(showStatus, 1000);
 
   connection.on("device", message => {
-    const again = device?.boots === message.boots && device?.generation !== message.generation;
-    const booted = device?.boots !== message.boots;
     device = message;
+    reached = true;
     if (!message.running) {
       setStatus("The device does not run", "bad");
       return veil("The device does not run.", { detail: message.trouble, boot: true });
     }
     setDevice(message);
+    controls.setDevice(message);
     controls.setApplications(message.applications);
     controls.setShown(message.settings ? "settings" : "home");
-    if (again || booted) controls.reset();
     if (!veiled) veil(null);
     showStatus();
   });
@@ -94,16 +97,37 @@ function installDevice() {
     veil("Starting …");
   });
   connection.on("lost", () => {
+    reached = false;
     setStatus("No connection; trying again …", "bad");
     veil("No connection to the simulator. Trying again …");
   });
-  connection.on("frame", buffer => {
-    connection.send({ do: "seen", frame: draw(buffer) });
+  connection.on("silent", silent => {
+    reached = !silent;
+    if (!silent) {
+      showStatus();
+      return veil(device?.running ? null : "The device does not run.", { detail: device?.trouble, boot: !device?.running });
+    }
+    setStatus("The simulator does not answer", "bad");
+    veil("The simulator does not answer. Waiting for it …");
+  });
+  connection.on("frame", async buffer => {
+    const frame = await draw(buffer);
+    connection.send({ do: "seen", frame: frame.number });
+    packed = frame.packed;
     frames++;
   });
+  connection.on("state", state => controls.setState(state));
   connection.on("notice", ({ text }) => notify(text, "bad"));
   byId("veil-boot").addEventListener("click", () => connection.send({ do: "boot" }));
-  return since;
+  connection.on("hello", ({ greeting }) => {
+    byId("greeting").hidden = !greeting;
+    byId("greeting-text").textContent = greeting;
+    fit();
+  });
+  byId("greeting-close").addEventListener("click", () => {
+    byId("greeting").hidden = true;
+    fit();
+  });
 }
 
 function installClock() {
@@ -113,6 +137,7 @@ function installClock() {
   byId("step").addEventListener("click", () => connection.send({ do: "step", frames: 1 }));
   connection.on("clock", ({ speed }) => {
     for (const radio of radios) radio.checked = Number(radio.value) === speed;
+    allow(byId("step"), speed > 0 && "The clock runs: pause it to go by frames.");
   });
   connection.on("time", ({ now }) => {
     byId("time").textContent = `${(now / 1e9).toFixed(3)} s`;
@@ -136,10 +161,12 @@ function installPanels() {
   installScript(connection, notify);
 }
 
+installTips();
 installDevice();
 installClock();
 installBootMenu(connection);
-installTouches(connection, hoverViews);
+const picker = installPick(connection, notify);
+installTouches(connection, hoverViews, picker);
 installPanels();
 new ResizeObserver(fit).observe(document.querySelector(".stage"));
 connection.open();

@@ -1,12 +1,16 @@
 // Builds the controls from the table of actions.
 import { actions } from "./actions.js";
+import { allow } from "./tips.js";
 
 const home = document.getElementById("frame-home");
 const DOUBLE_CLICK = 280; // ms; a single click is sent once no second one can follow
 
 export class Controls {
   #connection;
-  #toggles = []; // the buttons that are on or off
+  #toggles = []; // the buttons that are on or off, and by what of the state
+  #checks = []; // of the buttons that may have no effect: each says whether it has
+  #device = {};
+  #state = null;
   #screens = []; // the buttons that show one of them
   #applications = [];
 
@@ -30,11 +34,23 @@ export class Controls {
       select.replaceChildren(...options.map(option => option.cloneNode(true)));
       if (list.some(({ id }) => id === kept)) select.value = kept;
     }
+    this.#check();
   }
 
-  // What was switched on is off again.
-  reset() {
-    for (const button of this.#toggles) button.setAttribute("aria-pressed", "false");
+  setDevice({ sensor, reachability, turned }) {
+    this.#device = { sensor, reachability, turned };
+    this.#check();
+  }
+
+  // What decides whether a call has an effect now.
+  setState(state) {
+    this.#state = state;
+    for (const { button, by } of this.#toggles) button.setAttribute("aria-pressed", String(state[by]));
+    this.#check();
+  }
+
+  #check() {
+    if (this.#state) for (const check of this.#checks) check({ ...this.#state, ...this.#device });
   }
 
   #group({ group, fields = [], rows }) {
@@ -61,18 +77,25 @@ export class Controls {
     field.setAttribute("aria-label", label);
     if (kind === "application") this.#applications.push(field);
     else Object.assign(field, { type: kind, value, min: least ?? "" });
+    field.addEventListener("change", () => this.#check());
     values.set(`$${name}`, () => kind === "number" ? Math.max(least ?? 0, Math.trunc(Number(field.value))) : field.value);
     return field;
   }
 
-  #button({ call, label, arguments: args = [], toggle, show }, values) {
+  #button({ call, label, arguments: args = [], toggle, show, tip, idle }, values) {
     const button = document.createElement("button");
     button.type = "button";
     button.className = "quiet";
     button.textContent = label;
+    button.dataset.tip = tip;
+    allow(button);
     if (toggle) {
       button.setAttribute("aria-pressed", "false");
-      this.#toggles.push(button);
+      this.#toggles.push({ button, by: toggle });
+    }
+    if (idle) {
+      const fields = () => Object.fromEntries([...values].map(([name, value]) => [name.slice(1), value()]));
+      this.#checks.push(state => allow(button, idle(state, fields())));
     }
     if (show) {
       button.dataset.show = show;

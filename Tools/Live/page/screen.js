@@ -20,18 +20,36 @@ const highlight = document.getElementById("highlight");
 let device = null;
 let zoom = 1;
 
-// A frame: number, width, height, areas; their places; their pixels. Returns its number.
+const PACKED = 0x80000000; // in the number of areas
+let drawing = Promise.resolve(); // frames are drawn in the order in which they came
+
+async function unpack(bytes) {
+  const stream = new Blob([bytes]).stream().pipeThrough(new DecompressionStream("deflate-raw"));
+  return new Response(stream).arrayBuffer();
+}
+
+// A frame: number, width, height, areas; their places; their pixels. Gives its number and whether it came packed.
 export function draw(buffer) {
-  const [number, width, height, count] = new Uint32Array(buffer, 0, 4);
+  const [number, width, height, areas] = new Uint32Array(buffer, 0, 4);
+  const packed = areas >= PACKED, rest = new Uint8Array(buffer, 16);
+  const body = packed ? unpack(rest) : null;
+  drawing = drawing.then(async () => {
+    const [bytes, start] = body ? [await body, 0] : [buffer, 16];
+    paint(width, height, areas % PACKED, bytes, start);
+    return { number, packed };
+  });
+  return drawing;
+}
+
+function paint(width, height, count, body, start) {
   if (canvas.width !== width || canvas.height !== height) Object.assign(canvas, { width, height });
-  const places = new Uint32Array(buffer, 16, count * 4);
-  let offset = 16 + count * 16;
+  const places = new Uint32Array(body, start, count * 4);
+  let offset = start + count * 16;
   for (let i = 0; i < count; i++) {
     const [x, y, w, h] = places.subarray(i * 4, i * 4 + 4);
-    context.putImageData(new ImageData(new Uint8ClampedArray(buffer, offset, w * h * 4), w, h), x, y);
+    context.putImageData(new ImageData(new Uint8ClampedArray(body, offset, w * h * 4), w, h), x, y);
     offset += w * h * 4;
   }
-  return number;
 }
 
 export function setDevice(next) {
@@ -74,7 +92,7 @@ export function fit() {
 function roomFor(outer) {
   const stage = turn.parentElement;
   const wide = matchMedia("(min-width: 1000px)").matches;
-  const below = [...stage.children].filter(child => child !== turn)
+  const below = [...stage.children].filter(child => child !== turn && !child.hidden)
     .reduce((sum, child) => sum + child.offsetHeight + 14, 0);
   const width = stage.clientWidth - 24;
   const height = (wide ? stage.clientHeight : innerHeight * 0.92) - below - 40;

@@ -32,7 +32,14 @@ function row(key, value, write) {
   const item = document.createElement("li");
   const name = document.createElement("code");
   name.textContent = key;
-  item.append(name, editor(key, value, write));
+  const remove = document.createElement("button");
+  remove.type = "button";
+  remove.className = "quiet remove";
+  remove.textContent = "Remove";
+  remove.setAttribute("aria-label", `Remove ${key}`);
+  remove.dataset.tip = "Take the key out of the file";
+  remove.addEventListener("click", () => write(key, null));
+  item.append(name, editor(key, value, write), remove);
   return item;
 }
 
@@ -44,8 +51,13 @@ export function installSettings(connection) {
     state.textContent = problem ? `It cannot be read: ${problem}`
       : !present ? "There is no settings file." : `${count} ${count === 1 ? "key" : "keys"}.`;
     const edited = list.contains(document.activeElement) ? document.activeElement.getAttribute("aria-label") : null;
+    const place = [...list.children].findIndex(item => item.contains(document.activeElement));
     list.replaceChildren(...Object.entries(values).map(([key, value]) => row(key, value, write)));
-    if (edited) list.querySelector(`[aria-label="${CSS.escape(edited)}"]`)?.focus();
+    // The focus stays where it was, or goes on to what took that place.
+    const same = edited && list.querySelector(`[aria-label="${CSS.escape(edited)}"]`);
+    if (same) same.focus();
+    else if (place >= 0) (list.children[Math.min(place, list.children.length - 1)]?.querySelector(".remove")
+      ?? form.elements.key).focus();
     source.textContent = text;
   });
   form.addEventListener("submit", event => {

@@ -6,7 +6,8 @@ const crosshair = document.getElementById("crosshair");
 const KEYBOARD = -1; // the pointer of the keyboard's finger
 const STEP = 8, LARGE_STEP = 32;
 
-export function installTouches(connection, onHover) {
+// `picker` takes the pointer while it is on.
+export function installTouches(connection, onHover, picker) {
   const down = new Set();
   const send = (what, pointer, point) => connection.send({ do: what, pointer, ...point });
 
@@ -14,6 +15,7 @@ export function installTouches(connection, onHover) {
     if (event.button !== 0) return;
     event.preventDefault();
     canvas.focus({ preventScroll: true });
+    if (picker.on) return picker.keep();
     canvas.setPointerCapture(event.pointerId);
     crosshair.hidden = true;
     down.add(event.pointerId);
@@ -22,6 +24,7 @@ export function installTouches(connection, onHover) {
   canvas.addEventListener("pointermove", event => {
     const point = pointAt(event.clientX, event.clientY);
     if (down.has(event.pointerId)) send("move", event.pointerId, point);
+    else if (picker.on) picker.at(point);
     else onHover(point);
   });
   for (const kind of ["pointerup", "pointercancel"])
@@ -32,11 +35,11 @@ export function installTouches(connection, onHover) {
     });
   canvas.addEventListener("pointerleave", () => onHover(null));
   canvas.addEventListener("contextmenu", event => event.preventDefault());
-  installKeyboard(connection, send);
+  installKeyboard(connection, send, picker);
   connection.on("lost", () => down.clear());
 }
 
-function installKeyboard(connection, send) {
+function installKeyboard(connection, send, picker) {
   let finger = null, pressed = false;
 
   const lift = () => {
@@ -51,7 +54,7 @@ function installKeyboard(connection, send) {
   const moves = {
     ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1],
   };
-  const keys = { h: () => connection.call("home"), Escape: () => canvas.blur() };
+  const keys = { h: () => connection.call("home"), Escape: () => picker.on ? picker.stop() : canvas.blur() };
 
   canvas.addEventListener("keydown", event => {
     if (event.ctrlKey || event.metaKey || event.altKey) return;
@@ -62,9 +65,14 @@ function installKeyboard(connection, send) {
       finger.x = Math.min(size.width - 1, Math.max(1, finger.x + moves[event.key][0] * step));
       finger.y = Math.min(size.height - 1, Math.max(1, finger.y + moves[event.key][1] * step));
       show();
+      if (picker.on) picker.at({ ...finger });
       if (pressed) send("move", KEYBOARD, finger);
     } else if (event.key === " " || event.key === "Enter") {
       show();
+      if (picker.on) {
+        event.preventDefault();
+        return picker.keep();
+      }
       if (!pressed) send("down", KEYBOARD, finger);
       pressed = true;
       crosshair.classList.add("down");

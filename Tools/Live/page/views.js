@@ -18,7 +18,15 @@ let selected = null;
 let shown = false;
 
 const frameOf = view => `${view.x} ${view.y}  ${view.w} × ${view.h}`;
-const caption = view => [view.tag ? `#${view.tag}` : "", view.text ?? view.title ?? view.name ?? ""].join(" ").trim();
+const part = (className, text) => Object.assign(document.createElement("span"), { className, textContent: text });
+
+// Class, tag, what it is called or says, and its frame, each told from the others.
+function caption(view) {
+  const said = view.text ?? view.title;
+  return [part("class", view.class), view.tag ? part("tag", `#${view.tag}`) : "",
+    said ? part("said", `“${said}”`) : view.name ? part("name", view.name) : "", part("at", frameOf(view))]
+    .filter(Boolean).flatMap((piece, index) => index ? [" ", piece] : [piece]);
+}
 
 function item(number) {
   const view = views.get(number);
@@ -29,9 +37,7 @@ function item(number) {
   made.classList.toggle("off", view.hidden || view.presented_alpha < 0.01);
   made.setAttribute("aria-selected", String(number === selected));
   const label = document.createElement("span");
-  const extra = document.createElement("em");
-  extra.textContent = ` ${caption(view)}  ${frameOf(view)}`;
-  label.append(view.class, extra);
+  label.append(...caption(view));
   made.append(label);
   if (view.children.length) {
     made.setAttribute("aria-expanded", "true");

@@ -8,10 +8,13 @@
 #include "SpringBoard/Applications/Applications.h"
 #include "SpringBoard/Icons/Icons.h"
 #include "SpringBoard/Lock/LockState.h"
+#include "SpringBoard/System/Interface.h"
 #include "UIKit/Application/ApplicationState.h"
 #include "UIKit/Views/ViewState.h"
 #include "Variables.h"
 #include "WindowReport.h"
+
+#include <BiometricKit/BiometricKit.h>
 
 namespace sim {
 
@@ -107,6 +110,18 @@ Value inspect(const Value &arguments) {
                   {"settings_writes", fileCounts().writes}};
 }
 
+// What decides whether a call has an effect now.
+Value stateRequest(const Value &) {
+    const Value drawn = badges();
+    Object numbers;
+    for (const auto &badge : drawn.array()) numbers.emplace(badge.array()[0].string(), badge.array()[1]);
+    return Object{{"badges", numbers},
+                  {"display", displayIsOn()},
+                  {"locked", lockState().screenLocked},
+                  {"reached", reachabilityIsOn()},
+                  {"matching", [[SBUIBiometricEventMonitor sharedInstance] isMatchingEnabled] == YES}};
+}
+
 // {"flags": symbols by name, "lists": the same, "at_hooks": names of flags by which hooks are counted apart}:
 // the names that no library has.
 Value watchRequest(const Value &arguments) {
@@ -121,7 +136,8 @@ Value watchRequest(const Value &arguments) {
 } // namespace
 
 std::span<const Request> inspectionRequests() {
-    static const Request requests[] = {{"inspect", inspect}, {"watch", watchRequest}};
+    static const Request requests[] = {
+        {"inspect", inspect}, {"watch", watchRequest}, {"state", stateRequest}};
     return requests;
 }
 
