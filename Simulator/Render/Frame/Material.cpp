@@ -24,6 +24,28 @@ void paintOver(Colors &color, const Rgba &paint) {
         color[c] = color[c] * keep + static_cast<float>(parts[c] * paint.alpha) * kOne;
 }
 
+// The average of `columns` × `rows` pixels from `from` on. In line, so that for known numbers it is unrolled
+// and divides without a division.
+[[gnu::always_inline]] inline uint32_t averageInline(const uint32_t *from, int width, int columns, int rows) {
+    constexpr uint32_t kEven = 0x00ff00ff;
+    uint32_t low = 0, high = 0; // two channels each; 64 pixels add up without overflow
+    for (int row = 0; row < rows; row++, from += width) {
+        for (int column = 0; column < columns; column++) {
+            low += from[column] & kEven;
+            high += from[column] >> 8 & kEven;
+        }
+    }
+    auto count = static_cast<uint32_t>(columns * rows);
+    auto mean = [count](uint32_t sum) { return (sum + count / 2) / count; };
+    return mean(low & 0xffff) | mean(high & 0xffff) << 8 | mean(low >> 16) << 16 | mean(high >> 16) << 24;
+}
+
+uint32_t averageOf(const uint32_t *from, int width, int columns, int rows) {
+    if (columns == 4 && rows == 4) return averageInline(from, width, 4, 4);
+    if (columns == 6 && rows == 6) return averageInline(from, width, 6, 6);
+    return averageInline(from, width, columns, rows);
+}
+
 } // namespace
 
 int reductionFor(double blurRadius, double scale) {
@@ -36,26 +58,12 @@ int reductionFor(double blurRadius, double scale) {
 }
 
 void reduce(const Bitmap &source, int factor, Bitmap &target, int x, int y) {
-    constexpr uint32_t kEven = 0x00ff00ff;
     for (int top = 0; top < source.height; top += factor) {
         int rows = std::min(factor, source.height - top);
+        const uint32_t *from = source.pixels.data() + static_cast<size_t>(top) * source.width;
         uint32_t *to = target.pixels.data() + static_cast<size_t>(y + top / factor) * target.width + x;
-        for (int left = 0; left < source.width; left += factor) {
-            int columns = std::min(factor, source.width - left);
-            uint32_t low = 0, high = 0; // two channels each; 64 pixels add up without overflow
-            for (int row = 0; row < rows; row++) {
-                const uint32_t *from =
-                    source.pixels.data() + static_cast<size_t>(top + row) * source.width + left;
-                for (int column = 0; column < columns; column++) {
-                    low += from[column] & kEven;
-                    high += from[column] >> 8 & kEven;
-                }
-            }
-            auto count = static_cast<uint32_t>(rows * columns);
-            auto mean = [count](uint32_t sum) { return (sum + count / 2) / count; };
-            *to++ = mean(low & 0xffff) | mean(high & 0xffff) << 8 | mean(low >> 16) << 16 |
-                    mean(high >> 16) << 24;
-        }
+        for (int left = 0; left < source.width; left += factor)
+            *to++ = averageOf(from + left, source.width, std::min(factor, source.width - left), rows);
     }
 }
 
