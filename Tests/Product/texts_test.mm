@@ -1,9 +1,11 @@
 // Which text a person reads for a key, in which language, and how a label finds its key again. A regression
 // shows as
 // "(null)" on the screen or a setting stored under the wrong name.
+#include "PendixSettings/Configuration/configurationController.h"
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "Tweak/Core/Translator.h"
 
+#include "Runtime/Files/FoundationFiles.hpp"
 #include "SpringBoard/Sandbox.h"
 
 #include <gtest/gtest.h>
@@ -91,11 +93,42 @@ TEST_F(Texts, EveryLabelFindsItsKeyAgain) {
 }
 
 TEST_F(Texts, AreReadAnewEachTime) {
-    put("en", "{ close = Close; }");
+    prefer(@"it");
+    put("en", "{ only_english = Here; }");
+    for (const char *word : {"Chiudi", "Chiudo", "Esci", "Chiudi"}) {
+        put("it", std::string("{ close = ") + word + "; }");
+        EXPECT_EQ(text(pendix::Translator(@"close")), word);
+        EXPECT_EQ(text(pendix::pane::Translator(@"close")), word);
+        EXPECT_EQ(text(pendix::pane::getNotTranslated([NSString stringWithUTF8String:word])), "close");
+        EXPECT_EQ(text(pendix::pane::Translator(@"only_english")), "Here");
+    }
+    put("en", "{ only_english = There; }");
+    EXPECT_EQ(text(pendix::pane::Translator(@"only_english")), "There");
+    put("it", "this is { no table");
+    EXPECT_EQ(text(pendix::pane::Translator(@"close")), "(null)") << "and not what it said before";
+    EXPECT_EQ(text(pendix::pane::getNotTranslated(@"Chiudi")), "(null)");
+    put("it", "{ close = Chiudi; }");
     prefer(@"en");
-    EXPECT_EQ(text(pendix::Translator(@"close")), "Close");
-    put("en", "{ close = Shut; }");
-    EXPECT_EQ(text(pendix::Translator(@"close")), "Shut");
+    EXPECT_EQ(text(pendix::pane::Translator(@"only_english")), "There") << "another language";
+    std::filesystem::remove_all(folder());
+    EXPECT_EQ(text(pendix::pane::Translator(@"only_english")), "(null)");
+}
+
+// Building a page and showing the value of each of its rows.
+TEST_F(Texts, OfAPageAreParsedOnce) {
+    prefer(@"en");
+    put("en", "{ close = \"something else was read last\"; }");
+    pendix::pane::Translator(@"close");
+    std::filesystem::copy(LANGUAGES "/en.plist", folder(), std::filesystem::copy_options::overwrite_existing);
+    sim::watchFile("/Library/Application Support/Pendix/Languages/en.plist");
+    for (size_t most : {1, 0}) {
+        sim::resetFileCounts();
+        configurationController *page = [[configurationController alloc] init];
+        for (PSSpecifier *row in [page specifiers]) [page getValue:row];
+        EXPECT_GT([[page specifiers] count], 5u);
+        EXPECT_EQ(sim::fileCounts().reads, most);
+        [page release];
+    }
 }
 
 } // namespace

@@ -19,8 +19,8 @@ BOOL hasTable(NSString *language) {
 }
 
 // nil for what is no text: the file may have been made by anybody.
-NSString *textIn(NSString *language, NSString *key) {
-    id text = [languageTable(language) objectForKey:key];
+NSString *textIn(NSDictionary *table, NSString *key) {
+    id text = [table objectForKey:key];
     return [text isKindOfClass:[NSString class]] ? text : nil;
 }
 
@@ -39,11 +39,15 @@ NSDictionary *languageTable(NSString *language) {
     return hasTable(language) ? [NSDictionary dictionaryWithContentsOfFile:tablePath(language)] : nil;
 }
 
-NSString *textForKey(NSString *key, NSString *language) {
+NSData *languageFile(NSString *language) {
+    return hasTable(language) ? [NSData dataWithContentsOfFile:tablePath(language)] : nil;
+}
+
+NSString *textForKey(NSString *key, NSString *language, NSDictionary *(*tableOf)(NSString *language)) {
     if (!hasTable(language)) return missingText;
-    NSString *text = textIn(language, key);
+    NSString *text = textIn(tableOf(language), key);
     if ([text length] || !hasTable(kEnglish)) return text;
-    NSString *english = textIn(kEnglish, key);
+    NSString *english = textIn(tableOf(kEnglish), key);
     return [english length] ? english : missingText;
 }
 

@@ -52,6 +52,8 @@
 @end
 
 @interface NSData : NSObject <NSCopying>
+// nil when the file is missing or cannot be read.
++ (instancetype)dataWithContentsOfFile:(NSString *)path;
 - (NSUInteger)length;
 - (const void *)bytes;
 @end
