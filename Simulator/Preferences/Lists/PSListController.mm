@@ -7,7 +7,11 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "UIKit/UIKit+Further.h"
 
+#include <UIKit/UIContentSizeCategory.h>
 #include <UIKit/UITableView.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace sim {
 
@@ -122,7 +126,11 @@ using sim::state;
 
 - (CGFloat)tableView:(UITableView *)tableView heightForRowAtIndexPath:(NSIndexPath *)indexPath {
     id height = [[self specifierAtPath:indexPath] propertyForKey:@"height"];
-    return height ? [height doubleValue] : [tableView rowHeight];
+    if (height) return [height doubleValue];
+    // Rows grow with their texts (by how much, inferred).
+    constexpr CGFloat kAroundText = 20;
+    UIFont *font = [UIFont preferredFontForTextStyle:UIFontTextStyleBody];
+    return std::max([tableView rowHeight], std::ceil([font lineHeight]) + kAroundText);
 }
 
 - (NSString *)tableView:(UITableView *)tableView titleForHeaderInSection:(NSInteger)section {

@@ -2,6 +2,7 @@
 
 #include "Runtime/Objc/Versions.hpp"
 #include "Runtime/Process/SymbolLookup.hpp"
+#include "UIKit/Tables/TableState.h"
 
 #include <UIKit/UIAccessibility.h>
 #include <UIKit/UIContentSizeCategory.h>
@@ -43,6 +44,7 @@ void postTextSize() {
     [[NSNotificationCenter defaultCenter] postNotificationName:UIContentSizeCategoryDidChangeNotification
                                                         object:application
                                                       userInfo:information];
+    sim::remakeTables();
 }
 
 } // namespace

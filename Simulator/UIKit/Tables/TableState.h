@@ -71,5 +71,7 @@ void fillTable(UITableView *table);
 // Drops all of it.
 void emptyTable(UITableView *table);
 void dropSection(UITableView *table, size_t section);
+// Every table of the process makes its rows anew, none from a cell that it had: texts have another size.
+void remakeTables();
 
 } // namespace sim

@@ -76,7 +76,31 @@ void reload(UITableView *table, NSIndexSet *sections, bool animated) {
     }
 }
 
+// Not retained: a table takes itself off.
+std::vector<UITableView *> &tables() {
+    static std::vector<UITableView *> list;
+    return list;
+}
+
+void dropReusable(UITableView *table) {
+    for (auto &[identifier, cell] : state(table).reusable) [cell release];
+    state(table).reusable.clear();
+}
+
 } // namespace
+
+namespace sim {
+
+void remakeTables() {
+    for (UITableView *table : tables()) {
+        if (!::state(table).loaded) continue;
+        emptyTable(table);
+        dropReusable(table);
+        [table reloadData];
+    }
+}
+
+} // namespace sim
 
 @implementation UITableView
 
@@ -87,6 +111,7 @@ void reload(UITableView *table, NSIndexSet *sections, bool animated) {
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style {
     if (!(self = [super initWithFrame:frame])) return nil;
     auto &mine = state(self);
+    tables().push_back(self);
     mine.style = style;
     mine.separator = [[UIColor colorWithRed:0.783 green:0.78 blue:0.8 alpha:1] retain];
     [self setAlwaysBounceVertical:YES];
@@ -101,7 +126,8 @@ void reload(UITableView *table, NSIndexSet *sections, bool animated) {
 - (void)dealloc {
     auto *mine = &state(self);
     sim::emptyTable(self);
-    for (auto &[identifier, cell] : mine->reusable) [cell release];
+    dropReusable(self);
+    std::erase(tables(), self);
     [mine->separator release];
     [mine->header release];
     [mine->footer release];

@@ -8,6 +8,8 @@
 #include "UIKit/Views/ViewState.h"
 #include "UITableViewCell+Further.h"
 
+#include <UIKit/UIContentSizeCategory.h>
+
 #include <algorithm>
 
 // The colour behind a row, with the corners of its place.
@@ -37,7 +39,7 @@
 
 namespace {
 
-constexpr CGFloat kTextSize = 17, kSubtitleSize = 11, kGap = 15, kRadius = 5;
+constexpr CGFloat kGap = 15, kRadius = 5;
 constexpr double kFadeSeconds = 0.3;
 constexpr render::Rgba kSelected = {217 / 255.0, 217 / 255.0, 217 / 255.0, 1};
 
@@ -63,9 +65,9 @@ struct CellState {
 
 CellState &state(UITableViewCell *cell) { return sim::lazyState<CellState>(cell->_cellState); }
 
-UILabel *makeLabel(UIView *parent, CGFloat size, UIColor *color) {
+UILabel *makeLabel(UIView *parent, NSString *style, UIColor *color) {
     UILabel *label = [[[UILabel alloc] initWithFrame:CGRectZero] autorelease];
-    [label setFont:[UIFont systemFontOfSize:size]];
+    [label setFont:[UIFont preferredFontForTextStyle:style]];
     [label setTextColor:color];
     [parent addSubview:label];
     return label;
@@ -246,10 +248,10 @@ void setSeparatorColor(UITableViewCell *cell, UIColor *color) {
     [self addSubview:mine.content];
     mine.image = [[[UIImageView alloc] initWithFrame:CGRectZero] autorelease];
     [mine.content addSubview:mine.image];
-    mine.text = makeLabel(mine.content, kTextSize, [UIColor blackColor]);
+    mine.text = makeLabel(mine.content, UIFontTextStyleBody, [UIColor blackColor]);
     if (style == UITableViewCellStyleDefault) return self;
     bool subtitle = style == UITableViewCellStyleSubtitle;
-    mine.detail = makeLabel(mine.content, subtitle ? kSubtitleSize : kTextSize,
+    mine.detail = makeLabel(mine.content, subtitle ? UIFontTextStyleCaption2 : UIFontTextStyleBody,
                             subtitle ? [UIColor blackColor]
                                      : [UIColor colorWithRed:142 / 255.0
                                                        green:142 / 255.0
