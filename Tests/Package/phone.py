@@ -8,7 +8,8 @@ from processor import SLIDE, Processor, Stopped
 
 # Imported symbols that are no functions.
 DATA_SYMBOLS = re.compile(r"_OBJC_|__NSConcrete|___CFConstantString|_k[A-Z]|__objc_empty|_UIWindowLevel"
-                          r"|_CG\w+(Zero|Identity)$|_CATransform3DIdentity$|_\w+Notification$")
+                          r"|_CG\w+(Zero|Identity)$|_CATransform3DIdentity$|_UIAccessibility(Trait|VoiceOverStatus)"
+                          r"|_UIContentSizeCategory|_UIFontTextStyle|_(?!UIAccessibilityPost)\w+Notification$")
 
 # Where messages answer with an object, those that answer with a number all the same.
 NUMBERS = {"countByEnumeratingWithState:objects:count:": 0, "count": 2, "length": 2}

@@ -42,8 +42,8 @@ struct Stage {
         sim::applyAvailability(version);
         if (![UIApplication sharedApplication]) sim::setSharedApplication([UIApplication new]);
         window = makeWindow();
-        b = addElement(window, CGRectMake(200, 105, 50, 40), @"b");
-        a = addElement(window, CGRectMake(20, 100, 50, 40), @"a");
+        b = addElement(window, CGRectMake(200, 100, 50, 40), @"b");
+        a = addElement(window, CGRectMake(20, 105, 50, 40), @"a");
         group = addView(window, CGRectMake(100, 200, 100, 100));
         e = addElement(group, CGRectMake(50, 60, 40, 30), @"e");
         c = addElement(group, CGRectMake(0, 0, 40, 30), @"c");
