@@ -121,6 +121,9 @@ TEST(Accessibility, IsToldByEachClass) {
     [empty setPlaceholder:@"Name"];
     auto pages = [[[UIPageControl alloc] initWithFrame:CGRectZero] autorelease];
     [pages setNumberOfPages:3];
+    auto choice =
+        [[[UISegmentedControl alloc] initWithItems:[NSArray arrayWithObjects:@"A", @"B", nil]] autorelease];
+    [choice setSelectedSegmentIndex:1];
     auto cell = [[[UITableViewCell alloc] initWithStyle:UITableViewCellStyleValue1
                                         reuseIdentifier:nil] autorelease];
     [[cell textLabel] setText:@"Title"];
@@ -153,6 +156,8 @@ TEST(Accessibility, IsToldByEachClass) {
         {"an empty field", empty, true, "-", "Name", 0},
         {"pages", pages, true, "-", "Page 1 of 3",
          UIAccessibilityTraitAdjustable | UIAccessibilityTraitUpdatesFrequently},
+        {"a part of a choice", [[choice subviews] objectAtIndex:1], true, "B", "-",
+         UIAccessibilityTraitButton | UIAccessibilityTraitSelected},
         {"a row with two texts", cell, true, "Title, detail", "-", UIAccessibilityTraitSelected},
         {"a row with a switch leaves it to its parts", lined, false, "Title", "-", 0},
         {"what is set comes first", given, true, "other", "-", UIAccessibilityTraitLink},
@@ -262,6 +267,8 @@ TEST(Accessibility, TurnsPagesOfScrollViewsAndSaysWhich) {
     auto scroll = [[[UIScrollView alloc] initWithFrame:CGRectMake(0, 350, 375, 100)] autorelease];
     [scroll setContentSize:CGSizeMake(900, 100)];
     [s.window addSubview:scroll];
+    [scroll setContentInset:UIEdgeInsetsMake(0, 75, 0, 0)];
+    [scroll setContentOffset:CGPointMake(-75, 0)];
     addElement(scroll, CGRectMake(0, 0, 900, 50), @"wide");
     turnReader(true);
     auto left = UIAccessibilityScrollDirectionLeft, right = UIAccessibilityScrollDirectionRight;
@@ -270,12 +277,12 @@ TEST(Accessibility, TurnsPagesOfScrollViewsAndSaysWhich) {
         bool turned;
         CGFloat x;
         const char *said;
-    } const cases[] = {{right, false, 0, ""},
-                       {UIAccessibilityScrollDirectionUp, false, 0, ""},
-                       {left, true, 375, "announcement: Page 2 of 3"},
+    } const cases[] = {{right, false, -75, ""},
+                       {UIAccessibilityScrollDirectionUp, false, -75, ""},
+                       {left, true, 225, "announcement: Page 2 of 3"},
                        {left, true, 525, "announcement: Page 3 of 3"},
                        {left, false, 525, ""},
-                       {right, true, 150, "announcement: Page 2 of 3"}};
+                       {right, true, 225, "announcement: Page 2 of 3"}};
     for (const auto &each : cases) {
         EXPECT_EQ(sim::scrollPage(each.way), each.turned);
         waitFor(1);

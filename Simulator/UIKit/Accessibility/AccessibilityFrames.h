@@ -2,7 +2,7 @@
 // on.
 #pragma once
 
-#include <UIKit/UIView.h>
+#include <UIKit/UIScrollView.h>
 
 namespace sim {
 
@@ -13,5 +13,8 @@ CGRect portraitRect(CGRect accessibilityRect);
 CGPoint touchPoint(CGPoint accessibilityPoint);
 // The whole screen.
 CGRect accessibilityScreen();
+
+// What bars around its content leave free of a scroll view, in its own coordinates.
+CGRect unobscuredBounds(UIScrollView *scrollView);
 
 } // namespace sim

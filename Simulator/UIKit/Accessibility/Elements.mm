@@ -43,6 +43,11 @@ NSArray *listedBy(id object) {
     return elements;
 }
 
+CGRect openBounds(UIView *view) {
+    bool scrolls = [view isKindOfClass:[UIScrollView class]];
+    return scrolls ? unobscuredBounds(static_cast<UIScrollView *>(view)) : [view bounds];
+}
+
 bool isGroup(UIView *view) {
     return [view shouldGroupAccessibilityChildren] || [view isKindOfClass:[UIScrollView class]];
 }
@@ -93,7 +98,7 @@ private:
     }
 
     ReadingItems held(UIView *view, CGRect clip, int depth) const {
-        if ([view clipsToBounds]) clip = CGRectIntersection(clip, accessibilityRect([view bounds], view));
+        if ([view clipsToBounds]) clip = CGRectIntersection(clip, accessibilityRect(openBounds(view), view));
         ReadingItems items;
         for (UIView *subview : subviews(view))
             for (auto &item : collect(subview, clip, depth + 1)) items.push_back(std::move(item));

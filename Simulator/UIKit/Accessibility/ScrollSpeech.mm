@@ -1,4 +1,5 @@
-// A scroll view turns a page of its own size, and the reader says which.
+// A scroll view turns a page of what is seen of it, and the reader says which.
+#include "AccessibilityFrames.h"
 #include "SpokenTexts.hpp"
 #include "UIKit/Controls/Scrolling/ScrollMotion.h"
 #include "UIKit/UIKit+Further.h"
@@ -7,6 +8,18 @@
 
 #include <algorithm>
 #include <cmath>
+
+namespace sim {
+
+CGRect unobscuredBounds(UIScrollView *scrollView) {
+    CGRect bounds = [scrollView bounds];
+    UIEdgeInsets inset = [scrollView contentInset];
+    return CGRectMake(bounds.origin.x + inset.left, bounds.origin.y + inset.top,
+                      bounds.size.width - inset.left - inset.right,
+                      bounds.size.height - inset.top - inset.bottom);
+}
+
+} // namespace sim
 
 @implementation UIScrollView (Speech)
 
@@ -19,7 +32,8 @@
     CGPoint offset = [self contentOffset];
     CGFloat &place = vertical ? offset.y : offset.x;
     auto range = sim::scrollRange(self, vertical);
-    double size = vertical ? [self bounds].size.height : [self bounds].size.width;
+    CGSize room = sim::unobscuredBounds(self).size;
+    double size = vertical ? room.height : room.width;
     double target = std::clamp(place + (on ? size : -size), range.least, range.most);
     if (![self isScrollEnabled] || size <= 0 || target == place) return NO;
     place = target;

@@ -1,5 +1,6 @@
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
+#include "UIKit/Accessibility/DefaultSpeech.h"
 #include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 #include "UISegmentedControl+Further.h"
@@ -19,6 +20,17 @@
 @end
 
 @implementation UISegment
+
+- (sim::Speech)defaultSpeech {
+    auto *control = static_cast<UISegmentedControl *>([self superview]);
+    auto segments = sim::subviews(control);
+    auto place = std::find(segments.begin(), segments.end(), self) - segments.begin();
+    UIAccessibilityTraits traits = UIAccessibilityTraitButton;
+    if (place == [control selectedSegmentIndex]) traits |= UIAccessibilityTraitSelected;
+    if (![control isEnabled]) traits |= UIAccessibilityTraitNotEnabled;
+    return {.element = YES, .label = [_label text], .traits = traits};
+}
+
 @end
 
 namespace {
