@@ -292,6 +292,25 @@ TEST(Accessibility, TurnsPagesOfScrollViewsAndSaysWhich) {
     }
 }
 
+TEST(Accessibility, ShowsAsAWholeWhatIsActedOn) {
+    Stage s;
+    auto scroll = [[[UIScrollView alloc] initWithFrame:CGRectMake(0, 350, 375, 100)] autorelease];
+    [scroll setContentSize:CGSizeMake(375, 500)];
+    [scroll setContentInset:UIEdgeInsetsMake(20, 0, 10, 0)];
+    [s.window addSubview:scroll];
+    const struct {
+        CGFloat from, y, height, offset;
+    } cases[] = {{100, 150, 30, 100}, {100, 170, 40, 120}, {100, 110, 30, 90}, {100, 130, 90, 110}};
+    for (const auto &each : cases) {
+        UIView *row = addElement(scroll, CGRectMake(0, each.y, 375, each.height), @"row");
+        [scroll setContentOffset:CGPointMake(0, each.from)];
+        auto point = sim::activate(row);
+        EXPECT_EQ([scroll contentOffset].y, each.offset) << each.y;
+        EXPECT_EQ(point->y, 350 + each.y + each.height / 2 - each.offset) << "and touched there";
+        [row removeFromSuperview];
+    }
+}
+
 TEST(Accessibility, LacksInVersion7WhatCameWith8) {
     for (bool eight : {false, true}) {
         if (eight) {

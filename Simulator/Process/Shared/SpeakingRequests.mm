@@ -61,6 +61,7 @@ Value adjust(const Value &arguments) {
     id element = elementIn(arguments);
     if (!([element accessibilityTraits] & UIAccessibilityTraitAdjustable))
         throw BadRequest("the element is not adjustable");
+    reveal(element);
     moveFocus(element);
     if (arguments["up"].boolean()) {
         [element accessibilityIncrement];

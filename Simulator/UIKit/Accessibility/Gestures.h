@@ -7,6 +7,10 @@
 
 namespace sim {
 
+// Scrolls so far that the element is seen as a whole, where it lies on a page that moves freely: whoever gets
+// the focus is shown.
+void reveal(id element);
+
 // A double tap. Nothing when the element took it itself; else where on the screen held in portrait a finger
 // is to tap.
 std::optional<CGPoint> activate(id element);

@@ -8,6 +8,7 @@
 
 #include <UIKit/UIAccessibilityElement.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace sim {
@@ -36,6 +37,12 @@ bool offerFromFocus(const std::vector<id> &elements, const std::function<bool(id
     return !windows.empty() && offer(windows.back(), take);
 }
 
+// How far the part from `start` on lies outside what is seen from `from` on: negative before it.
+CGFloat outside(CGFloat start, CGFloat length, CGFloat from, CGFloat room) {
+    if (start < from || length > room) return start - from;
+    return std::max<CGFloat>(start + length - from - room, 0);
+}
+
 UIAccessibilityCustomAction *actionNamed(id element, NSString *name) {
     if (![element respondsToSelector:@selector(accessibilityCustomActions)]) return nil;
     for (UIAccessibilityCustomAction *action in [element accessibilityCustomActions])
@@ -45,7 +52,25 @@ UIAccessibilityCustomAction *actionNamed(id element, NSString *name) {
 
 } // namespace
 
+void reveal(id element) {
+    UIView *view = viewOfElement(element);
+    if (view != element) return;
+    for (UIView *holder = [view superview]; holder; holder = [holder superview]) {
+        if (![holder isKindOfClass:[UIScrollView class]]) continue;
+        auto *scroll = static_cast<UIScrollView *>(holder);
+        if ([scroll isPagingEnabled] || ![scroll isScrollEnabled]) continue;
+        CGRect seen = unobscuredBounds(scroll), whole = [view convertRect:[view bounds] toView:scroll];
+        CGPoint offset = [scroll contentOffset];
+        offset.x += outside(whole.origin.x, whole.size.width, seen.origin.x, seen.size.width);
+        offset.y += outside(whole.origin.y, whole.size.height, seen.origin.y, seen.size.height);
+        if (CGPointEqualToPoint(offset, [scroll contentOffset])) continue;
+        [scroll setContentOffset:offset animated:NO];
+        [scroll layoutIfNeeded];
+    }
+}
+
 std::optional<CGPoint> activate(id element) {
+    reveal(element);
     moveFocus(element);
     if ([element accessibilityActivate]) return std::nullopt;
     return touchPoint([element accessibilityActivationPoint]);
@@ -60,6 +85,7 @@ NSArray *actionNames(id element) {
 }
 
 bool perform(id element, NSString *name) {
+    reveal(element);
     moveFocus(element);
     UIAccessibilityCustomAction *action = actionNamed(element, name);
     id target = [action target];
