@@ -14,9 +14,10 @@ protected:
         options.port({.names = "--port", .about = "On 127.0.0.1; 0 takes any that is free"}, live_.port);
         options.real({.names = "--speed", .about = "Of its clock at the start; 0 stops it"}, live_.speed, 0,
                      1);
-        options.flag({.names = "--compress",
-                      .about = "Pack all frames, for a slow line; without it as the line of each page asks for"},
-                     packed_);
+        options.flag(
+            {.names = "--compress",
+             .about = "Pack all frames, for a slow line; without it as the line of each page asks for"},
+            packed_);
         options.flag({.names = "--no-compress", .about = "Pack none"}, plain_);
         boot_.describe(options);
         options.footer("Only this machine can open the page, and only the page can talk to the device.\n"
