@@ -3,6 +3,7 @@
 #include "PendixSettings/Core/PaneState.h"
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Icon/ColorNames.h"
+#include "Tweak/Core/Accessibility/Aids.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/Settings.h"
@@ -33,7 +34,9 @@ UILabel *newHint() {
         [[UILabel alloc] initWithFrame:CGRectMake(0, (height - kHintLift) * 0.5, width, kHintHeight)];
     hint.tag = kHint;
     hint.textAlignment = NSTextAlignmentCenter;
-    hint.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:18];
+    constexpr CGFloat kSize = 18, kMost = 24; // what the line holds
+    const CGFloat size = kSize * textScale();
+    hint.font = textFont(@"HelveticaNeue-Light", size < kMost ? size : kMost);
     hint.text = shownText(@"slide");
     hint.textColor = color;
     return hint;

@@ -1,6 +1,7 @@
 #include "PendixSettings/Icon/cards.h"
 
 #include "PendixSettings/Core/PaneState.h"
+#include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Icon/Card.h"
 #include "PendixSettings/Icon/ColorNames.h"
 #include "PendixSettings/Icon/Preview.h"
@@ -139,6 +140,43 @@ size_t indexOfColor(id name) {
 - (UIViewController *)pageViewController:(UIPageViewController *)pages
        viewControllerAfterViewController:(UIViewController *)card {
     return [self cardAt:1 after:card];
+}
+
+// The cards are one element, and another one is chosen without a swipe.
+
+- (BOOL)isAccessibilityElement {
+    return YES;
+}
+
+- (UIAccessibilityTraits)accessibilityTraits {
+    return UIAccessibilityTraitAdjustable;
+}
+
+- (NSString *)accessibilityLabel {
+    NSString *key = pane::editedColorKey();
+    return key ? pane::Translator(key) : nil;
+}
+
+- (NSString *)accessibilityValue {
+    NSString *key = [@"color_" stringByAppendingString:pane::stringFromColor(pane::ciccia)];
+    return pane::Translator(key);
+}
+
+- (void)accessibilityIncrement {
+    [self turnTo:1];
+}
+
+- (void)accessibilityDecrement {
+    [self turnTo:[controllers count] - 1];
+}
+
+- (void)turnTo:(NSUInteger)steps {
+    UIViewController *card = [self cardAt:steps after:[_controller.viewControllers firstObject]];
+    [_controller setViewControllers:[NSArray arrayWithObject:card]
+                          direction:UIPageViewControllerNavigationDirectionForward
+                           animated:NO
+                         completion:nil];
+    [self showColorOf:card];
 }
 
 - (NSInteger)presentationCountForPageViewController:(UIPageViewController *)pages {

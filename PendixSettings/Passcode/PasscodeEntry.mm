@@ -1,6 +1,8 @@
 #include "PendixSettings/Passcode/PasscodeSheet.h"
 
+#include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Passcode/PasscodeView.h"
+#include "Tweak/Core/Accessibility/Speech.h"
 #include "Tweak/Core/Names.h"
 #include "Tweak/Core/Sounds.h"
 
@@ -38,6 +40,7 @@ void refuse(UITextField *field, NSInteger group) {
     AudioServicesPlaySystemSound(sounds::vibration);
     for (size_t place = 1; place <= kDigits; ++place) show(field, group, place, kDash);
     field.text = @"";
+    announce(@"spoken_wrong", Translator);
 }
 
 void endEntry(UITextField *field) {
@@ -50,6 +53,7 @@ void advance(UITextField *field, NSInteger group) {
     view.group = group + 1;
     [UIView animateWithDuration:kAdvance animations:^{ [view placeGroups]; }];
     field.text = @"";
+    focusOnChange(view);
 }
 
 } // namespace pendix::pane

@@ -2,6 +2,7 @@
 
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Passcode/PasscodeView.h"
+#include "Tweak/Core/Accessibility/Speech.h"
 
 namespace pendix::pane {
 
@@ -38,6 +39,7 @@ void present(const PasscodeSheet &sheet) {
     view.group = sheet.first;
     for (NSString *key : sheet.groups) [view addGroup:shownText(key)];
     [view addFieldFor:sheet.page action:sheet.typed];
+    focusOnScreen(view);
     [navigation release];
     [root release];
 }

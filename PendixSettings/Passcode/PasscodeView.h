@@ -6,8 +6,9 @@
 // the subviews group g has those from 5g on, the text first; the field is the last. The group that is typed
 // stands in the middle, those before it a screen to the left, those after it one to the right: laid out anew
 // whenever the view gets another size, with whatever the dashes show by then.
+// For VoiceOver it is one element: the group's text, the step, and how many digits are typed.
 @interface PasscodeView : UIView {
-    NSInteger _group;
+    NSInteger _group, _first;
 }
 @property (nonatomic) NSInteger group; // the one that is typed; the next placing counts
 - (void)addGroup:(NSString *)text;

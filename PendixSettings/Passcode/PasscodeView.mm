@@ -1,7 +1,10 @@
 #include "PendixSettings/Passcode/PasscodeView.h"
 
+#include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Passcode/DigitEntry.hpp"
 #include "PendixSettings/Passcode/PasscodeSheet.h"
+#include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Wording.h"
 #include "Tweak/Core/Names.h"
 
 namespace pane = pendix::pane;
@@ -9,6 +12,7 @@ namespace pane = pendix::pane;
 namespace {
 
 constexpr CGFloat kTextSize = 16, kFieldSide = 10;
+constexpr CGFloat kMostSize = 22; // that the screen's width holds
 
 void setOrigin(UIView *view, CGFloat x, CGFloat y) {
     const CGSize size = view.frame.size;
@@ -24,7 +28,8 @@ void setOrigin(UIView *view, CGFloat x, CGFloat y) {
 - (void)addGroup:(NSString *)text {
     UILabel *label = [[UILabel alloc] initWithFrame:CGRectZero];
     label.text = text;
-    label.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:kTextSize];
+    const CGFloat size = kTextSize * pendix::textScale();
+    label.font = pendix::textFont(@"HelveticaNeue-Light", size < kMostSize ? size : kMostSize);
     [label sizeToFit];
     [self addSubview:label];
     [label release];
@@ -44,6 +49,7 @@ void setOrigin(UIView *view, CGFloat x, CGFloat y) {
     field.keyboardType = UIKeyboardTypeNumberPad;
     [field addTarget:target action:typed forControlEvents:UIControlEventEditingChanged];
     [self addSubview:field];
+    _first = _group;
     [self placeGroups];
     [field becomeFirstResponder];
     [field release];
@@ -77,6 +83,29 @@ void setOrigin(UIView *view, CGFloat x, CGFloat y) {
         setOrigin(dash, left + static_cast<CGFloat>(i) * (size.width - own.width) / 3,
                   (below + own.height) * 3 * 0.125);
     }
+}
+
+- (BOOL)isAccessibilityElement {
+    return YES;
+}
+
+- (NSString *)accessibilityLabel {
+    NSArray *views = self.subviews;
+    const NSUInteger text = static_cast<NSUInteger>(_group) * pane::kGroupSize;
+    return text < [views count] ? [(UILabel *)[views objectAtIndex:text] text] : nil;
+}
+
+- (NSString *)accessibilityValue {
+    UITextField *field = [self.subviews lastObject];
+    if (![field isKindOfClass:[UITextField class]]) return nil;
+    NSString *entered = pendix::filledIn(pane::Translator(@"spoken_entered"),
+                                         pendix::digits(static_cast<NSInteger>([field.text length])),
+                                         pendix::digits(static_cast<NSInteger>(pane::kDigits)));
+    const NSInteger groups = static_cast<NSInteger>([self.subviews count] / pane::kGroupSize) - _first;
+    if (groups < 2) return entered;
+    NSString *step = pendix::filledIn(pane::Translator(@"spoken_step"), pendix::digits(_group - _first + 1),
+                                      pendix::digits(groups));
+    return [NSString stringWithFormat:@"%@, %@", step, entered];
 }
 
 - (CGFloat)barHeight {

@@ -66,6 +66,7 @@ UIImageView *titleView() {
                 style:UIBarButtonItemStyleBordered
                target:self
                action:@selector(Tweet)];
+    button.accessibilityLabel = pane::shownText(@"spoken_share");
     self.navigationItem.rightBarButtonItem = button;
     [button release];
 }

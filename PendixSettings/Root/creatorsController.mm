@@ -2,6 +2,7 @@
 
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Pattern.h"
+#include "Tweak/Core/Accessibility/Aids.h"
 #include "Tweak/Core/Names.h"
 
 #include <UIKit/UIKit.h>
@@ -28,7 +29,7 @@ void addLine(UIView *page, NSString *text, NSString *font, CGFloat size, UIColor
     label.text = text;
     label.textAlignment = NSTextAlignmentCenter;
     label.numberOfLines = 0;
-    label.font = [UIFont fontWithName:font size:size];
+    label.font = pendix::textFont(font, size);
     label.textColor = color;
     [page addSubview:label];
     [label release];

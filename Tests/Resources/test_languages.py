@@ -54,7 +54,8 @@ class Languages(unittest.TestCase):
     def test_only_counts_are_formats(self):
         for language in LANGUAGES:
             formats = {key: re.findall("%.?", text) for key, text in TABLES[language].items() if "%" in text}
-            self.assertEqual(formats, {"you_have_app": ["%d"], "you_have_badge": ["%d"]}, language)
+            self.assertEqual(formats, {"you_have_app": ["%d"], "you_have_badge": ["%d"], "spoken_new": ["%d"],
+                                       **{f"spoken_{key}": ["%d", "%d"] for key in ("entered", "page", "step")}}, language)
 
     def test_footers_are_translated_sentences(self):
         for key, english in TABLES["en"].items():

@@ -22,6 +22,9 @@ UIView *addKeypad(const LockFacesInput &input, BOOL sensor);
 UIView *addFingerFace(const LockFacesInput &input);
 UIView *addAskFace(const LockFacesInput &input);
 
+// Has the keypad's title say how many digits are entered; the dots are silent.
+void tellEntered(UIView *keypad, int count);
+
 // Gives the panel's keypad, if it has one, the sizes for the way the screen is held.
 void layoutKeypad(BOOL sensor);
 
@@ -30,6 +33,9 @@ UIView *lockFace(NSInteger tag);
 
 // Whether the face is the shown panel's: what is touched while the panel closes does nothing.
 BOOL isShown(UIView *face);
+
+// Of the three faces, the one that VoiceOver finds; none for nil. The others wait beside it or behind it.
+void letSpeak(UIView *face);
 
 // Whether the panel was built for a finger, or has been switched to it, and not to the keypad.
 BOOL fingerFaceIsChosen();

@@ -1,5 +1,6 @@
 #include "Tweak/Lock/FaceParts.h"
 
+#include "Tweak/Core/Accessibility/Aids.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
@@ -29,7 +30,7 @@ UILabel *addFaceText(UIView *face, CGRect frame, NSString *text, NSInteger lines
     label.textAlignment = NSTextAlignmentCenter;
     label.numberOfLines = lines;
     label.textColor = scheme.ink;
-    label.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:kTextSize];
+    label.font = textFont(@"HelveticaNeue-Light", kTextSize);
     [face addSubview:label];
     return [label autorelease];
 }
@@ -45,6 +46,23 @@ UIButton *addFaceButton(UIView *face, const LockFacesInput &input, CGRect frame,
 }
 
 UIView *lockFace(NSInteger tag) { return subviewWithTag(contentView(), tag); }
+
+void letSpeak(UIView *face) {
+    const NSInteger faces[] = {tags::askFace, tags::fingerFace, tags::keypadFace};
+    for (NSInteger tag : faces) {
+        UIView *each = lockFace(tag);
+        each.accessibilityElementsHidden = each != face;
+    }
+}
+
+UIView *spokenFaceTitle() {
+    const NSInteger faces[] = {tags::askFace, tags::fingerFace, tags::keypadFace};
+    for (NSInteger tag : faces) {
+        UIView *face = lockFace(tag);
+        if (face && !face.accessibilityElementsHidden) return subviewWithTag(face, tags::faceTitle);
+    }
+    return nil;
+}
 
 BOOL isShown(UIView *face) { return isShow && face.window; }
 

@@ -1,4 +1,7 @@
 // Entering a code, and what a wrong one looks like.
+#include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Speech.h"
+#include "Tweak/Core/Accessibility/Wording.h"
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/SettingKeys.h"
@@ -36,6 +39,8 @@ NSString *enteredCode(UIView *keypad) {
                                       dotAt(keypad, 2).layer.name, dotAt(keypad, 3).layer.name];
 }
 
+UILabel *titleOf(UIView *keypad) { return (UILabel *)subviewWithTag(keypad, tags::faceTitle); }
+UIColor *inkOf(UIView *keypad) { return titleOf(keypad).textColor; } // as it was built
 UIButton *deleteButton(UIView *keypad) { return (UIButton *)subviewWithTag(keypad, tags::faceButton); }
 
 void setTitle(UIButton *button, NSString *key) {
@@ -76,6 +81,7 @@ void enter(SpringBoard *springBoard, UIView *keypad, int digit, UIColor *ink) {
     const Entry code;
     UIView *dot = dotAt(keypad, *place);
     dot.layer.name = [NSString stringWithFormat:@"%d", digit];
+    tellEntered(keypad, *place + 1);
     if (*place == 0) setTitle(deleteButton(keypad), @"delete");
     [UIView animateWithDuration:animationDuration(kDotChange)
         animations:^{ dot.backgroundColor = ink; }
@@ -89,12 +95,29 @@ void clearDot(UIView *dot) {
     dot.backgroundColor = [UIColor clearColor];
 }
 
+// Where motion is reduced the dots do not shake.
+void flashDots(UIView *keypad) {
+    UIColor *ink = inkOf(keypad);
+    for (int dot = 0; dot < kCodeLength; ++dot) flash(dotAt(keypad, dot), ink);
+}
+
+int countOf(const FilledDots &filled) {
+    int count = 0;
+    for (bool dot : filled) count += dot;
+    return count;
+}
+
 } // namespace
+
+void tellEntered(UIView *keypad, int count) {
+    titleOf(keypad).accessibilityValue =
+        filledIn(Translator(@"spoken_entered"), digits(count), digits(kCodeLength));
+}
 
 void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
     UIView *key = recognizer.view, *keypad = key.superview;
     if (!isShown(keypad)) return;
-    UIColor *ink = ((UILabel *)subviewWithTag(keypad, tags::faceTitle)).textColor; // as it was built
+    UIColor *ink = inkOf(keypad);
     AudioServicesPlaySystemSound(sounds::keyClick);
     flash(key, ink);
     [deleteButton(keypad) setTitleColor:ink forState:UIControlStateNormal];
@@ -111,16 +134,23 @@ void added::dismisPendixUIorDelete(SpringBoard *self, SEL, UIButton *button) {
     }
     UIView *dot = dotAt(keypad, *place);
     [UIView animateWithDuration:animationDuration(kDotChange) animations:^{ clearDot(dot); }];
+    tellEntered(keypad, countOf(filledDots(keypad)));
     if (*place == 0) setTitle(button, @"cancel");
 }
 
 void added::tryAgain(SpringBoard *self, SEL, UIView *keypad) {
     keypad = [keypad viewWithTag:tags::keypadFace];
-    ((UILabel *)subviewWithTag(keypad, tags::faceTitle)).text = Translator(@"try");
+    titleOf(keypad).text = Translator(@"try");
     [UIView animateWithDuration:animationDuration(kDotChange)
                      animations:^{
                          for (int dot = 0; dot < kCodeLength; ++dot) clearDot(dotAt(keypad, dot));
                      }];
+    tellEntered(keypad, 0);
+    announce(@"spoken_wrong");
+    if (reducesMotion()) {
+        flashDots(keypad);
+        return;
+    }
     const ShakeMove first;
     [self animateError:keypad duration:first.distance first:first.left sign:first.sign];
 }

@@ -1,4 +1,6 @@
 // The keypad, as it is built.
+#include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Wording.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/SettingKeys.h"
@@ -15,7 +17,7 @@ namespace pendix {
 
 namespace {
 
-constexpr CGFloat kBorder = 1;
+constexpr CGFloat kBorder = 1, kStrongBorder = 2;
 constexpr CGFloat kDigitRaised = 5, kDigitSize = 30, kLettersSize = 11;
 constexpr NSInteger kTitleLines = 2;
 
@@ -23,7 +25,7 @@ UIView *addRound(UIView *parent, CGRect frame, NSInteger tag, const Scheme &sche
     UIView *view = [[UIView alloc] initWithFrame:frame];
     view.tag = tag;
     view.backgroundColor = [UIColor clearColor];
-    view.layer.borderWidth = kBorder;
+    view.layer.borderWidth = darkensColors() ? kStrongBorder : kBorder;
     view.layer.borderColor = scheme.ink.CGColor;
     [parent addSubview:view];
     return [view autorelease];
@@ -52,8 +54,7 @@ void placeKeyTexts(UIView *key, CGFloat scale) {
         UILabel *label = [labels objectAtIndex:i];
         label.frame = i == 0 ? CGRectMake(0, -kDigitRaised * scale, size.width, size.height)
                              : CGRectMake(0, size.height / 2, size.width, size.height / 2);
-        label.font = [UIFont fontWithName:@"HelveticaNeue-Light"
-                                     size:(i == 0 ? kDigitSize : kLettersSize) * scale];
+        label.font = textFont(@"HelveticaNeue-Light", (i == 0 ? kDigitSize : kLettersSize) * scale);
     }
 }
 
@@ -65,6 +66,10 @@ void addKeys(UIView *keypad, const LockFacesInput &input) {
                                                                               action:@selector(tapNumber:)];
         [key addGestureRecognizer:tap];
         [tap release];
+        // Also where the digits are not shown.
+        key.isAccessibilityElement = YES;
+        key.accessibilityLabel = digits(digit);
+        key.accessibilityTraits = UIAccessibilityTraitKeyboardKey;
         if (showsDigits) addKeyTexts(key, digit, input.scheme);
     }
 }
@@ -114,6 +119,7 @@ UIView *addKeypad(const LockFacesInput &input, BOOL sensor) {
     if (sensor)
         addFaceButton(keypad, input, toCGRect(layout.fingerButton), @"touch ID", @selector(useTochID));
     place(keypad, layout);
+    tellEntered(keypad, 0);
     return keypad;
 }
 

@@ -31,6 +31,9 @@ struct LockFacesInput {
 // Builds the faces over the strip, which goes clear, and returns the panel's height for the one that shows.
 CGFloat addLockFaces(const LockFacesInput &input);
 
+// The title of the face that shows, which VoiceOver begins with; nil while the list does.
+UIView *spokenFaceTitle();
+
 // The screen has been turned while the panel is shown: the faces, and the panel while one of them shows, fit
 // it again. Does nothing without a lock.
 void fitLockFaces();
@@ -42,6 +45,14 @@ void stopFingerMonitor();
 } // namespace pendix
 
 // What the lock asks for; the panel answers.
+namespace pendix {
+
+// The shown panel shows something else: VoiceOver goes on with the first thing of it. Nothing while the panel
+// is not shown.
+void focusOnPanel();
+
+} // namespace pendix
+
 @interface SpringBoard (PendixLockedPanel)
 // Closes the panel back into the indicator; does nothing while it is not shown.
 - (void)dismisPendixUI;

@@ -21,6 +21,14 @@ Where currentWhere() {
     return [where isEqualToString:@"lockscreen"] ? Where::deviceLocked : Where::displayOff;
 }
 
+BOOL wouldArm() {
+    BOOL passcodeLocked =
+        [(SBUserAgent *)[objc_getClass("SBUserAgent") sharedUserAgent] deviceIsPasscodeLocked];
+    return armedAtOpening(currentWhere(), needPasscode, passcodeLocked);
+}
+
+BOOL hasCode() { return isOn(keys::lockEnabled) && isPasscode(setting(keys::passcode)); }
+
 // A touch reaches only what lies inside: the content view is as high as the highest face meanwhile.
 void cover(UIView *content) {
     for (UIView *face in content.subviews)
@@ -30,10 +38,8 @@ void cover(UIView *content) {
 } // namespace
 
 void armLock() {
-    BOOL passcodeLocked =
-        [(SBUserAgent *)[objc_getClass("SBUserAgent") sharedUserAgent] deviceIsPasscodeLocked];
     ++lockRound;
-    needPasscode = armedAtOpening(currentWhere(), needPasscode, passcodeLocked);
+    needPasscode = wouldArm();
 }
 
 void armLockInTheDark() {
@@ -42,7 +48,9 @@ void armLockInTheDark() {
     needPasscode = YES;
 }
 
-BOOL isLocked() { return needPasscode && isOn(keys::lockEnabled) && isPasscode(setting(keys::passcode)); }
+BOOL isLocked() { return needPasscode && hasCode(); }
+
+BOOL panelWouldAsk() { return wouldArm() && hasCode(); }
 
 CGFloat addLockFaces(const LockFacesInput &input) {
     const BOOL sensor = [input.springBoard hasTouchID];
@@ -64,6 +72,7 @@ CGFloat addLockFaces(const LockFacesInput &input) {
         shown.alpha = 0;
         shown = addAskFace(input);
     }
+    letSpeak(shown);
     cover(input.content);
     return shown.frame.size.height;
 }

@@ -1,5 +1,6 @@
 #include "Tweak/Lock/PendixTouchIDController.h"
 
+#include "Tweak/Core/Accessibility/Speech.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/Sounds.h"
 #include "Tweak/Core/State.h"
@@ -50,6 +51,7 @@ UIView *fingerFace() { return pendix::lockFace(pendix::tags::fingerFace); }
 - (void)fail:(NSString *)message {
     [[self fingerPrint] stopShimmering];
     ((UILabel *)pendix::subviewWithTag(fingerFace(), pendix::tags::faceTitle)).text = message;
+    pendix::announce(@"fail");
 }
 
 - (void)biometricEventMonitor:(SBUIBiometricEventMonitor *)monitor handleBiometricEvent:(NSUInteger)event {

@@ -1,9 +1,10 @@
 // From one lock face to the next, and from the last one to the list.
+#include "Tweak/Core/Accessibility/Motion.h"
+#include "Tweak/Core/Accessibility/Speech.h"
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/SpringBoard+Device.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Lock/FaceParts.h"
 #include "Tweak/Lock/Lock.h"
@@ -20,12 +21,15 @@ void changeFace(NSInteger tag, CGFloat height, NSInteger other, CGFloat otherSid
     UIView *shown = lockFace(tag), *leaving = lockFace(other);
     UIView *panel = panelView();
     const CGRect frame = frameWithHeight(panel, height);
-    [UIView animateTouchablyFor:animationDuration(kChangeFace)
-                     animations:^{
-                         setX(shown, 0);
-                         setX(leaving, otherSide * leaving.frame.size.width);
-                         panel.frame = frame;
-                     }];
+    letSpeak(shown);
+    change(
+        animationDuration(kChangeFace), [NSArray arrayWithObjects:shown, nil],
+        ^{
+            setX(shown, 0);
+            setX(leaving, otherSide * leaving.frame.size.width);
+            panel.frame = frame;
+        },
+        ^(BOOL) { focusOnPanel(); });
 }
 
 // Whether a button may change the face: not while the panel closes, not when it is unlocked and the faces
@@ -49,8 +53,10 @@ void showList(SpringBoard *springBoard, int page, BOOL cards) {
     UIView *keypad = lockFace(tags::keypadFace);
     UIView *panel = panelView(), *content = contentView(), *list = strip(), *dots = pageDotsView();
     const CGRect frame = frameWithHeight(panel, gheight);
-    [UIView animateTouchablyFor:animationDuration(kUnlock)
-        animations:^{
+    letSpeak(nil);
+    change(
+        animationDuration(kUnlock), [NSArray arrayWithObjects:list, dots, nil],
+        ^{
             CGSize size = passed.frame.size;
             passed.frame = CGRectMake(0, size.height, size.width, size.height);
             panel.frame = frame;
@@ -58,11 +64,12 @@ void showList(SpringBoard *springBoard, int page, BOOL cards) {
             if (cards) setHeight(list, gheight);
             list.alpha = 1;
             dots.alpha = 1;
-        }
-        completion:^(BOOL) {
+        },
+        ^(BOOL) {
             [finger removeFromSuperview];
             [keypad removeFromSuperview];
-        }];
+            focusOnPanel();
+        });
 }
 
 } // namespace
@@ -73,19 +80,22 @@ void added::unlockTap(SpringBoard *, SEL, UIButton *button) {
     UIView *keypad = lockFace(tags::keypadFace), *finger = lockFace(tags::fingerFace), *panel = panelView();
     const CGFloat height = fingerFaceIsChosen() ? lastHeight : lastHeight1;
     const CGRect frame = frameWithHeight(panel, height);
-    [UIView animateTouchablyFor:animationDuration(kLeaveAsk)
-        animations:^{
+    letSpeak(fingerFaceIsChosen() ? finger : keypad);
+    change(
+        animationDuration(kLeaveAsk), [NSArray arrayWithObjects:keypad, finger, nil],
+        ^{
             panel.frame = frame;
             setY(ask, height);
             keypad.alpha = 1;
             finger.alpha = 1;
-        }
-        completion:^(BOOL) {
+        },
+        ^(BOOL) {
             // Closed meanwhile: a panel that is open by now has an ask face of its own. And the keypad may
             // have been chosen, by a button that the question had uncovered.
             if (isShown(ask) && fingerFaceIsChosen()) requireFinger = YES;
             [ask removeFromSuperview];
-        }];
+            focusOnPanel();
+        });
 }
 
 void added::usePasscode(SpringBoard *, SEL) {
@@ -107,7 +117,9 @@ void added::unlockPendix(SpringBoard *self, SEL, int page) {
     const BOOL cards = shown && raiseCards();
     stopFingerMonitor();
     // A finger that matched while the panel closed has nothing left to show.
-    if (shown) showList(self, page, cards);
+    if (!shown) return;
+    announce(@"spoken_unlocked");
+    showList(self, page, cards);
 }
 
 } // namespace pendix

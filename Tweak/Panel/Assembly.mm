@@ -3,16 +3,18 @@
 
 #include "Tweak/Panel/Corners.h"
 
+#include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Motion.h"
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/Panel.h"
+#include "Tweak/Panel/SpokenPanel.h"
 
 namespace pendix {
 
@@ -55,7 +57,7 @@ UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink) {
     constexpr NSInteger kLines = 4;
     CGRect frame = CGRectMake(0, 0, strip.frame.size.width, strip.frame.size.height);
     NSString *text = Translator(running ? @"no_running_apps" : @"no_badge");
-    UILabel *label = panelLabel(frame, text, @"HelveticaNeue", kSize, ink);
+    UILabel *label = panelLabel(frame, text, textFont(@"HelveticaNeue", kSize), ink);
     label.numberOfLines = kLines;
     [strip addSubview:label];
     keepBadgedApplications();
@@ -73,6 +75,7 @@ void assemble(PanelBuild &build) {
     [build.content addSubview:build.strip];
     [build.panel addSubview:build.content];
     [window addSubview:build.bubble];
+    build.panel.accessibilityViewIsModal = YES;
     [window addSubview:build.panel];
     if ([UIApplication sharedApplication].statusBarHidden && isLandscape()) build.logo.alpha = 0;
     [window addSubview:build.logo];
@@ -92,15 +95,20 @@ void openPanel(PanelBuild &build) {
     [springBoard liveClock];
     Placement place = placementFor(build.itemPlace, currentAnchor(reachabilityIsActive()), build.height);
     build.bubble.alpha = place.bubbleAlpha;
-    BOOL blurs = isOn(keys::blursScreen);
-    UIView *bubble = build.bubble, *panel = build.panel;
-    [UIView animateTouchablyFor:animationDuration(kOpening)
-        animations:^{
+    // Where nothing is to shine through, the screen is covered instead (Tap.mm).
+    BOOL blurs = isOn(keys::blursScreen) && !reducesTransparency();
+    UIView *bubble = build.bubble, *panel = build.panel, *backdrop = overlayView(tags::screenBackdrop);
+    change(
+        animationDuration(kOpening), [NSArray arrayWithObjects:bubble, panel, blurs ? backdrop : nil, nil],
+        ^{
             bubble.frame = toCGRect(place.bubble);
             panel.frame = toCGRect(place.panel);
-            if (blurs) overlayView(tags::screenBackdrop).alpha = 1;
-        }
-        completion:^(BOOL) { [springBoard liveClock]; }];
+            if (blurs) backdrop.alpha = 1;
+        },
+        ^(BOOL) {
+            [springBoard liveClock];
+            focusOnOpenPanel();
+        });
     turnCorners(panel, 0, kPanelRadius, kRounding);
     [window bringSubviewToFront:panel];
 }

@@ -19,6 +19,7 @@
 #include "Tweak/Panel/NewUIScrollView.h"
 #include "Tweak/Panel/PanelBuild.h"
 #include "Tweak/Panel/Replacements.h"
+#include "Tweak/Panel/SpokenPanel.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
 #include "Tweak/StatusBar/StatusBar.h"
 
@@ -128,7 +129,10 @@ void removeFromStrip(UIView *item, NSString *identifier) {
     [item removeFromSuperview];
     [UIView animateWithDuration:animationDuration(kStep)
         animations:^{ closeUp(removed, index, rows); }
-        completion:^(BOOL) { finishClosing(identifier, rows); }];
+        completion:^(BOOL) {
+            finishClosing(identifier, rows);
+            focusNear(removed.x);
+        }];
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // Closing the panel back into the indicator.
+#include "Tweak/Core/Accessibility/Aids.h"
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/PanelViews.h"
@@ -10,6 +11,7 @@
 #include "Tweak/Panel/Corners.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Panel/Replacements.h"
+#include "Tweak/Panel/SpokenPanel.h"
 #include "Tweak/StatusBar/StatusBar.h"
 
 namespace pendix {
@@ -25,11 +27,13 @@ CGRect collapsePoint(SpringBoard *springBoard) {
     return toCGRect(growthPoint(item ? placeInOverlay(item).frame : toRect(overlayView(tags::logo).frame)));
 }
 
+// Into the indicator; where motion is reduced all fades in place.
 void collapse(SpringBoard *springBoard) {
     CGRect point = collapsePoint(springBoard);
+    const BOOL fades = reducesMotion();
     for (UIView *view in window.subviews) {
         if (view.tag == tags::dismissView || view.tag == tags::logo) continue;
-        if (view.tag == tags::screenBackdrop) {
+        if (fades || view.tag == tags::screenBackdrop) {
             view.alpha = 0;
         } else {
             view.frame = point;
@@ -59,6 +63,7 @@ void added::dismisPendixUI(SpringBoard *self, SEL) {
     NSLog(@"<Pendix> Pendix's UI dismissing!");
     isShow = NO;
     isEditing = NO;
+    takeOverSpeech(NO);
     requireFinger = NO;
     if ([self hasTouchID]) stopFingerMonitor();
     turnCorners(panelView(), kPanelRadius, 0, kSquaring);

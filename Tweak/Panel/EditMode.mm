@@ -6,6 +6,7 @@
 #include "Tweak/Core/State.h"
 #include "Tweak/Panel/CloseMarks.h"
 #include "Tweak/Panel/ItemState.h"
+#include "Tweak/Panel/Panel.h"
 #include "Tweak/Panel/Question.h"
 #include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
@@ -25,7 +26,11 @@ void added::longPressEvent(SpringBoard *self, SEL, UILongPressGestureRecognizer 
             hideCloseMark(item, duration);
         }
     }
-    if (!isEditing) ask(self, duration);
+    if (isEditing) {
+        focusOnPanel();
+    } else {
+        ask(self, duration);
+    }
 }
 
 } // namespace pendix

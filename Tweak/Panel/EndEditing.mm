@@ -11,6 +11,7 @@ void endEditing() {
     const float duration = animationDuration(kShrinking);
     for (UIView *item in itemViews()) hideCloseMark(item, duration);
     isEditing = NO;
+    focusOnPanel();
 }
 
 } // namespace pendix

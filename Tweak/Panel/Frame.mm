@@ -1,6 +1,7 @@
 // Bubble, panel, logo, content view and strip.
 #include "Tweak/Panel/PanelBuild.h"
 
+#include "Tweak/Core/Accessibility/Aids.h"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
@@ -10,6 +11,8 @@ namespace pendix {
 namespace {
 
 constexpr CGFloat kLightBubbleAlpha = 0.7;
+constexpr CGFloat kSolidDark = 0.1;    // white; what stands for the dark material
+constexpr CGFloat kDarkerGround = 0.6; // black under white ink, for stronger colours
 
 _UIBackdropViewSettings *material(const Scheme &scheme) {
     return scheme.light
@@ -18,9 +21,23 @@ _UIBackdropViewSettings *material(const Scheme &scheme) {
                : [objc_getClass("_UIBackdropViewSettingsDark") settingsForStyle:_UIBackdropViewStyleDark];
 }
 
-// A plain view where the system has no such material.
+// What lies on the panel's material.
+UIColor *panelColor(const Scheme &scheme) {
+    if (scheme.light) return [UIColor whiteColor];
+    return darkensColors() ? [UIColor colorWithWhite:0 alpha:kDarkerGround] : [UIColor clearColor];
+}
+
+UIColor *solid(const Scheme &scheme) {
+    return [UIColor colorWithWhite:scheme.light ? 1 : kSolidDark alpha:1];
+}
+
+// A plain view where the system has no such material, and a solid one for who wants nothing to shine through.
 UIView *backdrop(CGRect frame, const Scheme &scheme, UIColor *color, NSInteger tag) {
     Class backdropClass = objc_getClass("_UIBackdropView");
+    if (reducesTransparency()) {
+        backdropClass = Nil;
+        color = solid(scheme);
+    }
     UIView *view = backdropClass ? [[backdropClass alloc] initWithFrame:frame
                                                 autosizesToFitSuperview:NO
                                                                settings:material(scheme)]
@@ -44,8 +61,7 @@ void addBubbleAndPanel(PanelBuild &build) {
     build.bubble.layer.cornerRadius = 2 * bubbleFrame.size.width;
     build.bubble.alpha = build.placement.bubbleAlpha;
 
-    build.panel = backdrop(toCGRect(build.placement.panel), scheme,
-                           scheme.light ? [UIColor whiteColor] : clear, tags::panel);
+    build.panel = backdrop(toCGRect(build.placement.panel), scheme, panelColor(scheme), tags::panel);
     build.panel.layer.cornerRadius = 0;
 
     CGRect seed = toCGRect(growthPoint(build.itemPlace.frame));

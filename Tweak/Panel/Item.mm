@@ -15,7 +15,6 @@ namespace {
 
 NSString *const kClock = @"com.apple.mobiletimer";
 
-constexpr CGFloat kNameBelowIcon = 5, kNameHeight = 15, kNameBeyond = 10, kNameSize = 12;
 constexpr CGFloat kMarkOrigin = 4;
 constexpr CFTimeInterval kLongPress = 0.1; // seconds
 
@@ -32,10 +31,9 @@ UIImageView *addIcon(PanelBuild &build, const PanelApplication &application, UIV
 }
 
 void addName(PanelBuild &build, NSString *name, UIView *itemView, UIView *icon) {
-    CGRect frame = CGRectMake(-kNameBeyond, CGRectGetMaxY(icon.frame) + kNameBelowIcon,
-                              itemView.frame.size.width + 2 * kNameBeyond, kNameHeight);
-    UILabel *label = panelLabel(frame, name, @"HelveticaNeue", kNameSize, build.scheme.ink);
-    label.lineBreakMode = NSLineBreakByTruncatingMiddle;
+    const Real step = cellFrame(build.layout, 1).x - cellFrame(build.layout, 0).x;
+    UILabel *label = panelLabel(CGRectZero, name, build.names.font, build.scheme.ink);
+    placeName(label, build.names, CGRectGetMaxY(icon.frame), itemView.frame.size.width, step);
     [itemView addSubview:label];
 }
 
@@ -87,6 +85,7 @@ void addGestures(PanelBuild &build, UIView *itemView) {
 
 void addItem(PanelBuild &build, const PanelApplication &application, int index) {
     UIView *itemView = [[UIView alloc] initWithFrame:toCGRect(cellFrame(build.layout, index))];
+    setHeight(itemView, itemView.frame.size.height + build.names.more);
     itemView.layer.name = application.identifier;
     itemView.backgroundColor = [UIColor clearColor];
     itemView.userInteractionEnabled = YES;
@@ -105,11 +104,11 @@ void addItem(PanelBuild &build, const PanelApplication &application, int index) 
     [itemView release];
 }
 
-UILabel *panelLabel(CGRect frame, NSString *text, NSString *font, CGFloat size, UIColor *ink) {
+UILabel *panelLabel(CGRect frame, NSString *text, UIFont *font, UIColor *ink) {
     UILabel *label = [[[UILabel alloc] initWithFrame:frame] autorelease];
     label.text = text;
     label.textAlignment = NSTextAlignmentCenter;
-    label.font = [UIFont fontWithName:font size:size];
+    label.font = font;
     label.textColor = ink;
     return label;
 }

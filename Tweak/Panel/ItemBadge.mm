@@ -63,8 +63,8 @@ void drawBadge(PanelBuild &build, UIImageView *badge, UILabel *label, NSString *
 
 void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame) {
     NSString *text = badgeText([application.icon badgeValue]);
-    UILabel *label = panelLabel(CGRectZero, text, @"HelveticaNeue", 0, [UIColor whiteColor]);
-    label.font = [objc_getClass("SBIconBadgeView") _textFont];
+    UILabel *label =
+        panelLabel(CGRectZero, text, [objc_getClass("SBIconBadgeView") _textFont], [UIColor whiteColor]);
     label.lineBreakMode = NSLineBreakByTruncatingMiddle;
     [label sizeToFit];
     Rect frame = badgeFrame(toRect(iconFrame), label.frame.size.width, panelBadgeHeight());

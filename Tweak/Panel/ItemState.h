@@ -22,6 +22,9 @@ inline void keepDelegate(UIView *item, id delegate) {
     [item.layer setValue:delegate forKey:@"swipeDelegate"];
 }
 
+// The target of its spoken actions, which they do not retain.
+inline void keepActions(UIView *item, id actions) { [item.layer setValue:actions forKey:@"spokenActions"]; }
+
 // An item on its way out; closing it twice would close its neighbour.
 inline BOOL isClosing(UIView *item) { return [[item.layer valueForKey:@"closing"] boolValue]; }
 inline void setClosing(UIView *item) {

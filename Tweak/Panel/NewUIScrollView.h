@@ -13,6 +13,16 @@
 - (void)contentDidChange;
 @end
 
+@interface NewUIScrollView (Spoken)
+// For VoiceOver: the items that are seen whole, from left to right, or the text that there is nothing; none
+// behind a face or a question.
+- (NSArray *)spokenElements;
+// NO when it is there already.
+- (BOOL)scrollTo:(CGFloat)x;
+// Closes the item that has VoiceOver's focus; NO when none has.
+- (BOOL)takeOffFocused;
+@end
+
 // The delegate of an item's swipe recogniser, never attached itself: the swipe goes along with scrolling.
 @interface swipeController : UISwipeGestureRecognizer <UIGestureRecognizerDelegate>
 @end

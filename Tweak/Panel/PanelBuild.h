@@ -4,6 +4,7 @@
 #include "Tweak/Core/Geometry/StripLayout.hpp"
 #include "Tweak/Core/PanelAnchor.h"
 #include "Tweak/Core/Scheme.h"
+#include "Tweak/Panel/NameType.h"
 #include "Tweak/Panel/NewUIScrollView.h"
 
 #include <SpringBoard/SBApplication.h>
@@ -26,7 +27,8 @@ struct PanelBuild {
     BOOL cards;
     BOOL closeMarks;     // closing by marks instead of swipes
     UIImage *closeImage; // a template; nil without the file
-    CGSize screen;       // portrait
+    NameType names;
+    CGSize screen; // portrait
     StripInput layout;
     ItemPlace itemPlace; // where the item is, in the overlay
     Placement placement; // with the strip's height
@@ -85,6 +87,6 @@ void placeDots(UIView *dots, CGFloat width);
 UILabel *addEmptyText(UIView *strip, BOOL running, UIColor *ink);
 
 // A label in the panel's type: centred, in ink.
-UILabel *panelLabel(CGRect frame, NSString *text, NSString *font, CGFloat size, UIColor *ink);
+UILabel *panelLabel(CGRect frame, NSString *text, UIFont *font, UIColor *ink);
 
 } // namespace pendix

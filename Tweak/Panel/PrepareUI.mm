@@ -10,6 +10,7 @@
 #include "Tweak/Lock/Lock.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Panel/Replacements.h"
+#include "Tweak/Panel/SpokenPanel.h"
 
 namespace pendix {
 
@@ -38,7 +39,9 @@ PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
     build.screen = portraitScreenBounds().size;
 
     CGSize icon = [objc_getClass("SBIconView") defaultIconSize];
-    gheight = static_cast<float>(stripHeight(icon.height, build.paging));
+    build.names = currentNameType();
+    const CGFloat height = stripHeight(icon.height, build.paging);
+    gheight = static_cast<float>(height + build.names.more);
     lastGheight = 0;
     lastx = static_cast<float>(item.frame.origin.x);
     build.height = gheight;
@@ -49,7 +52,7 @@ PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
                     .rows = numberOfRows(),
                     .paging = static_cast<bool>(build.paging),
                     .bigScreen = static_cast<bool>([springBoard hasBigScreen]),
-                    .strip = {build.placement.panel.width, gheight}};
+                    .strip = {build.placement.panel.width, static_cast<float>(height)}};
     return build;
 }
 
@@ -60,6 +63,7 @@ void added::prepareUI(SpringBoard *self, SEL, UIStatusBarItemView *item) {
     armLock();
     isShow = YES;
     removeLeftovers();
+    takeOverSpeech(YES);
 
     PanelBuild build = startBuild(self, item);
     addBubbleAndPanel(build);

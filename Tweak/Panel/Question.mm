@@ -1,5 +1,8 @@
 #include "Tweak/Panel/Question.h"
 
+#include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Motion.h"
+#include "Tweak/Core/Accessibility/Speech.h"
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/Geometry/StripLayout.hpp"
 #include "Tweak/Core/PanelAnchor.h"
@@ -8,11 +11,11 @@
 #include "Tweak/Core/SettingKeys.h"
 #include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
-#include "Tweak/Core/Support/UIView+Touchable.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
 #include "Tweak/Panel/CloseMarks.h"
 #include "Tweak/Panel/Drags.h"
+#include "Tweak/Panel/Panel.h"
 #include "Tweak/Panel/PromptButton.h"
 #include "Tweak/Panel/Replacements.h"
 #include "Tweak/Panel/SpringBoard+Gestures.h"
@@ -52,7 +55,7 @@ void buildPrompt(SpringBoard *target, UIColor *ink, BOOL running) {
     text.tag = tags::promptText;
     text.textAlignment = NSTextAlignmentCenter;
     text.numberOfLines = kTextLines;
-    text.font = [UIFont fontWithName:@"HelveticaNeue-Light" size:kTextSize];
+    text.font = textFont(@"HelveticaNeue-Light", kTextSize);
     text.textColor = ink;
     text.text = Translator(running ? @"clear_app" : @"clear_badge");
     [contentView() addSubview:text];
@@ -105,11 +108,13 @@ void ask(SpringBoard *springBoard, float duration) {
         buildPrompt(springBoard, ink, running);
     }
     CGRect frame = frameWithHeight(panelView(), gheight + kGrowth);
-    [UIView animateTouchablyFor:duration
-                     animations:^{
-                         panelView().frame = frame;
-                         placeContent(YES);
-                     }];
+    change(
+        duration, [NSArray arrayWithObjects:contentView(), nil],
+        ^{
+            panelView().frame = frame;
+            placeContent(YES);
+        },
+        ^(BOOL) { focusOnPanel(); });
     fadeAnswers(1, duration * kFadeShare, duration * (1 - kFadeShare));
 }
 
@@ -117,16 +122,23 @@ void added::dismissRequest(SpringBoard *, SEL) {
     if (!isShow) return;
     const float duration = animationDuration(kShrinking);
     CGRect frame = frameWithHeight(panelView(), gheight);
+    const BOOL still = reducesMotion();
+    forPromptViews([&](UIView *view) {
+        view.accessibilityElementsHidden = YES;
+        if (still) view.hidden = YES;
+    });
     fadeAnswers(0, duration * kFadeShare, 0);
-    [UIView animateTouchablyFor:duration
-        animations:^{
+    change(
+        duration, [NSArray arrayWithObjects:contentView(), nil],
+        ^{
             panelView().frame = frame;
             placeContent(NO);
-        }
-        completion:^(BOOL) {
+        },
+        ^(BOOL) {
             forPromptViews([](UIView *view) { [view removeFromSuperview]; });
             strip().userInteractionEnabled = YES;
-        }];
+            focusOnPanel();
+        });
 }
 
 void added::okay(SpringBoard *self, SEL) {

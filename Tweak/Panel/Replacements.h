@@ -4,6 +4,20 @@
 #include <SpringBoard/SpringBoard.h>
 #include <UIKit/UIKit.h>
 
+// Run in place of the system's methods.
+namespace pendix::hooked {
+
+BOOL performEscape(UIWindow *self, SEL _cmd);
+
+} // namespace pendix::hooked
+
+// What those ran before; null while the row is not installed.
+namespace pendix::original {
+
+inline decltype(&hooked::performEscape) performEscape = nullptr;
+
+} // namespace pendix::original
+
 // Methods that the system does not have; callers see them through the category headers.
 namespace pendix::added {
 

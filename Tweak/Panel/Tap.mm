@@ -1,4 +1,5 @@
 // Bringing the panel up.
+#include "Tweak/Core/Accessibility/Aids.h"
 #include "Tweak/Core/AnimationDuration.h"
 #include "Tweak/Core/Scheme.h"
 #include "Tweak/Core/SettingKeys.h"
@@ -19,8 +20,9 @@ constexpr CGFloat kDimmedItems = 0.3;
 
 UIColor *dimming() {
     constexpr CGFloat kBarely = 0.01, kStrong = 0.7;
-    if (isOn(keys::clearBackground)) return [UIColor colorWithWhite:0 alpha:kBarely];
-    return [UIColor colorWithWhite:currentScheme().light ? 0 : 1 alpha:kStrong];
+    const BOOL covers = reducesTransparency() && isOn(keys::blursScreen); // instead of blurring
+    if (!covers && isOn(keys::clearBackground)) return [UIColor colorWithWhite:0 alpha:kBarely];
+    return [UIColor colorWithWhite:currentScheme().light ? 0 : 1 alpha:covers ? 1 : kStrong];
 }
 
 void follow(SpringBoard *springBoard) {

@@ -106,6 +106,9 @@ std::span<const HookRow> hookTable() {
         hook("SBApplication", "willActivate", hooked::willActivate, original::willActivate),
         hook("SBApplication", "willAnimateDeactivation:", hooked::willAnimateDeactivation,
              original::willAnimateDeactivation),
+        hook("UIStatusBarItemView", "accessibilityValue", hooked::accessibilityValue,
+             original::accessibilityValue),
+        hook("UIWindow", "accessibilityPerformEscape", hooked::performEscape, original::performEscape),
     };
     return rows;
 }

@@ -1,4 +1,7 @@
+#include "Tweak/Core/Accessibility/Wording.h"
 #include "Tweak/Core/Names.h"
+#include "Tweak/Core/SettingKeys.h"
+#include "Tweak/Core/Settings.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/StatusBar/Replacements.h"
 #include "Tweak/StatusBar/StatusBar.h"
@@ -47,7 +50,16 @@ id hooked::initWithItem(UIStatusBarItemView *self, SEL _cmd, UIStatusBarItem *it
                                                                           action:@selector(tap)];
     [view addGestureRecognizer:tap];
     [tap release];
+    view.isAccessibilityElement = YES;
+    view.accessibilityLabel = @"Pendix";
+    view.accessibilityTraits = UIAccessibilityTraitButton;
     return view;
+}
+
+// Of the extension's own: how many applications wait, unless the lock keeps it.
+NSString *hooked::accessibilityValue(UIStatusBarItemView *self, SEL _cmd) {
+    if (![self isPendix:self]) return original::accessibilityValue(self, _cmd);
+    return panelWouldAsk() ? nil : waitingText(applicationsWaiting(), isOn(keys::runningMode));
 }
 
 // The status bar switches its item views off; they stay touchable, all of them.

@@ -12,6 +12,7 @@ namespace pendix::hooked {
 
 void setUserInteractionEnabled(UIStatusBarItemView *self, SEL _cmd, BOOL enabled);
 id initWithItem(UIStatusBarItemView *self, SEL _cmd, UIStatusBarItem *item, id data, int actions, id style);
+NSString *accessibilityValue(UIStatusBarItemView *self, SEL _cmd);
 BOOL touchShouldProduceReturnEvent(UIStatusBar *self, SEL _cmd);
 id initBadgeView(SBIconBadgeView *self, SEL _cmd);
 void resizeForTextImage(SBIconBadgeView *self, SEL _cmd, UIImage *image);
@@ -26,6 +27,7 @@ namespace pendix::original {
 
 inline decltype(&hooked::setUserInteractionEnabled) setUserInteractionEnabled = nullptr;
 inline decltype(&hooked::initWithItem) initWithItem = nullptr;
+inline decltype(&hooked::accessibilityValue) accessibilityValue = nullptr;
 inline decltype(&hooked::touchShouldProduceReturnEvent) touchShouldProduceReturnEvent = nullptr;
 inline decltype(&hooked::initBadgeView) initBadgeView = nullptr;
 inline decltype(&hooked::resizeForTextImage) resizeForTextImage = nullptr;

@@ -38,7 +38,16 @@
 - (void)alphaStatusBar:(NSTimer *)timer;
 @end
 
-// What the indicator asks for; the panel answers.
+// What the indicator asks for; the lock and the panel answer.
+namespace pendix {
+
+// Whether the panel would show a face of the lock if it were opened now.
+BOOL panelWouldAsk();
+// How many applications it would list.
+int applicationsWaiting();
+
+} // namespace pendix
+
 @interface SpringBoard (PendixIndicatorTap)
 // Opens the panel out of the indicator, unless `enable` is off.
 - (void)tap;

@@ -2,7 +2,7 @@
 
 #include <Foundation/NSObject.h>
 
-@class NSError;
+@class NSArray, NSError;
 
 typedef NSUInteger NSStringEncoding;
 enum { NSUTF8StringEncoding = 4 };
@@ -24,6 +24,7 @@ typedef struct _NSRange {
 - (BOOL)hasSuffix:(NSString *)suffix;
 // NSNotFound as location when it does not occur.
 - (NSRange)rangeOfString:(NSString *)part;
+- (NSArray *)componentsSeparatedByString:(NSString *)separator;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)substringFromIndex:(NSUInteger)index;
 - (NSString *)substringToIndex:(NSUInteger)index;
