@@ -8,6 +8,8 @@
 #include "Tweak/Core/Screen.h"
 #include "Tweak/Core/Settings.h"
 
+#include <algorithm>
+
 namespace pane = pendix::pane;
 
 namespace {
@@ -160,6 +162,15 @@ size_t indexOfColor(id name) {
 - (NSString *)accessibilityValue {
     NSString *key = [@"color_" stringByAppendingString:pane::stringFromColor(pane::ciccia)];
     return pane::Translator(key);
+}
+
+// What of them is on the screen.
+- (CGRect)accessibilityFrame {
+    UIWindow *window = self.window;
+    const CGRect screen = [window convertRect:window.bounds toView:self];
+    CGRect seen = self.bounds;
+    seen.size.height = std::min(CGRectGetMaxY(seen), CGRectGetMaxY(screen)) - seen.origin.y;
+    return UIAccessibilityConvertFrameToScreenCoordinates(seen, self);
 }
 
 - (void)accessibilityIncrement {

@@ -108,6 +108,18 @@ void setOrigin(UIView *view, CGFloat x, CGFloat y) {
     return [NSString stringWithFormat:@"%@, %@", step, entered];
 }
 
+// The group that is typed, from its text to its digits.
+- (CGRect)accessibilityFrame {
+    NSArray *views = self.subviews;
+    const NSUInteger first = static_cast<NSUInteger>(_group) * pane::kGroupSize;
+    if (first + pane::kDigits >= [views count]) return CGRectZero;
+    const CGRect text = [(UIView *)[views objectAtIndex:first] frame],
+                 digit = [(UIView *)[views objectAtIndex:first + pane::kDigits] frame];
+    const CGRect group =
+        CGRectMake(text.origin.x, text.origin.y, text.size.width, CGRectGetMaxY(digit) - text.origin.y);
+    return UIAccessibilityConvertFrameToScreenCoordinates(group, self);
+}
+
 - (CGFloat)barHeight {
     UIViewController *page = (UIViewController *)self.nextResponder;
     return page.navigationController.navigationBar.frame.size.height;
