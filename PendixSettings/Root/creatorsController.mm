@@ -7,6 +7,8 @@
 
 #include <UIKit/UIKit.h>
 
+#include <algorithm>
+
 namespace pane = pendix::pane;
 
 namespace {
@@ -29,7 +31,8 @@ void addLine(UIView *page, NSString *text, NSString *font, CGFloat size, UIColor
     label.text = text;
     label.textAlignment = NSTextAlignmentCenter;
     label.numberOfLines = 0;
-    label.font = pendix::textFont(font, size);
+    constexpr CGFloat kMost = 1.5; // the page does not scroll
+    label.font = pendix::textFont(font, size * std::min(pendix::textScale(), kMost));
     label.textColor = color;
     [page addSubview:label];
     [label release];

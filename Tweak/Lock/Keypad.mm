@@ -95,10 +95,12 @@ void clearDot(UIView *dot) {
     dot.backgroundColor = [UIColor clearColor];
 }
 
-// Where motion is reduced the dots do not shake.
+// Those that have not been filled again meanwhile.
 void flashDots(UIView *keypad) {
     UIColor *ink = inkOf(keypad);
-    for (int dot = 0; dot < kCodeLength; ++dot) flash(dotAt(keypad, dot), ink);
+    const FilledDots filled = filledDots(keypad);
+    for (int dot = 0; dot < kCodeLength; ++dot)
+        if (!filled[static_cast<size_t>(dot)]) flash(dotAt(keypad, dot), ink);
 }
 
 int countOf(const FilledDots &filled) {
@@ -141,16 +143,18 @@ void added::dismisPendixUIorDelete(SpringBoard *self, SEL, UIButton *button) {
 void added::tryAgain(SpringBoard *self, SEL, UIView *keypad) {
     keypad = [keypad viewWithTag:tags::keypadFace];
     titleOf(keypad).text = Translator(@"try");
+    // Where motion is reduced the emptied dots flash once instead of shaking.
+    const BOOL flashes = reducesMotion();
     [UIView animateWithDuration:animationDuration(kDotChange)
-                     animations:^{
-                         for (int dot = 0; dot < kCodeLength; ++dot) clearDot(dotAt(keypad, dot));
-                     }];
+        animations:^{
+            for (int dot = 0; dot < kCodeLength; ++dot) clearDot(dotAt(keypad, dot));
+        }
+        completion:^(BOOL) {
+            if (flashes) flashDots(keypad);
+        }];
     tellEntered(keypad, 0);
     announce(@"spoken_wrong");
-    if (reducesMotion()) {
-        flashDots(keypad);
-        return;
-    }
+    if (flashes) return;
     const ShakeMove first;
     [self animateError:keypad duration:first.distance first:first.left sign:first.sign];
 }

@@ -66,7 +66,7 @@ void added::dismisPendixUI(SpringBoard *self, SEL) {
     takeOverSpeech(NO);
     requireFinger = NO;
     if ([self hasTouchID]) stopFingerMonitor();
-    turnCorners(panelView(), kPanelRadius, 0, kSquaring);
+    if (!reducesMotion()) turnCorners(panelView(), kPanelRadius, 0, kSquaring);
     [UIView animateTouchablyFor:animationDuration(kClosing)
         animations:^{
             window.backgroundColor = [UIColor clearColor];

@@ -1,6 +1,7 @@
 #include "Tweak/Panel/NameType.h"
 
 #include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/PanelViews.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,6 +34,8 @@ void placeName(UILabel *name, const NameType &type, CGFloat y, CGFloat width, CG
     name.font = type.font;
     name.numberOfLines = type.lines;
     name.lineBreakMode = type.lines > 1 ? NSLineBreakByTruncatingTail : NSLineBreakByTruncatingMiddle;
+    // A name of one line stands at the top of two.
+    if (type.lines > 1) setHeight(name, std::min([name sizeThatFits:name.frame.size].height, type.height));
 }
 
 } // namespace pendix

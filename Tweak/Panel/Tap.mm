@@ -20,9 +20,11 @@ constexpr CGFloat kDimmedItems = 0.3;
 
 UIColor *dimming() {
     constexpr CGFloat kBarely = 0.01, kStrong = 0.7;
-    const BOOL covers = reducesTransparency() && isOn(keys::blursScreen); // instead of blurring
-    if (!covers && isOn(keys::clearBackground)) return [UIColor colorWithWhite:0 alpha:kBarely];
-    return [UIColor colorWithWhite:currentScheme().light ? 0 : 1 alpha:covers ? 1 : kStrong];
+    constexpr CGFloat kCoverDark = 0.15, kCoverLight = 0.85; // white; instead of blurring
+    if (reducesTransparency() && isOn(keys::blursScreen))
+        return [UIColor colorWithWhite:currentScheme().light ? kCoverDark : kCoverLight alpha:1];
+    if (isOn(keys::clearBackground)) return [UIColor colorWithWhite:0 alpha:kBarely];
+    return [UIColor colorWithWhite:currentScheme().light ? 0 : 1 alpha:kStrong];
 }
 
 void follow(SpringBoard *springBoard) {
