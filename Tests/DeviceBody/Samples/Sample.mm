@@ -1,6 +1,8 @@
 // An extension for a phone, small and, by the macro that it is compiled with, wrong in one way. What the
 // loader of the simulated processes has to refuse, or to notice while it runs.
 #import <UIKit/UIKit.h>
+
+#include <Darwin/dlfcn.h>
 #include <objc/runtime.h>
 #include <stdio.h>
 
@@ -100,7 +102,17 @@ __attribute__((used)) void (^sampleBlock)(BOOL) = ^(BOOL truth) {
     if (truth) NSLog(@"<Sample> a block");
 };
 
+// A function that is looked for, one that there is not, a function and a number that are imported.
+static void logWhatIsFound() {
+    auto *ask = reinterpret_cast<BOOL (*)(void)>(dlsym(RTLD_DEFAULT, "UIAccessibilityIsReduceMotionEnabled"));
+    bool none = !dlsym(RTLD_DEFAULT, "noSuchFunction");
+    CGRect place = UIAccessibilityConvertFrameToScreenCoordinates(CGRectMake(0, 0, 3, 0), nil);
+    NSLog(@"<Sample> %d, %d, %d, %d", ask && !ask(), none, static_cast<int>(place.size.width),
+          static_cast<int>(UIAccessibilityTraitHeader >> 14));
+}
+
 static void run() {
+    logWhatIsFound();
     [[SampleClass made] take:YES];
     NSLog(@"%@, which adds %d", [[[UIView alloc] init] autorelease], [UIView sampleOfClass]);
 #ifdef MISSING_FUNCTION
