@@ -122,7 +122,7 @@ def unpack(package, to):
 def add_programs(path, build, processes, sysroot, report):
     (path / "bin").mkdir(parents=True)
     shutil.copy2(build / "bin/pendix-sim", path / "bin")
-    for name in ("platform", "page", "Lua"):
+    for name in ("platform", "page", "trace", "Lua"):
         (path / "stage" / name).symlink_to(build / "stage" / name)
     shutil.copy2(build / "stage/settings.json", path / "stage")
     # Of somebody's extension too, the phone's library.

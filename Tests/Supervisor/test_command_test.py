@@ -64,6 +64,7 @@ class TestCommand(unittest.TestCase):
         self.write("broken.lua", "local x =")
         self.write("boots.lua", "test('an early one', function() end) test('boots', function() boot { ios = '3' } end)")
         self.write("outside.lua", "test('one', function() end) expect(false, 'stray')")
+        self.write("ends.lua", "test('one', function() end) error('early')")
         self.write("nested.lua", "test('one', function() test('two', print) end)")
         ok = {name: f"ok      a/{name}" for name in ("tests.lua: holds", "tests.lua: goes on", "whole.lua")}
         bad = [f"failed  a/tests.lua: {name}" for name in ("is wrong", "ends in an error")]
@@ -82,6 +83,8 @@ class TestCommand(unittest.TestCase):
               "2 passed, 2 failed"], ["broken.lua:1: unexpected symbol", "stray"]),
             (["boots.lua"], 2, ["ok      boots.lua: an early one", "failed  boots.lua: boots", "1 passed, 1 failed"],
              ["iOS 3 is not simulated"]),
+            (["outside.lua", "--filter", "none"], 2, ["0 passed, 0 failed"], []),
+            (["ends.lua", "--filter", "none"], 1, ["failed  ends.lua: outside of its tests", "0 passed, 1 failed"], ["early"]),
             (["nested.lua"], 1, ["failed  nested.lua: one", "0 passed, 1 failed"], ["a test cannot stand in a test"]),
             (["nowhere"], 2, [], ["nowhere"]),
             (["a", "--jobs", "0"], 2, [], ["1 or more"]),
@@ -166,6 +169,7 @@ phone:tap("nowhere")""")
         self.assertEqual(trace["screens"], ["iPhone 6, iOS 8.1", "Settings on iPhone 6, iOS 8.1"])
         self.assertEqual([round(step["to"], 3) for step in trace["steps"][:5]], [0, 0, 0.333, 0.433, 0.433])
         self.assertIn([0.0, "badge_set", "id com.apple.mobilemail  value 3"], trace["steps"][1]["events"])
+        self.assertEqual([event[1] for event in trace["steps"][2]["events"] if event[1] != "original"], [], "told once")
         tree = [trace["lines"][line] for line in trace["trees"][trace["steps"][1]["tree"]]]
         self.assertTrue(any(line.lstrip().startswith("SBIconBadgeView (") for line in tree))
         self.assertTrue(tree[0].endswith("\t0 0 375 667"), tree[0])
@@ -211,10 +215,10 @@ phone:tap("nowhere")""")
         self.assertIn("640 x 1136 pixels, wanted 640 x 960", said)
         self.assertEqual(names, ["blink", "reference", "result"])
 
-        differing = int(compared("--", "3", status=1)[0].split(" pixels differ")[0].split()[-1])
+        differing, largest = map(int, re.search(r"(\d+) pixels differ.* channel is (\d+)", compared("--", "3", status=1)[0]).groups())
         text = shown.read_text()
         for allowed, status in ((f"{{ max_pixels = {differing} }}", 0), (f"{{ max_pixels = {differing - 1} }}", 1),
-                                ("{ tolerance = 255 }", 0), ("{ tolerance = 1 }", 1),
+                                (f"{{ tolerance = {largest} }}", 0), (f"{{ tolerance = {largest - 1} }}", 1),
                                 ("{ tolerence = 1 }", "did you mean 'tolerance'?"), ("7", "a table {tolerance"),
                                 ("{ max_pixels = -1 }", "a whole number from 0 on, not -1")):
             with self.subTest(allowed):
