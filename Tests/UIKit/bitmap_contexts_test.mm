@@ -157,3 +157,19 @@ TEST(ImageBytes, OfAFileBeginWithRedAndAreNotMultiplied) {
     ASSERT_TRUE(again);
     EXPECT_EQ(again->pixels, (std::vector<uint32_t>{0xff102030, 0x80400000}));
 }
+
+// Opaque pixels are turned many at a time; what a pixel becomes must not depend on its neighbours.
+TEST(BitmapContext, HandsOutEachPixelOfAPictureAsIfItWereAlone) {
+    const uint32_t kinds[] = {0xff123456, 0x80402010, 0, 0xffabcdef};
+    for (size_t other = 0; other < 40; ++other) {
+        std::vector<uint32_t> pixels(37, kinds[0]);
+        for (size_t i = other; i < pixels.size(); i += 11) pixels[i] = kinds[1 + i % 3];
+        UIImage *image = imageOf(37, 1, pixels);
+        Bytes all = bytesOf(image);
+        for (size_t i = 0; i < pixels.size(); ++i)
+            EXPECT_EQ(Bytes(&all[4 * i], &all[4 * i] + 4), bytesOf(imageOf(1, 1, {pixels[i]})))
+                << other << ", " << i;
+        EXPECT_EQ(bytesOf(image), all) << "asked for again";
+    }
+    EXPECT_EQ(bytesOf(imageOf(1, 1, {kinds[0]})), (Bytes{0x12, 0x34, 0x56, 0xff}));
+}

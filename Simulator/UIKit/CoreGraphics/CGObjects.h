@@ -30,6 +30,8 @@
     // Pixels of a drawing context are handed out as they lie in memory (blue first, premultiplied), those of
     // a decoded file as red, green, blue and straight alpha.
     BOOL fromContext;
+    // The latter, once somebody has asked for them; retained. An image never changes.
+    NSData *straightPixels;
 }
 @end
 
