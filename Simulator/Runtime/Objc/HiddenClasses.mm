@@ -27,11 +27,17 @@ Function *next(Function *, const char *name) {
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
+// Where the library lies that has this address; nullptr: in none. Unlike dladdr it does not look for a
+// symbol.
+const void *libraryAt(void *address) {
+    dl_find_object found;
+    return _dl_find_object(address, &found) == 0 ? found.dlfo_map_start : nullptr;
+}
+
 // Whether the caller at `address` is the language runtime itself.
-bool isRuntime(const void *address) {
-    Dl_info caller, runtime;
-    return dladdr(address, &caller) && dladdr(dlsym(RTLD_NEXT, "objc_getClass"), &runtime) &&
-           caller.dli_fbase == runtime.dli_fbase;
+bool isRuntime(void *address) {
+    static const void *const runtime = libraryAt(dlsym(RTLD_NEXT, "objc_getClass"));
+    return libraryAt(address) == runtime;
 }
 
 #define HIDDEN_FROM_CALLER(name) (isHidden(name) && !isRuntime(__builtin_return_address(0)))

@@ -47,8 +47,18 @@ UIImage *stretchable(UIImage *disc) {
 }
 
 + (UIImage *)_checkoutImageForText:(NSString *)text highlighted:(BOOL)highlighted {
+    // "Checked out": the platform keeps them, too.
+    constexpr NSUInteger kMostKept = 64;
+    static NSMutableDictionary *const kept[] = {[NSMutableDictionary new], [NSMutableDictionary new]};
+    NSMutableDictionary *images = kept[highlighted ? 1 : 0];
+    if (!text) return nil;
+    if (UIImage *image = [images objectForKey:text]) return image;
     UIColor *white = [UIColor whiteColor];
-    return sim::textImage(text, [self _textFont], highlighted ? [white colorWithAlphaComponent:0.6] : white);
+    UIImage *image =
+        sim::textImage(text, [self _textFont], highlighted ? [white colorWithAlphaComponent:0.6] : white);
+    if ([images count] >= kMostKept) [images removeAllObjects];
+    if (image) [images setObject:image forKey:text];
+    return image;
 }
 
 - (instancetype)init {

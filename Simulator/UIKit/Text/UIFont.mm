@@ -1,6 +1,7 @@
 #include "FontState.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -24,6 +25,14 @@ render::Face face(NSString *name) {
     return render::Face::regular;
 }
 
+// As the platform does, the same font is made once: labels ask for few, and often.
+constexpr size_t kMostKept = 64;
+
+std::vector<UIFont *> &keptFonts() {
+    static auto &fonts = *new std::vector<UIFont *>;
+    return fonts;
+}
+
 } // namespace
 
 namespace sim {
@@ -35,9 +44,12 @@ render::TextStyle textStyle(UIFont *font) { return {.face = state(font).face, .s
 @implementation UIFont
 
 + (UIFont *)fontWithName:(NSString *)name size:(CGFloat)size {
+    for (UIFont *kept : keptFonts())
+        if (state(kept).size == size && [state(kept).name isEqualToString:name]) return kept;
     if (!isKnown(name)) return nil;
     UIFont *font = [[self new] autorelease];
     font->_fontState = new FontState{[name copy], face(name), size};
+    if (keptFonts().size() < kMostKept) keptFonts().push_back([font retain]);
     return font;
 }
 
