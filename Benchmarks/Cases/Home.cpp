@@ -1,6 +1,7 @@
 // What the extension does on a home screen.
 #include "Measuring/Case.hpp"
 #include "Measuring/Frames.hpp"
+#include "Measuring/ViewTree.hpp"
 
 namespace bench {
 
@@ -101,6 +102,32 @@ Case opening(int count) {
             .prepare = touchIndicator,
             .work = lift,
             .restore = finishAndClose};
+}
+
+// The floor of opening: its views built once more, with their images, and laid out.
+Case openingBare(int count) {
+    auto tree = std::make_shared<ViewTree>();
+    return {.name = "opening_bare/" + std::to_string(count),
+            .options = phone(count),
+            .setUp =
+                [tree, count](Device &device) {
+                    expectItems(count)(device);
+                    tree->begin();
+                    open(device);
+                    tree->record();
+                    close(device);
+                    if (tree->views() < 6 * count) throw std::runtime_error("views are missing");
+                },
+            .work =
+                [tree](Device &device) {
+                    tree->build();
+                    device.advance(0);
+                },
+            .restore =
+                [tree](Device &device) {
+                    tree->remove();
+                    device.settle();
+                }};
 }
 
 // From the finger that lifts outside the panel to the moment at which its views are gone.
@@ -218,6 +245,7 @@ std::vector<Case> allCases() {
     std::vector<Case> cases = {launch("launch", true), launch("launch_without", false), tick()};
     for (int count : {1, 20, 200}) cases.push_back(badge(count));
     for (int count : {1, 10, 50, 200, 500}) cases.push_back(opening(count));
+    cases.push_back(openingBare(200));
     for (int count : {1, 10, 50, 200, 500}) cases.push_back(closing(count));
     for (bool blur : {false, true}) cases.push_back(openingFrame(blur));
     for (bool blur : {false, true}) cases.push_back(openFrame(blur));
