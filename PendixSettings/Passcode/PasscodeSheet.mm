@@ -2,7 +2,6 @@
 
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Passcode/PasscodeView.h"
-#include "Tweak/Core/Accessibility/Speech.h"
 
 namespace pendix::pane {
 
@@ -32,14 +31,13 @@ UIViewController *newRoot(const PasscodeSheet &sheet) {
 void present(const PasscodeSheet &sheet) {
     UIViewController *root = newRoot(sheet);
     UINavigationController *navigation = [[UINavigationController alloc] initWithRootViewController:root];
-    [presenter() presentViewController:navigation animated:YES completion:nil];
+    PasscodeView *view = (PasscodeView *)root.view;
+    [presenter() presentViewController:navigation animated:YES completion:^{ [view takeFocus]; }];
     // What stands on it is laid out for the size that it was presented in.
     [navigation.view layoutIfNeeded];
-    PasscodeView *view = (PasscodeView *)root.view;
     view.group = sheet.first;
     for (NSString *key : sheet.groups) [view addGroup:shownText(key)];
     [view addFieldFor:sheet.page action:sheet.typed];
-    focusOnScreen(view);
     [navigation release];
     [root release];
 }

@@ -15,4 +15,6 @@
 // Its changes are told to the target. It takes the keyboard.
 - (void)addFieldFor:(id)target action:(SEL)typed;
 - (void)placeGroups;
+// VoiceOver goes to it, after the system has sent it to the bar above.
+- (void)takeFocus;
 @end

@@ -4,6 +4,7 @@
 #include "PendixSettings/Passcode/DigitEntry.hpp"
 #include "PendixSettings/Passcode/PasscodeSheet.h"
 #include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Speech.h"
 #include "Tweak/Core/Accessibility/Wording.h"
 #include "Tweak/Core/Names.h"
 
@@ -106,6 +107,15 @@ void setOrigin(UIView *view, CGFloat x, CGFloat y) {
     NSString *step = pendix::filledIn(pane::Translator(@"spoken_step"), pendix::digits(_group - _first + 1),
                                       pendix::digits(groups));
     return [NSString stringWithFormat:@"%@, %@", step, entered];
+}
+
+- (void)takeFocus {
+    if (!pendix::voiceOverRuns()) return;
+    [NSTimer scheduledTimerWithTimeInterval:0 target:self selector:@selector(focus:) userInfo:nil repeats:NO];
+}
+
+- (void)focus:(NSTimer *)timer {
+    pendix::focusOnScreen(self);
 }
 
 // The group that is typed, from its text to its digits.

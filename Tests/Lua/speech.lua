@@ -77,22 +77,23 @@ function S.said(phone)
   return list
 end
 
--- Every element has a name, lies on the screen and clear of the others, and they are read as one reads.
-function S.orderly(where, what, width, height)
+-- Every element has a name, lies clear of the others and, given a size, on the screen, and they are read as one reads,
+-- unless `sideways`: what hangs turned on a screen that is not.
+function S.orderly(where, what, size, sideways)
   local list = S.elements(where)
   expect(#list > 0, what .. ": something is heard")
   for i, element in ipairs(list) do
     local a, name = element.screen, what .. ": " .. (element.label or "?")
     expect((element.label or "") ~= "", name .. " has a name")
-    expect(a.w >= 1 and a.h >= 1 and a.x >= -0.01 and a.y >= -0.01 and a.x + a.w <= width + 0.01 and
-      a.y + a.h <= height + 0.01, name .. " lies on the screen")
+    expect(a.w >= 1 and a.h >= 1, name .. " has a size")
+    expect(not size or a.x > -0.1 and a.y > -0.1 and a.x + a.w < size[1] + 0.1 and a.y + a.h < size[2] + 0.1,
+      name .. " lies on the screen")
     for k = i + 1, #list do
       local b = list[k].screen
-      local apart = a.x + a.w <= b.x + 0.01 or b.x + b.w <= a.x + 0.01 or a.y + a.h <= b.y + 0.01 or b.y + b.h <= a.y + 0.01
+      local apart = a.x + a.w < b.x + 0.1 or b.x + b.w < a.x + 0.1 or a.y + a.h < b.y + 0.1 or b.y + b.h < a.y + 0.1
       expect(apart, name .. " lies clear of " .. (list[k].label or "?"))
-      if k == i + 1 then
-        expect(b.y + b.h / 2 >= a.y or b.x >= a.x, name .. " is read before " .. (list[k].label or "?"))
-      end
+      local after = sideways or b.y + b.h / 2 > a.y + a.h or (b.x > a.x and b.y + b.h > a.y)
+      expect(k > i + 1 or after, name .. " is read before " .. (list[k].label or "?"))
     end
   end
   return list

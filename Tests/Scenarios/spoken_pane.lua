@@ -16,17 +16,17 @@ for _, ios in ipairs{ "7.1", "8.1" } do
     pane:activate(S.reach(pane, label))
     S.settle(pane)
   end
-  -- The back button, by the name of the page before.
+  -- The back button is called like the page before, or "Back".
   local function back()
-    at[#at] = nil
-    press(#at == 0 and "Pendix" or at[#at])
+    for _, element in ipairs(pane:spoken()) do
+      if element.view.class == "UINavigationItemButtonView" then pane:activate(element) end
+    end
+    S.settle(pane)
   end
   local function go(path)
-    while #at > 0 do back() end
-    for _, label in ipairs(path) do
-      press(label)
-      at[#at + 1] = label
-    end
+    for _ = 1, #at do back() end
+    for _, label in ipairs(path) do press(label) end
+    at = path
   end
   local function stored(setting)
     local settings = phone:settings()
@@ -46,12 +46,11 @@ for _, ios in ipairs{ "7.1", "8.1" } do
       press(setting.key == "amount" and "2" or setting.label)
       if setting.key ~= "amount" then
         press(setting.titles[3])
-        press(at[#at])
+        back()
       end
       expect_eq(stored(setting), setting.key == "amount" and "2" or setting.values[3], setting.label)
     elseif setting.kind == "color" then
       press(setting.label)
-      local cards = pane:find{ class = "cards" }.screen
       local function element()
         for _, each in ipairs(pane:spoken()) do
           if each.traits[1] == "adjustable" then return each end
@@ -65,23 +64,28 @@ for _, ios in ipairs{ "7.1", "8.1" } do
       press("Apply")
       press("OK")
       expect_eq(stored(setting), "orange", "is stored")
-      press(at[#at])
+      back()
     end
   end
 
-  -- The code: a first one, a wrong and the right old one, another.
+  -- The code: a first one, and a wrong old one.
   go(paths.passcode)
-  S.said(pane)
-  local function types(digits, words)
-    for digit in digits:gmatch("%d") do press(digit) end
-    expect_eq(S.said(pane)[1], words, "after " .. digits)
+  local function says(words, what)
+    pane:wait(0.1)
+    local said = S.said(pane)
+    expect_eq(said[#said], words, what)
   end
   press("Change Passcode")
-  expect_eq(S.said(pane)[1], "Enter your new passcode, Step 1 of 2, 0 of 4 digits entered", "the sheet")
+  says("Enter your new passcode, Step 1 of 2, 0 of 4 digits entered", "the sheet")
   press("1")
   expect_eq(S.find(pane, "Enter your new passcode").value, "Step 1 of 2, 1 of 4 digits entered", "how much is typed")
-  types("234", "Re-enter your new passcode, Step 2 of 2, 0 of 4 digits entered")
-  types("1234", S.said(pane)[1])
+  for digit in ("234"):gmatch("%d") do press(digit) end
+  says("Re-enter your new passcode, Step 2 of 2, 0 of 4 digits entered", "the next step")
+  S.enter(pane, "1234")
   expect_eq(phone:settings().password, "1234", "the code is set")
+  press("Change Passcode")
+  says("Enter your old passcode, Step 1 of 3, 0 of 4 digits entered", "now the old one is asked for")
+  S.enter(pane, "1111")
+  says("Wrong passcode. Try again.", "a wrong one is told")
   P.no_harm(phone, pane)
 end

@@ -37,6 +37,9 @@ BOOL isShown(UIView *face);
 // Of the three faces, the one that VoiceOver finds; none for nil. The others wait beside it or behind it.
 void letSpeak(UIView *face);
 
+// Has the face read from its title over the keys to the buttons.
+void orderFace(UIView *face);
+
 // Whether the panel was built for a finger, or has been switched to it, and not to the keypad.
 BOOL fingerFaceIsChosen();
 

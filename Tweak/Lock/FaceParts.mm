@@ -1,10 +1,12 @@
 #include "Tweak/Lock/FaceParts.h"
 
 #include "Tweak/Core/Accessibility/Aids.h"
+#include "Tweak/Core/Accessibility/Speech.h"
 #include "Tweak/Core/PanelViews.h"
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Tags.h"
 #include "Tweak/Core/Translator.h"
+#include "Tweak/Lock/CodeEntry.hpp"
 
 namespace pendix {
 
@@ -53,6 +55,21 @@ void letSpeak(UIView *face) {
         UIView *each = lockFace(tag);
         each.accessibilityElementsHidden = each != face;
     }
+}
+
+void orderFace(UIView *face) {
+    NSMutableArray *title = [NSMutableArray array], *keys = [NSMutableArray array],
+                   *buttons = [NSMutableArray array];
+    for (UIView *view in face.subviews) {
+        if (view.tag == tags::faceTitle) [title addObject:view];
+        if ([view isKindOfClass:[UIButton class]]) [buttons addObject:view];
+    }
+    const int order[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 0};
+    for (int digit : order)
+        if (UIView *key = subviewWithTag(face, keyOfDigit(digit))) [keys addObject:key];
+    [title addObjectsFromArray:keys];
+    [title addObjectsFromArray:buttons];
+    readInOrder(face, title);
 }
 
 UIView *spokenFaceTitle() {

@@ -72,6 +72,8 @@ CGFloat addLockFaces(const LockFacesInput &input) {
         shown.alpha = 0;
         shown = addAskFace(input);
     }
+    for (UIView *face in input.content.subviews)
+        if (face != input.strip && face != input.dots) orderFace(face);
     letSpeak(shown);
     cover(input.content);
     return shown.frame.size.height;

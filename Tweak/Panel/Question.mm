@@ -107,6 +107,11 @@ void ask(SpringBoard *springBoard, float duration) {
         forPromptViews([](UIView *view) { view.hidden = YES; });
         buildPrompt(springBoard, ink, running);
     }
+    NSMutableArray *seen = [NSMutableArray array];
+    forPromptViews([&](UIView *view) {
+        if (!view.hidden) [seen addObject:view];
+    });
+    readInOrder(contentView(), seen);
     CGRect frame = frameWithHeight(panelView(), gheight + kGrowth);
     change(
         duration, [NSArray arrayWithObjects:contentView(), nil],
@@ -122,6 +127,7 @@ void added::dismissRequest(SpringBoard *, SEL) {
     if (!isShow) return;
     const float duration = animationDuration(kShrinking);
     CGRect frame = frameWithHeight(panelView(), gheight);
+    readInOrder(contentView(), nil);
     const BOOL still = reducesMotion();
     forPromptViews([&](UIView *view) {
         view.accessibilityElementsHidden = YES;

@@ -17,4 +17,8 @@ void focusOnScreen(id element);
 // The same within a screen, when a part of it has changed.
 void focusOnChange(id element);
 
+// The elements of the view in the order in which they are read, also where the panel is turned and the screen
+// is not; nil leaves it to the system. Before 8.0 the system decides.
+void readInOrder(UIView *container, NSArray *elements);
+
 } // namespace pendix

@@ -20,6 +20,11 @@ void announce(NSString *key, NSString *(*translate)(NSString *)) {
 
 void announcePage(NSString *text) { post(UIAccessibilityPageScrolledNotification, text); }
 
+void readInOrder(UIView *container, NSArray *elements) {
+    if ([container respondsToSelector:@selector(setAccessibilityElements:)])
+        container.accessibilityElements = elements;
+}
+
 void focusOnScreen(id element) { post(UIAccessibilityScreenChangedNotification, element); }
 void focusOnChange(id element) { post(UIAccessibilityLayoutChangedNotification, element); }
 
