@@ -53,16 +53,16 @@ def run_all(file, objects):
 
 def metadata_differences(file, superclasses, methods):
     """Superclasses, methods and their types are those of the simulated body."""
-    metadata, different = objc_metadata.Metadata(file), []
+    metadata, different, own = objc_metadata.Metadata(file), [], set()
     for kind in (metadata.classes | metadata.categories).values():
         owner = kind.name if kind.name in metadata.classes else kind.base
+        own |= {(owner, selector) for selector in kind.methods}
         if owner == kind.name and superclasses.get(owner) != kind.base:
             different.append(f"{owner} has the superclass {kind.base}, not {superclasses.get(owner)}")
         for selector, method in kind.methods.items():
             types = methods.get((owner, selector), "")
             if not type_encodings.equal(method.types, types) and not selector.startswith(COMPILERS):
                 different.append(f"{owner} {selector} has the types {method.types}, not {types or 'in the body'}")
-    own = {(name, selector) for name, kind in metadata.classes.items() for selector in kind.methods}
     different += [f"{owner} {selector} is lost" for owner, selector in sorted(methods)
                   if owner in metadata.classes and (owner, selector) not in own and not selector.startswith(COMPILERS)]
     return different
