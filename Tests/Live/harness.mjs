@@ -3,6 +3,7 @@ import { spawn, execFileSync } from "node:child_process";
 import { mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
+import { createRequire } from "node:module";
 import { createInterface } from "node:readline";
 import { chromium } from "playwright-core";
 
@@ -127,6 +128,14 @@ export async function finger(page) {
       await page.mouse.up();
     },
   };
+}
+
+// What of the page seriously stands in the way of assistive programs. The page must have been opened with bypassCSP.
+export async function seriousFindings(page) {
+  await page.addScriptTag({ path: createRequire(import.meta.url).resolve("axe-core/axe.min.js") });
+  const { violations } = await page.evaluate(() => window.axe.run());
+  return violations.filter(({ impact }) => ["serious", "critical"].includes(impact))
+    .map(({ id, nodes }) => [id, ...nodes.map(node => node.html)]);
 }
 
 // How many pixels of the canvas differ from a picture; -1 for one of another size.
