@@ -136,7 +136,7 @@ test("news", function()
   phone:wait(1 / 3)
   hands.open(phone)
   expect(false, "</script>")
-  phone:set("tint", "red")
+  phone:activate(phone:spoken()[1])
 end)
 local pane = phone:open_settings()
 pane:toggle("Enable")
@@ -161,11 +161,12 @@ phone:tap("nowhere")""")
             ("phone:wait(0.333333)", ["a.lua:6", "a.lua:3"], "news", None),
             (steps[3][0], ["hands.lua:2", *inside], "news", None),
             ("failed", ["a.lua:8"], "news", "</script>"),
-            ('phone:set("tint", "red")', ["a.lua:9", "a.lua:3"], "news", None),
+            (steps[5][0], ["a.lua:9", "a.lua:3"], "news", None),
             ("open_settings", ["a.lua:11"], "", None),
             ('pane:toggle("Enable")', ["a.lua:12"], "", None),
             ("failed", ["a.lua:14"], "", 'a touch needs a view or a point {x, y}, not "nowhere"')])
         self.assertTrue(steps[3][0].startswith("phone:tap(UIStatusBar"), steps[3][0])
+        self.assertRegex(steps[5][0], r"^phone:activate\(“[^{}]+”\)$")
         self.assertEqual(trace["screens"], ["iPhone 6, iOS 8.1", "Settings on iPhone 6, iOS 8.1"])
         self.assertEqual([round(step["to"], 3) for step in trace["steps"][:5]], [0, 0, 0.333, 0.433, 0.433])
         self.assertIn([0.0, "badge_set", "id com.apple.mobilemail  value 3"], trace["steps"][1]["events"])

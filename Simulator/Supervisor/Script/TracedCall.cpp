@@ -12,7 +12,16 @@ namespace {
 
 constexpr size_t kLongest = 80; // bytes of an argument
 
-// A view by its title, other tables by what they hold.
+// The label of an accessible element; nullptr for what is none.
+const char *labelOf(lua_State *lua, int index) {
+    if (!lua_istable(lua, index)) return nullptr;
+    lua_pushstring(lua, "label");
+    const char *label = lua_rawget(lua, index) == LUA_TSTRING ? lua_tostring(lua, -1) : nullptr;
+    lua_pop(lua, 1); // the table keeps it
+    return label;
+}
+
+// A view by its title, an element by its label, other tables by what they hold.
 std::string argument(lua_State *lua, int index) {
     std::string text;
     if (lua_type(lua, index) == LUA_TNUMBER) {
@@ -23,6 +32,8 @@ std::string argument(lua_State *lua, int index) {
     if (isView(lua, index)) {
         text = luaL_tolstring(lua, index, nullptr);
         lua_pop(lua, 1);
+    } else if (const char *label = labelOf(lua, index)) {
+        text = std::string("“") + label + "”";
     } else {
         text = describe(lua, index);
     }
