@@ -90,6 +90,10 @@ void setOrigin(UIView *view, CGFloat x, CGFloat y) {
     return YES;
 }
 
+- (UIAccessibilityTraits)accessibilityTraits {
+    return UIAccessibilityTraitStaticText;
+}
+
 - (NSString *)accessibilityLabel {
     NSArray *views = self.subviews;
     const NSUInteger text = static_cast<NSUInteger>(_group) * pane::kGroupSize;
