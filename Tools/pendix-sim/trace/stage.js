@@ -27,7 +27,7 @@ function divide() {
 
 function showComparison() {
   byId("compare").setAttribute("aria-pressed", comparison.on);
-  for (const element of [byId("picture-a"), byId("line"), byId("divider"), ...document.querySelectorAll(".with")])
+  for (const element of [byId("picture-a"), byId("line"), byId("divider"), byId("pair")])
     element.hidden = !comparison.on;
   byId("other").value = comparison.other;
   if (comparison.on) showPicture(byId("picture-a"), comparison.other);
@@ -44,7 +44,7 @@ function toggleComparison() {
 function listSteps() {
   for (const id of ["other", "this"])
     byId(id).replaceChildren(...trace.steps.map((step, number) =>
-      new Option(`${number + 1}  ${seconds(step.to)}  ${titleOf(step).slice(0, 60)}`, number)));
+      new Option(`${number + 1}  ${shortTitle(step).slice(0, 60)}  (${seconds(step.to)})`, number)));
 }
 
 byId("compare").addEventListener("click", toggleComparison);

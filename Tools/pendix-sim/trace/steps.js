@@ -5,7 +5,7 @@ let stepsListed = null;
 function stepItem(step, number) {
   const item = make("li", { role: "option", id: `step-${number}`, "aria-selected": false, class: step.failure ? "failed" : null,
     "data-number": number },
-    make("time", {}, step.to.toFixed(2)), make("code", {}, titleOf(step).replace(/^phone:/, "")), make("small", {}, placeOf(step)));
+    make("time", {}, step.to.toFixed(2)), make("code", {}, shortTitle(step)), make("small", {}, placeOf(step)));
   item.addEventListener("click", () => trace.go(number));
   return item;
 }

@@ -30,6 +30,7 @@ const placeOf = ({ places: [place] }) => {
   return `${file === trace.run.script ? "" : fileName(file)}:${place[1]}`;
 };
 const titleOf = step => step.failure ? step.failure.split("\n")[0] : step.call;
+const shortTitle = step => titleOf(step).replace(/^phone:/, "");
 
 function make(name, attributes = {}, ...children) {
   const element = document.createElement(name);
