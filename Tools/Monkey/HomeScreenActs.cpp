@@ -23,6 +23,7 @@ std::string homeTwice(Hand &) { return "phone:home_twice()"; }
 std::string rotate(Hand &hand) { return luaCall("rotate", {hand.random.pick<int64_t>({1, 1, 2, 3, 4})}); }
 std::string reachability(Hand &hand) { return luaCall("reachability", {hand.random.percent(50)}); }
 std::string activator(Hand &) { return "phone:activator()"; }
+std::string voiceOver(Hand &hand) { return luaCall("aid", {"voiceover", hand.random.percent(60)}); }
 std::string restyle(Hand &) { return "phone:restyle()"; }
 std::string respring(Hand &) { return "phone:respring()"; }
 
@@ -42,6 +43,7 @@ std::span<const Act> homeScreenActs() {
                                {"Reachability", always<4>, reachability},
                                {"Activator", activatorWeight, activator},
                                {"banner", always<4>, banner},
+                               {"VoiceOver", always<2>, voiceOver},
                                {"status bar anew", always<3>, restyle},
                                {"respring", always<1>, respring, kBootRarity}};
     return acts;

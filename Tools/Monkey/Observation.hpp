@@ -114,7 +114,9 @@ struct Observation {
     std::string itemImage;
     std::optional<Area> itemPlace; // of the indicator's view, upright; nothing without one
     SeenGlow itemGlow;
-    bool screenLocked = false;            // the lock screen is up
+    std::vector<std::string>
+        spoken;                // what VoiceOver would read of the overlay while a face of the lock shows
+    bool screenLocked = false; // the lock screen is up
     double iconWidth = 0, iconHeight = 0; // of the home screen's icons
     bool display = true, passcodeLocked = false;
     double screenWidth = 0, screenHeight = 0; // upright

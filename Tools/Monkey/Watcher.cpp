@@ -1,8 +1,25 @@
 #include "Watcher.hpp"
 
+#include "Rules/PanelSight.hpp"
+
 #include <utility>
 
 namespace sim {
+
+namespace {
+
+// What VoiceOver would read of the overlay, which is asked as long as a face of the lock can be seen.
+std::vector<std::string> spokenIn(SimulatedDevice &device, const Observation &seen) {
+    std::vector<std::string> words;
+    if (!sightOf(seen).face()) return words;
+    const Value answer = device.ask("spoken", Object{{"window", "overlay"}});
+    for (const Value &element : answer["elements"].array())
+        for (const char *part : {"label", "value"})
+            if (element[part].isString()) words.push_back(element[part].string());
+    return words;
+}
+
+} // namespace
 
 Watcher::Watcher(LivePhone &phone) : phone_(phone) {
     time_ = phone_.device().now();
@@ -49,6 +66,7 @@ std::vector<std::string> Watcher::look(const std::string &call) {
     if (generation_ != device.generation()) meetHomeScreen();
     Observation seen =
         readObservation(device.ask("inspect", Object{{"item", device.package().statusBarItem}}));
+    seen.spoken = spokenIn(device, seen);
     Array events = device.events().since(events_), settingsEvents = takeSettingsEvents();
     Value settingsBefore = settings_;
     bool changed = settingsChanged();

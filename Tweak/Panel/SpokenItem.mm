@@ -73,8 +73,10 @@ NSString *stateOf(NSString *identifier, BOOL running) {
     return count && runs ? [NSString stringWithFormat:@"%@, %@", count, runs] : count ? count : runs;
 }
 
+// nil where there are none.
 NSArray *actionsOf(UIView *item, BOOL running) {
     Class action = objc_getClass("UIAccessibilityCustomAction");
+    if (!action) return nil;
     itemActions *target = [[itemActions new] autorelease];
     target->item = item;
     itemState::keepActions(item, target);

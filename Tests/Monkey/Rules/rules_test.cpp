@@ -218,6 +218,7 @@ constexpr Case kCases[] = {
     {"keep backdrop", "closed", closedPanel},
     {"show list", "locked", lockedPanel},
     {"show name", "locked", lockedPanel},
+    {"say name", "speech", lockedPanel},
     {"unlock", "locked", darkAfterCode},
     {"unlock", "locked", anotherAfterCode},
     {"unlock", "locked", wrongCode},

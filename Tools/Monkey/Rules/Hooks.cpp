@@ -14,6 +14,7 @@ enum class When {
     never,           //
     unlessPanel,     // once, unless the panel is shown or edited
     unlessTakenOver, // once, unless the panel takes the double click
+    unlessOwn,       // once, but not for the extension's own views; whose it was nobody sees
 };
 
 struct HookedMethod {
@@ -40,6 +41,8 @@ constexpr HookedMethod kMethods[] = {
     {"PKFingerprintGlyphView", "_setProgress:withDuration:forShapeLayerAtIndex:", When::always},
     {"SBApplication", "willActivate", When::always},
     {"SBApplication", "willAnimateDeactivation:", When::always},
+    {"UIStatusBarItemView", "accessibilityValue", When::unlessOwn},
+    {"UIWindow", "accessibilityPerformEscape", When::unlessOwn},
 };
 
 const HookedMethod *methodOf(const SeenHook &hook) {
@@ -70,6 +73,8 @@ std::optional<int64_t> passedOn(const Moment &moment, const HookedMethod &method
         return hook.state & (kHookEditing | kHookShown) ? 0 : hook.entered;
     case When::unlessTakenOver:
         return doubleClicksPassedOn(moment, hook);
+    case When::unlessOwn:
+        break;
     }
     return std::nullopt;
 }

@@ -1,8 +1,7 @@
 // Nothing of an application shows while the panel is locked, and no lock stands where none is to be passed.
+#include "Listed.hpp"
 #include "Names.hpp"
 #include "Rules.hpp"
-
-#include <algorithm>
 
 namespace sim {
 
@@ -16,19 +15,6 @@ std::string described(const SeenView &view) {
     return text;
 }
 
-// Names that items show; what the list says when it is empty tells of no application, and a face may say it
-// as well. One that is as short as a digit could be a key's.
-std::set<std::string> namesIn(const SeenWindow &window, size_t strip) {
-    constexpr size_t kShortest = 3;
-    std::set<std::string> texts;
-    for (size_t item : window.childrenOf(strip)) {
-        if (window.views[item].name.empty()) continue;
-        for (size_t i = item + 1; i < window.endOf(item); ++i)
-            if (window.views[i].text.size() >= kShortest) texts.insert(window.views[i].text);
-    }
-    return texts;
-}
-
 // What a view without a picture, a text or a background of its own shows is nothing.
 bool shows(const SeenView &view) {
     return view.seen && (!view.name.empty() || !view.text.empty() || !view.image.empty() ||
@@ -36,16 +22,12 @@ bool shows(const SeenView &view) {
 }
 
 void checkList(const SeenWindow &window, size_t panel, Findings &findings) {
-    size_t content = window.child(panel, names::content);
-    if (content == SeenWindow::npos) return;
-    auto children = window.childrenOf(content);
-    auto strip =
-        std::ranges::find_if(children, [&](size_t view) { return window.views[view].type == names::strip; });
-    if (strip == children.end()) return;
-    for (size_t i = *strip + 1; i < window.endOf(*strip); ++i)
+    const size_t strip = stripIn(window, panel);
+    if (strip == SeenWindow::npos) return;
+    for (size_t i = strip + 1; i < window.endOf(strip); ++i)
         if (shows(window.views[i]))
             return findings.push_back("the list shows a " + described(window.views[i]));
-    auto texts = namesIn(window, *strip);
+    auto texts = namesIn(window, strip);
     for (const SeenView &view : window.views)
         if (view.seen && (texts.contains(view.text) || texts.contains(view.name)))
             findings.push_back("a " + described(view) + " is to be seen beside the list");

@@ -24,7 +24,7 @@ std::span<const Rule> rules() {
         {"settings", checkSettingsFile}, {"contents", checkContents},   {"layout", checkLayout},
         {"acts", checkConsequences},     {"faces", checkFaces},         {"looks", checkLooks},
         {"face acts", checkFaceActs},    {"marks", checkMarks},         {"pages", checkPane},
-        {"page looks", checkPaneLooks},
+        {"page looks", checkPaneLooks},  {"speech", checkSpeech},
     };
     return table;
 }

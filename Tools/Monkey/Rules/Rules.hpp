@@ -75,6 +75,7 @@ void checkFaces(const Moment &moment, Memory &memory, Findings &findings);
 void checkLooks(const Moment &moment, Memory &memory, Findings &findings);
 void checkFaceActs(const Moment &moment, Memory &memory, Findings &findings);
 void checkMarks(const Moment &moment, Memory &memory, Findings &findings);
+void checkSpeech(const Moment &moment, Memory &memory, Findings &findings);
 void checkPane(const Moment &moment, Memory &memory, Findings &findings);
 void checkPaneLooks(const Moment &moment, Memory &memory, Findings &findings);
 

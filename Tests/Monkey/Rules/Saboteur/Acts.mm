@@ -54,6 +54,11 @@ void showName() {
     [panel() addSubview:label];
 }
 
+// The keypad's title.
+void sayName() {
+    ((UIView *)[[panel() viewWithTag:46].subviews objectAtIndex:0]).accessibilityLabel = @"Mail";
+}
+
 void unlock() {
     constexpr int kKeypad = 46;
     [springBoard() unlockPendix:kKeypad];
@@ -120,6 +125,7 @@ std::span<const Act> acts() {
                                {"keep backdrop", keepBackdrop},
                                {"show list", showList},
                                {"show name", showName},
+                               {"say name", sayName},
                                {"unlock", unlock},
                                {"arm lock", armLock},
                                {"double entry", doubleEntry},
