@@ -6,8 +6,11 @@
 
 namespace sim {
 
-void checkSpeech(const Moment &moment, Memory &, Findings &findings) {
-    if (moment.now.spoken.empty() || !sightOf(moment.now).face()) return;
+// The rule "locked", which comes before, keeps what is known of the lock up to date.
+void checkSpeech(const Moment &moment, Memory &memory, Findings &findings) {
+    const PanelSight sight = sightOf(moment.now);
+    // A face that makes way for the list moves.
+    if (memory.lock.guarded() != Sure::yes && !(sight.resting && sight.face())) return;
     for (const auto &window : moment.now.overlays)
         for (size_t view : window.childrenOf(0)) {
             if (window.views[view].tag != names::panel) continue;
