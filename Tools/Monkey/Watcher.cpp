@@ -1,6 +1,6 @@
 #include "Watcher.hpp"
 
-#include "Rules/PanelSight.hpp"
+#include "Tools/Monkey/Rules/PanelSight.hpp"
 
 #include <utility>
 
