@@ -13,7 +13,7 @@ PROGRAM, PAGE = None, None
 class Guide(unittest.TestCase):
     def test_every_recipe_runs(self):
         recipes = re.findall(r"^### ([^\n]+)\n```lua\n(.*?)^```$", PAGE.read_text(encoding="utf-8"), re.M | re.S)
-        self.assertEqual([title.split(".")[0] for title, _ in recipes], [str(number) for number in range(1, 11)])
+        self.assertEqual([title.split(".")[0] for title, _ in recipes], [str(number) for number in range(1, 12)])
         for title, script in recipes:
             with self.subTest(title), tempfile.TemporaryDirectory() as folder:
                 file = pathlib.Path(folder, "recipe.lua")

@@ -10,6 +10,7 @@
 #include "UIKit/Accessibility/Gestures.h"
 #include "UIKit/Accessibility/VoiceOver.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/Navigation/NavigationState.h"
 #include "UIKit/UIKit+Further.h"
 
 #include <Darwin/dlfcn.h>
@@ -109,9 +110,9 @@ TEST(Accessibility, IsToldByEachClass) {
     Stage s;
     auto label = [[[UILabel alloc] initWithFrame:CGRectZero] autorelease];
     [label setText:@"words"];
-    UIButton *button = [UIButton buttonWithType:UIButtonTypeSystem];
-    [button setTitle:@"Press" forState:UIControlStateNormal];
-    [button setEnabled:NO];
+    UIButton *press = [UIButton buttonWithType:UIButtonTypeSystem];
+    [press setTitle:@"Press" forState:UIControlStateNormal];
+    [press setEnabled:NO];
     auto lever = [[[UISwitch alloc] initWithFrame:CGRectZero] autorelease];
     [lever setOn:YES];
     auto field = [[[UITextField alloc] initWithFrame:CGRectZero] autorelease];
@@ -124,6 +125,18 @@ TEST(Accessibility, IsToldByEachClass) {
     auto choice =
         [[[UISegmentedControl alloc] initWithItems:[NSArray arrayWithObjects:@"A", @"B", nil]] autorelease];
     [choice setSelectedSegmentIndex:1];
+    auto button = [](UIBarButtonItem *item) {
+        return [[[UINavigationButton alloc] initWithBarButtonItem:item] autorelease];
+    };
+    auto item = [](NSString *title) {
+        return [[[UIBarButtonItem alloc] initWithTitle:title
+                                                 style:UIBarButtonItemStylePlain
+                                                target:nil
+                                                action:nullptr] autorelease];
+    };
+    UIBarButtonItem *done = item(@"Done"), *drawn = item(nil);
+    [drawn setAccessibilityLabel:@"Share"];
+    [drawn setEnabled:NO];
     auto cell = [[[UITableViewCell alloc] initWithStyle:UITableViewCellStyleValue1
                                         reuseIdentifier:nil] autorelease];
     [[cell textLabel] setText:@"Title"];
@@ -150,7 +163,7 @@ TEST(Accessibility, IsToldByEachClass) {
         {"a label", label, true, "words", "-", UIAccessibilityTraitStaticText},
         {"a label without text", [[[UILabel alloc] initWithFrame:CGRectZero] autorelease], false, "-", "-",
          UIAccessibilityTraitStaticText},
-        {"a button", button, true, "Press", "-", UIAccessibilityTraitButton | UIAccessibilityTraitNotEnabled},
+        {"a button", press, true, "Press", "-", UIAccessibilityTraitButton | UIAccessibilityTraitNotEnabled},
         {"a switch", lever, true, "-", "1", UIAccessibilityTraitButton},
         {"a secret field", field, true, "-", "••••", 0},
         {"an empty field", empty, true, "-", "Name", 0},
@@ -158,6 +171,9 @@ TEST(Accessibility, IsToldByEachClass) {
          UIAccessibilityTraitAdjustable | UIAccessibilityTraitUpdatesFrequently},
         {"a part of a choice", [[choice subviews] objectAtIndex:1], true, "B", "-",
          UIAccessibilityTraitButton | UIAccessibilityTraitSelected},
+        {"a button of a bar", button(done), true, "Done", "-", UIAccessibilityTraitButton},
+        {"one that its item names", button(drawn), true, "Share", "-",
+         UIAccessibilityTraitButton | UIAccessibilityTraitNotEnabled},
         {"a row with two texts", cell, true, "Title, detail", "-", UIAccessibilityTraitSelected},
         {"a row with a switch leaves it to its parts", lined, false, "Title", "-", 0},
         {"what is set comes first", given, true, "other", "-", UIAccessibilityTraitLink},

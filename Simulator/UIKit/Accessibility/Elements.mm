@@ -3,6 +3,7 @@
 #include "AccessibilityFrames.h"
 #include "ReadingOrder.h"
 #include "UIKit/Application/ApplicationState.h"
+#include "UIKit/Touch/TouchState.h"
 #include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -57,7 +58,7 @@ bool isCovered(UIWindow *window, CGPoint point) {
     auto windows = displayedWindows();
     for (auto above = windows.rbegin(); above != windows.rend() && *above != window; ++above) {
         if (role(*above) != WindowRole::lock && role(*above) != WindowRole::application) continue;
-        if ([*above hitTest:[*above convertPoint:touchPoint(point) fromView:nil] withEvent:nil]) return true;
+        if ([*above hitTest:fromScreen(touchPoint(point), *above, nil) withEvent:nil]) return true;
     }
     return false;
 }

@@ -2,6 +2,7 @@
 
 #include "Runtime/Objc/LazyState.hpp"
 #include "Runtime/Process/Pixels.hpp"
+#include "UIKit/Accessibility/DefaultSpeech.h"
 #include "UIKit/Text/SystemTexts.hpp"
 #include "UIKit/UIKit+Further.h"
 #include "UIKit/Views/ViewState.h"
@@ -77,6 +78,14 @@ void centre(UIView *view, CGFloat x, CGRect bounds) {
 
 - (NSString *)title {
     return [state(self).item title];
+}
+
+- (sim::Speech)defaultSpeech {
+    NSString *given = [state(self).item accessibilityLabel];
+    return {.element = YES,
+            .label = given ? given : [self title],
+            .traits = UIAccessibilityTraitButton |
+                      ([self isEnabled] ? UIAccessibilityTraitNone : UIAccessibilityTraitNotEnabled)};
 }
 
 - (void)sendItemsAction {

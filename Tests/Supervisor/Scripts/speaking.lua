@@ -57,6 +57,23 @@ for _, case in ipairs { { "S", 44, 15 }, { "L", 44, 17 }, { "AX5", 84, 53 } } do
   expect_eq({ h, size }, { case[2], case[3] }, case[1])
 end
 
+-- A row with a switch is one, pages are turned and left, and the reader tells where one is.
+pane:aid("text_size", "L")
+pane:activate(named(pane, "Enable"))
+pane:settle()
+expect_eq(named(pane, "Enable").value, "1", "the switch of the row")
+pane:activate(named(pane, "Configuration"))
+pane:settle()
+expect_eq(pane:page().title, "Configuration")
+expect(pane:scroll_page("up"), "it is longer than the screen")
+pane:settle()
+expect_eq(pane:spoken("app")[2].label, "Configuration", "the bar comes before what lies below it")
+expect(pane:escape(), "the scrub leads back")
+pane:settle()
+local said = {}
+for _, event in ipairs(pane:events("spoken")) do table.insert(said, event.what .. " " .. event.text) end
+expect_eq(said, { "screen Settings", "screen Pendix", "announcement Page 2 of 3", "screen Settings" })
+
 -- A turned phone is read as it is held, by both ways of counting points.
 for _, ios in ipairs { "7.1", "8.1" } do
   local tablet = boot { ios = ios, device = "iPad Air", extension = false }
@@ -67,4 +84,5 @@ for _, ios in ipairs { "7.1", "8.1" } do
   tablet:activate(first)
   tablet:settle()
   expect(tablet:foreground(), "and touched where it lies")
+  expect_eq(#tablet:spoken("home"), 0, "behind an application on its side as well")
 end
