@@ -72,10 +72,16 @@ const std::map<std::string, Rows> &pages() {
 std::string languageOf(const Moment &moment) { return moment.device.language == "it" ? "it" : "en"; }
 std::string said(const Moment &moment, std::string_view key) { return wording(languageOf(moment), key); }
 
-Rows rowsOf(const Moment &moment, const PaneSight &pane) {
+bool hasRow(const Moment &moment, const PaneSight &pane, std::string_view key) {
+    return std::ranges::any_of(pane.rows, [&](const PaneRow &row) { return row.label == said(moment, key); });
+}
+
+// A page keeps the rows with which it was built: where the file has become another one since (`mixed`), it
+// may tell of a sensor otherwise.
+Rows rowsOf(const Moment &moment, const PaneSight &pane, bool mixed = false) {
     auto found = pages().find(pane.type);
     Rows rows = found == pages().end() ? Rows{} : found->second;
-    const bool sensor = isOn(moment.settings, "hasTouchID");
+    const bool sensor = mixed ? hasRow(moment, pane, "touchid") : isOn(moment.settings, "hasTouchID");
     std::erase_if(rows, [&](const Row &row) { return !sensor && row.key == std::string_view("touchid"); });
     return rows;
 }
@@ -108,7 +114,7 @@ void checkRow(const Moment &moment, const PaneRow &row, const Row &wanted, const
 }
 
 void checkRows(const Moment &moment, const PaneSight &pane, bool mixed, Findings &findings) {
-    const Rows wanted = rowsOf(moment, pane);
+    const Rows wanted = rowsOf(moment, pane, mixed);
     if (wanted.empty()) return;
     std::vector<const PaneRow *> rows;
     for (const PaneRow &row : pane.rows)
