@@ -2,9 +2,7 @@
 the hook engine, which writes down what it is asked for."""
 
 import dataclasses
-import math
 import re
-import struct
 
 from processor import SLIDE, Processor, Stopped
 
@@ -136,21 +134,6 @@ class Phone:
     def _memcmp(self, p):
         one, other = (bytes(p.engine.mem_read(p.argument(index), p.argument(2))) for index in (0, 1))
         return (one > other) - (one < other)
-
-    # On 64 bits an instruction, on 32 a function; a float comes and goes as a word.
-
-    def _rounded(self, p, how):
-        value, = struct.unpack("<f", struct.pack("<I", p.argument(0)))
-        return struct.unpack("<I", struct.pack("<f", how(value)))[0]
-
-    def _ceilf(self, p):
-        return self._rounded(p, math.ceil)
-
-    def _floorf(self, p):
-        return self._rounded(p, math.floor)
-
-    def _roundf(self, p):
-        return self._rounded(p, lambda value: math.copysign(math.floor(abs(value) + 0.5), value))
 
     def _abort(self, p):
         raise Stopped("aborted")

@@ -1,7 +1,6 @@
 #include "ReportRect.hpp"
 #include "Tweak/Core/Geometry/StripClosing.hpp"
 #include "Tweak/Core/Geometry/StripLayout.hpp"
-#include "Tweak/Core/Geometry/StripPages.hpp"
 
 namespace {
 
@@ -37,25 +36,12 @@ void layout(results::Report report, const StripInput &input) {
     closings(report, input, cells);
 }
 
-void pages(results::Report report, bool paging) {
-    for (Real offset : {0.f, 40.f, 180.f, 300.f, 700.f, 768.f, 1023.5f}) {
-        const StripExtent strip{offset, 256, 1024, 19, paging};
-        const StripPage page = stripPage(strip);
-        report("stripPage", page.number);
-        report("stripPages", page.count);
-        report("nextPage", nextPage(strip));
-        report("previousPage", previousPage(strip));
-        report("isSeen", isSeen(strip, 260, 60));
-    }
-}
-
 } // namespace
 
 void results::strip(Report report) {
     for (int page = 0; page < 4; ++page) reportRect(report, "dotFrame", dotFrame(page, dotStep(4, 256)));
     for (int page = 0; page < 4; ++page) reportRect(report, "dotFrame", dotFrame(page, dotStep(20, 256)));
     for (bool paging : {false, true}) {
-        pages(report, paging);
         report("stripHeight", stripHeight(60, paging));
         for (int rows = 1; rows <= 5; ++rows) {
             layout(report, {{60, 60}, rows, paging, false, {256, 96}});
