@@ -19,6 +19,17 @@ void closings(results::Report report, const StripInput &input, const std::vector
     }
 }
 
+void turning(results::Report report, StripExtent extent) {
+    for (int page = 0; page < 3; ++page) {
+        report("stripPage", stripPage(extent).number);
+        report("stripPages", stripPage(extent).count);
+        report("previousPage", previousPage(extent));
+        report("isSeen", isSeen(extent, 300, 60));
+        extent.offset = nextPage(extent);
+        report("nextPage", extent.offset);
+    }
+}
+
 void layout(results::Report report, const StripInput &input) {
     constexpr int kApplications = 7;
     report("cellInset", cellInset(input));
@@ -33,6 +44,7 @@ void layout(results::Report report, const StripInput &input) {
     const int pages = pageCount(kApplications, input.rows);
     report("pageCount", pages);
     results::reportRect(report, "dotsFrame", dotsFrame(pages, input.strip.width));
+    turning(report, {0, input.strip.width, content, cells.front().x, input.paging});
     closings(report, input, cells);
 }
 
