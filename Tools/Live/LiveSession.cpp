@@ -78,8 +78,7 @@ void LiveSession::bootDevice() {
 
 std::string LiveSession::greeting() const {
     if (!options_.tour) return "";
-    return "Three applications carry badges. Tap the indicator at the right of the status bar to open the "
-           "panel.";
+    return "Three applications carry badges: tap the indicator at the right of the status bar.";
 }
 
 std::string LiveSession::address() const {
