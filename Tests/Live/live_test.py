@@ -125,8 +125,22 @@ class Recording(unittest.TestCase):
                 "phone:wait(0.916666666)", "phone:down{10, 620.12}", "phone:move(20, 620)", "phone:wait(0.016666667)",
                 "phone:up()", "pane = phone:open_settings()", "phone:wait(1)", 'pane:toggle("Enable")', "phone:wait(1)",
                 'pane:open("Configuration")', "phone:wait(1)", "pane:hold({44.75, 42}, 0.5)", "phone:wait(1)"])
+            touch(200, 400)
+            for _ in range(2):
+                page.send("down", pointer=4, x=3, y=550)
+                for way in range(1, 13):
+                    page.send("move", pointer=4, x=3, y=550 - 40 * way)
+                    page.send("step", frames=1)
+                page.send("step", frames=8)
+                page.send("up", pointer=4)
+                page.send("step", frames=60)
+            touch(247, 336)
+            script = page.whole_script()
+            self.assertEqual(script.splitlines()[-2:], ['pane:choose("Apps in a Row", "3")', "phone:wait(1)"])
             page.send("replay", hurry=True)
             self.assertIsNone(page.wait_for("replayed")["difference"])
+            result = run(f"{script}\nexpect_eq(phone:events(), {lua(page.events)})")
+            self.assertEqual(result.returncode, 0, result.stderr[-3000:])
             self.assertIn("did you mean", page.latest["notice"]["text"], "what was refused is not recorded")
 
 

@@ -17,6 +17,7 @@ constexpr double kNear = 12;           // points: as exactly as a finger finds t
 constexpr double kNearShare = 0.25;    // of what is touched
 constexpr double kMostOfScreen = 0.08; // what is larger names no place
 constexpr double kAround = 30;         // points around a text that it names
+constexpr double kFarthest = 60;       // from the middle of what is named
 constexpr size_t kLongestName = 90;    // characters; coordinates read better
 
 // A number of points that reads well.
@@ -135,6 +136,7 @@ private:
         };
         if (isNear(dx, "w") && isNear(dy, "h") && landsThere(sight->x, sight->y))
             return TouchPlace{sight->x, sight->y, name, ""};
+        if (std::max(std::abs(dx), std::abs(dy)) > kFarthest) return std::nullopt;
         dx = tidy(dx);
         dy = tidy(dy);
         return TouchPlace{
@@ -180,13 +182,19 @@ private:
             return calledAt(placeOfRow(row, {"switch"}, {{"control", true}}), "toggle", {row["label"]});
         if (kind == "button" && screen_.ask("place_button", {{"title", row["label"]}}).isNull())
             return calledAt(placeOfRow(row, {"button"}), "press", {row["label"]});
-        if (kind != "segment" || !row["choices"].isArray()) return std::nullopt;
+        return kind == "segment" && row["choices"].isArray() ? onSegment(row) : std::nullopt;
+    }
+
+    // The control takes the touches of all its segments: the one that is meant is the nearest.
+    std::optional<TouchPlace> onSegment(const Value &row) {
+        std::optional<TouchPlace> nearest;
         for (const auto &title : row["choices"].array()) {
             Value place = placeOfRow(row, {"segment"}, {{"control", true}, {"segment", title}});
             if (!place.has("control")) continue;
-            if (auto found = calledAt(place, "choose", {row["label"], title})) return found;
+            auto found = calledAt(place, "choose", {row["label"], title});
+            if (found && (!nearest || std::abs(found->x - x_) < std::abs(nearest->x - x_))) nearest = found;
         }
-        return std::nullopt;
+        return nearest;
     }
 
     LivePhone &phone_;
