@@ -8,7 +8,7 @@ const copy = document.getElementById("pick-copy");
 const canvas = document.getElementById("screen");
 
 export function installPick(connection, notify) {
-  let on = false, waits = false, next = null, query = "";
+  let on = false, waits = false, next = null, last = null, query = "";
 
   const show = (text, found) => {
     query = found ? text : "";
@@ -17,7 +17,7 @@ export function installPick(connection, notify) {
   };
   const turn = value => {
     on = value;
-    next = null;
+    next = last = null;
     toggle.setAttribute("aria-pressed", String(on));
     canvas.classList.toggle("picks", on);
     if (on) show("Point at a view on the device; a click keeps it.", false);
@@ -25,7 +25,7 @@ export function installPick(connection, notify) {
   };
   // One question at a time: an answer to where the pointer was long ago helps nobody.
   const ask = point => {
-    next = point;
+    next = last = point;
     if (waits || !point) return;
     waits = true;
     connection.send({ do: "pick", ...next });
@@ -38,6 +38,8 @@ export function installPick(connection, notify) {
     show(!view ? "No view is there." : view.query || `${view.class}: nothing tells it from other views.`, Boolean(view?.query));
     if (next) ask(next);
   });
+  // Views move under a pointer that keeps still.
+  connection.on("views", () => on && last && ask(last));
   for (const kind of ["lost", "notice"]) connection.on(kind, () => { waits = false; });
   toggle.addEventListener("click", () => turn(!on));
   copy.addEventListener("click", async () => {
