@@ -94,30 +94,30 @@ TEST(Packing, FollowsTheLineUnlessItIsSettled) {
     EXPECT_TRUE(packing.packs()) << "until the line is known";
     uint32_t number = 0;
     double now = 0;
-    // A frame of 500 KB, or a tenth of that, on a line of so many bytes a second; then another one waits for
-    // it.
-    auto use = [&](double speed, int frames) {
-        for (int i = 0; i < frames; ++i) {
-            size_t bytes = packing.packs() ? 50'000 : 500'000;
-            packing.sent(++number, bytes, 500'000, now);
-            never.sent(number, 500'000, 500'000, now);
-            now += static_cast<double>(bytes) / speed;
+    // Frames of 500 KB, or a tenth of that, for so many seconds over a line of so many bytes a second;
+    // another one waits for each. Gives how many of them were plain.
+    auto use = [&](double speed, double delay, double duration) {
+        int plain = 0;
+        for (double end = now + duration; now < end;) {
+            packing.sent(++number, now);
+            never.sent(number, now);
+            plain += !packing.packs();
+            now += (packing.packs() ? 50e3 : 500e3) / speed + delay;
             packing.heldUp(now);
             never.heldUp(now);
             packing.seen(number, now);
             never.seen(number, now);
         }
+        return plain;
     };
-    use(100e6, 3000);
+    use(100e6, 0, 3);
     EXPECT_FALSE(packing.packs()) << "a quick line";
-    use(1.9e6, 1);
-    EXPECT_TRUE(packing.packs()) << "a slow one";
-    use(1.9e6, 1000);
-    EXPECT_TRUE(packing.packs()) << "as long as it is";
-    use(100e6, 1000);
-    EXPECT_TRUE(packing.packs()) << "half a second tells little";
-    use(100e6, 6000);
+    EXPECT_EQ(use(1.9e6, 0.1, 60), 1) << "a slow one";
+    use(100e6, 0, 3);
+    EXPECT_TRUE(packing.packs()) << "it may be no more than a lull";
+    use(100e6, 0, 3);
     EXPECT_FALSE(packing.packs()) << "quick again";
+    EXPECT_LT(use(1.9e6, 0, 300), 9) << "one that is not far, but narrow, is tried less and less";
     EXPECT_FALSE(never.packs());
 }
 

@@ -6,22 +6,17 @@ namespace sim {
 
 namespace {
 
-constexpr double kSlow = 0.25;  // under way for so long while another waits: the line is too slow
-constexpr double kQuick = 0.08; // a frame would be under way for no longer without packing
-constexpr double kMostPatience = 64;
+constexpr double kSlow = 0.25;  // a plain frame is under way for so long while another waits: too slow a line
+constexpr double kQuick = 0.06; // no packed frame takes longer on a line that may do without
+constexpr double kMostPatience = 600;
 
 } // namespace
 
-void Packing::sent(uint32_t frame, size_t bytes, size_t plain, double now) {
-    underWay_.push_back({frame, bytes, plain, now});
-}
+void Packing::sent(uint32_t frame, double now) { underWay_.push_back({frame, now}); }
 
 void Packing::seen(uint32_t frame, double now) {
     while (!underWay_.empty() && underWay_.front().number <= frame) {
-        const Frame &drawn = underWay_.front();
-        double plainTime = (now - drawn.left) * static_cast<double>(drawn.plain) /
-                           static_cast<double>(std::max<size_t>(1, drawn.bytes));
-        if (plainTime > kQuick) quickSince_ = now;
+        if (now - underWay_.front().left > kQuick) quickSince_ = now;
         underWay_.pop_front();
     }
     if (packs_ && now - quickSince_ >= patience_) choose(false, now);

@@ -33,7 +33,7 @@ void Viewers::add(WebServer::Client client, const Value &welcome) {
     // Everybody is at one point, from which the new one goes on.
     if (!viewers_.empty()) update(false);
     Viewer &viewer = viewers_[client];
-    viewer.packing = Packing(pack_);
+    viewer.packing = Packing(pack_, seconds());
     tell(client, welcome);
     tell(client, deviceMessage(device_));
     tell(client, scriptMessage(device_.journal(), 0));
@@ -173,9 +173,8 @@ void Viewers::sendFrames() {
 
 void Viewers::sendFrame(WebServer::Client client, Viewer &viewer) {
     std::string frame = encodeFrame(screen_, viewer.unseen.take(), ++viewer.sent);
-    size_t plain = frame.size();
     if (viewer.packing.packs()) frame = packFrame(frame);
-    viewer.packing.sent(viewer.sent, frame.size(), plain, seconds());
+    viewer.packing.sent(viewer.sent, seconds());
     server_.sendBytes(client, std::move(frame));
 }
 
