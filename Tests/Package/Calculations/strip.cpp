@@ -1,6 +1,7 @@
 #include "ReportRect.hpp"
 #include "Tweak/Core/Geometry/StripClosing.hpp"
 #include "Tweak/Core/Geometry/StripLayout.hpp"
+#include "Tweak/Core/Geometry/StripPages.hpp"
 
 namespace {
 
