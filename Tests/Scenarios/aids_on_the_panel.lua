@@ -125,3 +125,13 @@ switch(false)
 phone:settle()
 P.closed(phone)
 P.no_harm(phone)
+
+-- The pane's switches keep their whole label beside the switch, as large as two lines let it be.
+for size, wanted in pairs{ L = { 17, 17 }, XXXL = { 23, 23 }, AX5 = { 24, 40 } } do
+  local pane = settings_app{ device = "iPhone 5s", text_size = size }
+  pane:settle()
+  pane:activate(S.reach(pane, "Configuration"))
+  S.settle(pane)
+  local label = pane:find{ text = "Light Appearance" }
+  expect(label.font_size >= wanted[1] and label.font_size <= wanted[2], size .. ": the label's size")
+end

@@ -11,6 +11,7 @@ local paths = {
 
 for _, ios in ipairs{ "7.1", "8.1" } do
   local phone, pane = P.start({ enable = false }, { device = "iPhone 5s", ios = ios, voiceover = true })
+  expect_eq((S.find(pane, "Share") or {}).traits, { "button" }, "a button without a word says what it does")
   local at = {}
   local function press(label)
     pane:activate(S.reach(pane, label))
