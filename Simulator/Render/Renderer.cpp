@@ -11,7 +11,7 @@ struct Renderer::Impl {
 
 Renderer::Renderer() : impl_(std::make_unique<Impl>()) {
     // Opened here, so that a missing font shows at once and not when the first text is drawn.
-    for (Face face : {Face::ultraLight, Face::light, Face::regular}) fontContext(face);
+    for (Face face : kFaces) fontContext(face);
 }
 
 Renderer::~Renderer() = default;

@@ -3,11 +3,13 @@
 
 #include "Geometry.hpp"
 
+#include <array>
 #include <string>
 
 namespace render {
 
-enum class Face { ultraLight, light, regular };
+enum class Face { ultraLight, light, regular, bold };
+inline constexpr std::array kFaces{Face::ultraLight, Face::light, Face::regular, Face::bold};
 enum class Alignment { left, center, right };
 enum class LineBreak { wordWrap, charWrap, clip, truncateHead, truncateTail, truncateMiddle };
 

@@ -68,6 +68,8 @@ const char *fontFile(Face face) {
         return "Inter-Thin.otf";
     case Face::light:
         return "Inter-Light.otf";
+    case Face::bold:
+        return "Inter-Bold.otf";
     case Face::regular:
         break;
     }
@@ -96,7 +98,7 @@ PangoFontMap *openFontMap(const std::string &configuration, Face face) {
 
 PangoContext *fontContext(Face face) {
     // They live as long as the process: text is set until its end.
-    static std::array<PangoContext *, 3> contexts = {};
+    static std::array<PangoContext *, kFaces.size()> contexts = {};
     PangoContext *&context = contexts[static_cast<size_t>(face)];
     if (!context) context = openContext(face);
     return context;

@@ -22,6 +22,7 @@ bool isKnown(NSString *name) {
 render::Face face(NSString *name) {
     if ([name hasSuffix:@"-UltraLight"] || [name hasSuffix:@"-Thin"]) return render::Face::ultraLight;
     if ([name hasSuffix:@"-Light"]) return render::Face::light;
+    if ([name hasSuffix:@"-Bold"]) return render::Face::bold;
     return render::Face::regular;
 }
 
