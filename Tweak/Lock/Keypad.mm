@@ -112,8 +112,12 @@ int countOf(const FilledDots &filled) {
 } // namespace
 
 void tellEntered(UIView *keypad, int count) {
+    // Looked up once a keypad, not once a digit.
+    NSString *const kText = @"spokenEntered";
+    CALayer *layer = titleOf(keypad).layer;
+    if (![layer valueForKey:kText]) [layer setValue:Translator(@"spoken_entered") forKey:kText];
     titleOf(keypad).accessibilityValue =
-        filledIn(Translator(@"spoken_entered"), digits(count), digits(kCodeLength));
+        filledIn([layer valueForKey:kText], digits(count), digits(kCodeLength));
 }
 
 void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
