@@ -112,12 +112,19 @@ int countOf(const FilledDots &filled) {
 } // namespace
 
 void tellEntered(UIView *keypad, int count) {
-    // Looked up once a keypad, not once a digit.
-    NSString *const kText = @"spokenEntered";
-    CALayer *layer = titleOf(keypad).layer;
-    if (![layer valueForKey:kText]) [layer setValue:Translator(@"spoken_entered") forKey:kText];
-    titleOf(keypad).accessibilityValue =
-        filledIn([layer valueForKey:kText], digits(count), digits(kCodeLength));
+    // Made once a keypad, not once a digit.
+    NSString *const kTexts = @"spokenEntered";
+    UILabel *title = titleOf(keypad);
+    NSMutableArray *texts = [title.layer valueForKey:kTexts];
+    if (!texts) {
+        texts = [NSMutableArray array];
+        NSString *text = Translator(@"spoken_entered");
+        for (int i = 0; text && i <= kCodeLength; ++i)
+            [texts addObject:filledIn(text, digits(i), digits(kCodeLength))];
+        [title.layer setValue:texts forKey:kTexts];
+    }
+    const NSUInteger place = static_cast<NSUInteger>(count);
+    title.accessibilityValue = place < [texts count] ? [texts objectAtIndex:place] : nil;
 }
 
 void added::tapNumber(SpringBoard *self, SEL, UITapGestureRecognizer *recognizer) {
