@@ -39,7 +39,7 @@ Scene sample() {
     panel.backdrop = Backdrop{10, 1.8, 0.5, 0.1, Rgba{0, 0, 0, 0.3}};
     panel.shadow = Shadow{white, 1, 13, {}, Path::rect({0, 0, 120, 80})};
     panel.cornerRadius = 10;
-    for (Face face : {Face::ultraLight, Face::light, Face::regular}) {
+    for (Face face : kFaces) {
         TextStyle style;
         style.face = face;
         double y = 5 + 25.0 * static_cast<int>(face);
@@ -83,7 +83,7 @@ TEST(Machine, SaysWhichPackageIsMissing) {
 
 TEST(Machine, LendsNoLettersFromItsOtherFonts) {
     // A Hebrew letter: most machines have a font with it, the faces of the simulated device do not.
-    for (Face face : {Face::ultraLight, Face::light, Face::regular}) {
+    for (Face face : kFaces) {
         TextStyle style;
         style.face = face;
         auto unknown = [&](const char *text) {

@@ -44,7 +44,7 @@ TEST(TextSize, OfNothingIsNothing) {
 }
 
 TEST(TextSize, IsInThousandthsAndGrowsWithTheLetters) {
-    for (Face face : {Face::ultraLight, Face::light, Face::regular})
+    for (Face face : kFaces)
         for (double size : {9.0, 12.5, 17.0, 80.0}) {
             TextStyle plain = style(LineBreak::clip, 1, size, face);
             Size whole = measureText(sentence, plain, 0), part = measureText("The quick", plain, 0);
@@ -63,6 +63,7 @@ TEST(TextSize, TellsTheFacesApart) {
     };
     EXPECT_NE(width(Face::ultraLight), width(Face::light));
     EXPECT_NE(width(Face::light), width(Face::regular));
+    EXPECT_LT(width(Face::regular), width(Face::bold));
 }
 
 TEST(TextSize, OfDigitsIsTheSameForAll) {
@@ -143,7 +144,7 @@ TEST(LineBreaks, BytesThatAreNoTextAreShownAsSigns) {
 
 TEST(Alignment, PutsTheInkWhereItSays) {
     for (double scale : {1.0, 2.0, 3.0})
-        for (Face face : {Face::ultraLight, Face::light, Face::regular}) {
+        for (Face face : kFaces) {
             TextStyle given = style(LineBreak::clip, 1, 20, face);
             auto ink = [&](Alignment alignment) {
                 given.alignment = alignment;
