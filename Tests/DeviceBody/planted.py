@@ -142,7 +142,7 @@ FAULTS = [
     ("a product in dotsFrame", instruction("pendix::dotsFrame", "product"), ["scenario.panel_pages"]),
     ("a choice in nextPulseStep", instruction("pendix::nextPulseStep", "choice"), [EVENTS, "scenario.pulse_starts_and_ends"]),
     ("a constant in the turning of hands", instruction("pendix::(anonymous namespace)::turn(", "constant"), ["scenario.panel_clock"]),
-    ("a branch in isOn", instruction("pendix::isOn", "branch"), ["scenario.indicator_follows_settings"]),
+    ("a branch in isOn", instruction("pendix::isOn(NSString*)", "branch"), ["scenario.indicator_follows_settings"]),
     ("a branch in addBadge", instruction("pendix::addBadge", "branch"), [EVENTS, "scenario.panel_badges"]),
     ("a branch in checkBadges", instruction("pendix::added::checkBadges", "branch"), [EVENTS, "scenario.badges_decide"]),
     ("a branch in tap", instruction("pendix::added::tap(", "branch"), [EVENTS]),
