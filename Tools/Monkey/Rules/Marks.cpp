@@ -29,6 +29,7 @@ std::string colourOf(const Value &name) {
 // As long as the settings are those that the home screen started with: later ones count for each icon from
 // its next drawing.
 void checkIcon(const Moment &moment, const SeenBadge &badge, Findings &findings) {
+    if (badge.parts.empty()) return; // its icon is on a page that is not to be seen
     auto part = [&](auto wanted) {
         auto found = std::ranges::find_if(badge.parts, wanted);
         return found == badge.parts.end() ? nullptr : &*found;
