@@ -225,10 +225,14 @@ void LockModel::touch(const Touched &touched, int64_t at) {
     steady_ = entered_.size() == 1 && only.size() == kLength && only.find('?') == std::string::npos;
 }
 
-// A finger that matches counts only where the panel asks for one.
+// A finger that matches counts only where the panel asks for one. In the dark nobody sees what it asks for.
 void LockModel::sense(const Step &step, bool first) {
-    auto mayListen = [](const PanelSight &sight) { return sight.open() && (sight.finger || !sight.resting); };
-    if (mayListen(step.before) || (!first && mayListen(step.now))) pass();
+    auto mayListen = [](const PanelSight &sight, const Observation &seen) {
+        return sight.open() && (sight.finger || !sight.resting || !seen.display);
+    };
+    const Moment &moment = step.moment;
+    if (moment.before && mayListen(step.before, *moment.before)) return pass();
+    if (!first && mayListen(step.now, moment.now)) pass();
 }
 
 // What the four digits come to, as soon as they may be compared and until they have been.
