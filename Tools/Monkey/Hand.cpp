@@ -8,8 +8,8 @@
 
 namespace sim {
 
-Hand::Hand(Random &random, LivePhone &phone, const Value &boot)
-    : random(random), phone(phone), applications(applicationsOf(boot)),
+Hand::Hand(Random &random, LivePhone &phone, const std::optional<PaneSight> &pane, const Value &boot)
+    : random(random), phone(phone), pane(pane), applications(applicationsOf(boot)),
       generation_(phone.device().generation()) {
     const Profile &profile = *phone.device().options().profile;
     width = profile.width;

@@ -3,6 +3,7 @@
 
 #include "Random.hpp"
 #include "Snapshot.hpp"
+#include "Tools/Monkey/Rules/PaneSight.hpp"
 
 #include <deque>
 #include <functional>
@@ -14,7 +15,8 @@ namespace sim {
 
 struct Hand {
     // `boot` is the table that the phone was booted with.
-    Hand(Random &random, LivePhone &phone, const Value &boot);
+    // `pane` is the Settings application as the watcher saw it last; it stays the watcher's.
+    Hand(Random &random, LivePhone &phone, const std::optional<PaneSight> &pane, const Value &boot);
 
     // Looks again. To be called before each choice.
     void refresh();
@@ -23,6 +25,7 @@ struct Hand {
 
     Random &random;
     LivePhone &phone;
+    const std::optional<PaneSight> &pane;
     std::vector<std::string> applications;
     Snapshot snapshot;
     double width = 0, height = 0; // of the screen as the device is held

@@ -1,5 +1,7 @@
 #include "Observation.hpp"
 
+#include "Supervisor/Protocol/Changes.hpp"
+
 namespace sim {
 
 namespace {
@@ -11,38 +13,45 @@ Area area(const Array &fields, size_t first) {
 
 std::string textOr(const Value &value) { return value.isString() ? value.string() : std::string(); }
 
-SeenView readView(const Array &fields) {
-    return {.depth = fields[0].integer(),
-            .type = fields[1].string(),
-            .tag = fields[2].integer(),
-            .seen = fields[3].boolean(),
-            .finite = fields[4].boolean(),
-            .interactive = fields[5].boolean(),
-            .onScreen = area(fields, 6),
-            .frame = area(fields, 10),
-            .name = textOr(fields[14]),
-            .text = textOr(fields[15]),
-            .image = textOr(fields[16]),
-            .recognizers = fields[17].integer(),
-            .moving = fields[18].boolean(),
-            .alpha = fields[19].number(),
-            .background = textOr(fields[20]),
-            .radius = fields[21].number(),
-            .border = fields[22].number(),
-            .ink = textOr(fields[23]),
-            .font = fields[24].number(),
-            .picture = fields[25].boolean(),
-            .scrolled = fields[26].number(),
-            .contentWidth = fields[27].number()};
+Area readArea(RowReader &row) {
+    Area area;
+    for (double *number : {&area.x, &area.y, &area.w, &area.h}) *number = row.number();
+    return area;
+}
+
+// The fields as they come, see WindowReport.h in Simulator/Process.
+SeenView readView(RowReader row) {
+    SeenView view;
+    view.depth = row.integer();
+    view.type = row.text();
+    view.tag = row.integer();
+    view.seen = row.flag();
+    view.finite = row.flag();
+    view.interactive = row.flag();
+    view.onScreen = readArea(row);
+    view.frame = readArea(row);
+    view.name = row.text();
+    view.text = row.text();
+    view.image = row.text();
+    view.recognizers = row.integer();
+    view.moving = row.flag();
+    view.alpha = row.number();
+    view.background = row.text();
+    view.radius = row.number();
+    view.border = row.number();
+    view.ink = row.text();
+    view.font = row.number();
+    view.picture = row.flag();
+    view.scrolled = row.number();
+    view.contentWidth = row.number();
+    return view;
 }
 
 SeenWindow readWindow(const Value &answer) {
-    SeenWindow window{.interactive = answer["interactive"].boolean(),
-                      .hidden = answer["hidden"].boolean(),
-                      .touchable = answer["touchable"].integer(),
-                      .views = {}};
-    for (const auto &view : answer["views"].array()) window.views.push_back(readView(view.array()));
-    return window;
+    return {.interactive = answer["interactive"].boolean(),
+            .hidden = answer["hidden"].boolean(),
+            .touchable = answer["touchable"].integer(),
+            .views = std::vector<SeenView>(static_cast<size_t>(answer["views"].integer()))};
 }
 
 ExtensionState readState(const Value &variables) {
@@ -62,6 +71,35 @@ auto list(const Value &rows, Read read) {
     std::vector<decltype(read(rows.array()))> result;
     for (const auto &row : rows.array()) result.push_back(read(row.array()));
     return result;
+}
+
+SeenTimer readTimer(const Array &row) {
+    return {row[0].string(), row[1].string(), row[2].number(), row[3].integer()};
+}
+
+SeenHook readHook(const Array &row) {
+    return {row[0].string(), row[1].string(), row[2].integer(), row[3].integer(), row[4].integer()};
+}
+
+SeenBadge readBadge(const Array &row) {
+    SeenBadge badge{row[0].string(), row[1].integer(), row[2].boolean(), {}};
+    for (const Value &part : row[3].array())
+        badge.parts.push_back({part.array()[0].string(), part.array()[1].integer(), part.array()[2].number(),
+                               part.array()[3].string()});
+    return badge;
+}
+
+SeenApplication readApplication(const Array &row) {
+    return {row[0].string(), row[1].string(), row[2].boolean(), row[3].boolean()};
+}
+
+void readItemPlace(const Value &place, Observation &seen) {
+    seen.itemPlace.reset();
+    seen.itemGlow = {};
+    if (place.isNull()) return;
+    const Array &fields = place.array();
+    seen.itemPlace = area(fields, 0);
+    seen.itemGlow = {fields[4].number(), fields[5].number(), fields[6].number(), textOr(fields[7])};
 }
 
 // A variable of the extension, as the linker names it.
@@ -90,47 +128,58 @@ size_t SeenWindow::endOf(size_t view) const {
     return end;
 }
 
-Observation readObservation(const Value &answer) {
-    Observation seen;
-    for (const auto &window : answer["overlays"].array()) seen.overlays.push_back(readWindow(window));
-    for (const auto &[role, count] : answer["windows"].object()) seen.windows[role] = count.integer();
-    seen.timers = list(answer["timers"], [](const Array &row) {
-        return SeenTimer{row[0].string(), row[1].string(), row[2].number(), row[3].integer()};
-    });
-    seen.hooks = list(answer["hooks"], [](const Array &row) {
-        return SeenHook{row[0].string(), row[1].string(), row[2].integer(), row[3].integer(),
-                        row[4].integer()};
-    });
-    seen.badges = list(answer["badges"], [](const Array &row) {
-        SeenBadge badge{row[0].string(), row[1].integer(), row[2].boolean(), {}};
-        for (const Value &part : row[3].array())
-            badge.parts.push_back({part.array()[0].string(), part.array()[1].integer(),
-                                   part.array()[2].number(), textOr(part.array()[3])});
-        return badge;
-    });
-    seen.applications = list(answer["applications"], [](const Array &row) {
-        return SeenApplication{row[0].string(), row[1].string(), row[2].boolean(), row[3].boolean()};
-    });
-    for (const auto &identifier : answer["switcher"].array()) seen.switcher.push_back(identifier.string());
-    seen.foreground = answer["foreground"].string();
-    seen.iconWidth = answer["icon"].array()[0].number();
-    seen.iconHeight = answer["icon"].array()[1].number();
-    seen.screenLocked = answer["screen_locked"].boolean();
-    if (const Value &item = answer["item_place"]; !item.isNull()) {
-        const Array &fields = item.array();
-        seen.itemPlace = area(fields, 0);
-        seen.itemGlow = {fields[4].number(), fields[5].number(), fields[6].number(), textOr(fields[7])};
+void ObservationReader::readOverlays(const Value &answer) {
+    const bool changed = updateRows(views_, answer["views"].data().bytes, readView);
+    if (!changed && !answer.has("overlays")) return;
+    if (answer.has("overlays")) {
+        last_.overlays.clear();
+        for (const auto &window : answer["overlays"].array()) last_.overlays.push_back(readWindow(window));
     }
-    seen.extension = readState(answer["variables"]);
-    seen.itemPresent = answer["item"]["present"].boolean();
-    seen.itemVisible = answer["item"]["visible"].boolean();
-    seen.itemImage = textOr(answer["item"]["image"]);
-    seen.display = answer["display"].boolean();
-    seen.passcodeLocked = answer["passcode_locked"].boolean();
-    const Array &screen = answer["screen"].array();
-    seen.screenWidth = screen[0].number();
-    seen.screenHeight = screen[1].number();
-    seen.settingsWrites = answer["settings_writes"].integer();
+    auto from = views_.begin();
+    for (SeenWindow &window : last_.overlays)
+        for (SeenView &view : window.views) view = *from++;
+}
+
+const Observation &ObservationReader::read(const Value &answer) {
+    Observation &seen = last_;
+    auto part = [&](const char *name, auto take) {
+        auto found = answer.object().find(std::string_view(name));
+        if (found != answer.object().end()) take(found->second);
+    };
+    readOverlays(answer);
+    part("windows", [&](const Value &windows) {
+        seen.windows.clear();
+        for (const auto &[role, count] : windows.object()) seen.windows[role] = count.integer();
+    });
+    part("timers", [&](const Value &rows) { seen.timers = list(rows, readTimer); });
+    part("hooks", [&](const Value &rows) { seen.hooks = list(rows, readHook); });
+    part("badges", [&](const Value &rows) { seen.badges = list(rows, readBadge); });
+    part("applications", [&](const Value &rows) { seen.applications = list(rows, readApplication); });
+    part("switcher", [&](const Value &identifiers) {
+        seen.switcher.clear();
+        for (const auto &identifier : identifiers.array()) seen.switcher.push_back(identifier.string());
+    });
+    part("foreground", [&](const Value &identifier) { seen.foreground = identifier.string(); });
+    part("icon", [&](const Value &size) {
+        seen.iconWidth = size.array()[0].number();
+        seen.iconHeight = size.array()[1].number();
+    });
+    part("screen_locked", [&](const Value &locked) { seen.screenLocked = locked.boolean(); });
+    part("item_place", [&](const Value &place) { readItemPlace(place, seen); });
+    part("variables", [&](const Value &variables) { seen.extension = readState(variables); });
+    part("item", [&](const Value &item) {
+        seen.itemPresent = item["present"].boolean();
+        seen.itemVisible = item["visible"].boolean();
+        seen.itemImage = textOr(item["image"]);
+    });
+    part("display", [&](const Value &on) { seen.display = on.boolean(); });
+    part("passcode_locked", [&](const Value &locked) { seen.passcodeLocked = locked.boolean(); });
+    part("screen", [&](const Value &size) {
+        seen.screenWidth = size.array()[0].number();
+        seen.screenHeight = size.array()[1].number();
+    });
+    part("settings_writes", [&](const Value &count) { seen.settingsWrites = count.integer(); });
+    since_ = answer["revision"];
     return seen;
 }
 

@@ -123,8 +123,21 @@ struct Observation {
     int64_t settingsWrites = 0;               // of the process since its start
 };
 
-// Reads the answer to "inspect". Throws ValueError.
-Observation readObservation(const Value &answer);
+// Reads the answers to "inspect" of one process, which leave out what did not change.
+class ObservationReader {
+public:
+    // What to ask with.
+    const Value &since() const { return since_; }
+    // Throws ValueError.
+    const Observation &read(const Value &answer);
+
+private:
+    void readOverlays(const Value &answer);
+
+    Value since_;
+    std::vector<SeenView> views_; // of all windows
+    Observation last_;
+};
 
 // The arguments of the request "watch" that goes before the first "inspect" of a process. Hooks are counted
 // apart by kHookEditing and kHookShown.

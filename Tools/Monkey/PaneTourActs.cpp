@@ -63,7 +63,7 @@ std::string useRow(Hand &hand, const PaneSight &page) {
 }
 
 std::string stay(Hand &hand) {
-    const std::optional<PaneSight> pane = lookAtPane(hand.phone.settings());
+    const std::optional<PaneSight> &pane = hand.pane;
     if (!pane) return "";
     if (pane->alert)
         return calm("press", {hand.random.percent(80) ? said(hand, "cancel") : said(hand, "ok")});
@@ -76,7 +76,7 @@ std::string stay(Hand &hand) {
 
 // One step towards the first page.
 std::string leave(Hand &hand) {
-    const std::optional<PaneSight> pane = lookAtPane(hand.phone.settings());
+    const std::optional<PaneSight> &pane = hand.pane;
     if (!pane || pane->type == kFirstPage) return "";
     if (pane->alert) return calm("press", {said(hand, "ok")});
     if (pane->sheet || pane->type == "creatorsController") return calm("press", {said(hand, "cancel")});
@@ -84,7 +84,7 @@ std::string leave(Hand &hand) {
 }
 
 std::string open(Hand &hand, const char *key) {
-    const std::optional<PaneSight> pane = lookAtPane(hand.phone.settings());
+    const std::optional<PaneSight> &pane = hand.pane;
     if (!pane) return "";
     if (pane->alert) return calm("press", {said(hand, "ok")});
     if (pane->sheet) return typeCode(hand);

@@ -23,6 +23,8 @@ public:
 
     // Only while the device is up.
     LivePhone &phone() { return *phone_; }
+    // See Watcher.
+    const std::optional<PaneSight> &pane() const { return watcher_->pane(); }
 
 private:
     std::unique_ptr<LivePhone> phone_;

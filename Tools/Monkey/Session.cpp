@@ -39,7 +39,7 @@ Session live(const DeviceSetup &setup, const SessionPlan &plan, const Listener &
     session.broken = replay.broken();
     if (!session.broken.empty()) return session;
 
-    Hand hand(random, replay.phone(), session.boot);
+    Hand hand(random, replay.phone(), replay.pane(), session.boot);
     while (session.broken.empty() && !interrupted() && session.tally.events < plan.events)
         step(replay, hand, session, listener);
     session.interrupted = interrupted();

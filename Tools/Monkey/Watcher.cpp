@@ -30,6 +30,7 @@ void Watcher::meetHomeScreen() {
     SimulatedDevice &device = phone_.device();
     generation_ = device.generation();
     last_.reset();
+    reader_ = {};
     // What a restart of the home screen does not change.
     Memory kept;
     kept.scene.upright = memory_.scene.upright;
@@ -64,14 +65,14 @@ Array Watcher::takeSettingsEvents() {
 std::vector<std::string> Watcher::look(const std::string &call) {
     SimulatedDevice &device = phone_.device();
     if (generation_ != device.generation()) meetHomeScreen();
-    Observation seen =
-        readObservation(device.ask("inspect", Object{{"item", device.package().statusBarItem}}));
+    Observation seen = reader_.read(
+        device.ask("inspect", Object{{"item", device.package().statusBarItem}, {"since", reader_.since()}}));
     seen.spoken = spokenIn(device, seen);
     Array events = device.events().since(events_), settingsEvents = takeSettingsEvents();
     Value settingsBefore = settings_;
     bool changed = settingsChanged();
     bool pane = phone_.settings() != nullptr;
-    std::optional<PaneSight> paneNow = lookAtPane(phone_.settings());
+    std::optional<PaneSight> paneNow = paneReader_.look(phone_.settings());
     Moment moment{.before = last_ ? &*last_ : nullptr,
                   .now = seen,
                   .call = call,

@@ -18,6 +18,8 @@ public:
     // What is broken after `call` (a contract call as a script writes it), a sentence each that begins with
     // the name of its rule and a colon; empty when all is well.
     std::vector<std::string> look(const std::string &call);
+    // The Settings application as it was at that look; nothing when none was open.
+    const std::optional<PaneSight> &pane() const { return lastPane_; }
 
 private:
     void meetHomeScreen();
@@ -26,6 +28,7 @@ private:
 
     LivePhone &phone_;
     unsigned generation_ = 0;
+    ObservationReader reader_;
     std::optional<Observation> last_;
     Memory memory_;
     size_t events_ = 0; // how many of them have been judged
@@ -35,6 +38,7 @@ private:
     std::string settingsState_;
     Value settings_;
     bool pane_ = false;
+    PaneReader paneReader_;
     std::optional<PaneSight> lastPane_;
 };
 

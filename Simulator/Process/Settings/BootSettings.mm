@@ -32,7 +32,7 @@ Value boot(const Value &arguments) {
 
 std::vector<std::span<const Request>> ownRequests() {
     static const Request requests[] = {{"boot", boot}};
-    return {requests, pageRequests(), placeRequests(), typingRequests()};
+    return {requests, pageRequests(), pageInspectionRequests(), placeRequests(), typingRequests()};
 }
 
 void addOwnState(Object &) {}

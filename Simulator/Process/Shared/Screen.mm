@@ -11,11 +11,17 @@ CGPoint fromUpright(CGPoint point) {
 }
 CGRect toUpright(CGRect rect) { return CGRectApplyAffineTransform(rect, uprightTransform()); }
 
+const LayerProperties &presented(CALayer *layer, LayerProperties &room) {
+    const LayerState &own = state(layer);
+    return own.animations.empty() ? own.model : room = presented(layer);
+}
+
 CGRect presentedOnScreen(UIView *view) {
-    CGRect bounds = presented([view layer]).bounds;
+    LayerProperties room;
+    CGRect bounds = presented([view layer], room).bounds;
     CGAffineTransform toScreen = CGAffineTransformIdentity;
     for (; view; view = [view superview])
-        toScreen = CGAffineTransformConcat(toScreen, presented([view layer]).toSuperlayer());
+        toScreen = CGAffineTransformConcat(toScreen, presented([view layer], room).toSuperlayer());
     return toUpright(CGRectApplyAffineTransform(bounds, toScreen));
 }
 

@@ -46,7 +46,9 @@ void serve() {
     // Events go out as they happen, for the process may not live to the end of the request.
     // None is kept: a request may take a year, with a million of them.
     onEvent([&](const Value &event) {
-        channel.send(Object{{"event", event}});
+        Object message;
+        message.emplace("event", event);
+        channel.send(std::move(message));
         takeEvents();
     });
     while (auto request = channel.receive()) channel.send(answer(*request));

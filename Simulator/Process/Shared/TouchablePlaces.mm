@@ -10,28 +10,35 @@ namespace sim {
 
 namespace {
 
-bool takesTouches(UIView *view) {
-    if (state(view).recognizers.empty() && ![view isKindOfClass:[UIControl class]]) return false;
-    for (; view; view = [view superview])
-        if (![view isUserInteractionEnabled]) return false;
-    return true;
-}
+constexpr double kLeastAlpha = 0.01;
 
 double whole(CGFloat number) { return std::round(number); }
+
+bool isForTouches(UIView *view) {
+    return !state(view).recognizers.empty() || [view isKindOfClass:[UIControl class]];
+}
+
+// What cannot be seen or touched holds nothing that can.
+void collect(UIView *view, const std::string &window, CGRect screen, Array &places) {
+    if (![view isUserInteractionEnabled] || [view isHidden]) return;
+    LayerProperties room;
+    if (presented([view layer], room).opacity <= kLeastAlpha) return;
+    if (isForTouches(view)) {
+        const CGRect place = presentedOnScreen(view), shown = CGRectIntersection(place, screen);
+        if (CGRectIntersectsRect(place, screen))
+            places.push_back(Array{window, whole(CGRectGetMidX(shown)), whole(CGRectGetMidY(shown)),
+                                   static_cast<int64_t>([view tag])});
+    }
+    for (UIView *child : drawnSubviews(view)) collect(child, window, screen, places);
+}
 
 } // namespace
 
 Value touchablePlaces(const std::vector<std::string> &windows) {
     CGRect screen = toUpright(CGRectMake(0, 0, device().width, device().height));
     Array result;
-    for (const auto &window : windows) {
-        for (UIView *view : findViews(Object{{"window", window}, {"visible", true}}, false)) {
-            if (!takesTouches(view)) continue;
-            CGRect shown = CGRectIntersection(presentedOnScreen(view), screen);
-            result.push_back(Array{window, whole(CGRectGetMidX(shown)), whole(CGRectGetMidY(shown)),
-                                   static_cast<int64_t>([view tag])});
-        }
-    }
+    for (const auto &name : windows)
+        for (UIWindow *window : windowsNamed(name)) collect(window, name, screen, result);
     return result;
 }
 

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "Runtime/Values/Value.hpp"
+#include "UIKit/QuartzCore/LayerProperties.hpp"
 
 #include <UIKit/UIKit.h>
 
+#include <string>
 #include <vector>
 
 namespace sim {
@@ -21,9 +23,18 @@ Array lineage(UIView *view);
 // image's name.
 Value imageOf(UIView *view);
 
-// How the view is drawn at this moment: [alpha, background or null, corner radius, border's width, the colour
-// of its text or its tint, the size of its font or 0, whether it has a picture, and how far it is scrolled
-// and how wide its contents are, both 0 for what does not scroll]. A number that is none counts as 0.
-Array lookOf(UIView *view);
+// How a view is drawn at this moment. Colours are "#rrggbbaa", empty for none; a number that is none counts
+// as 0.
+struct ViewLook {
+    double alpha = 0;
+    std::string background;
+    double cornerRadius = 0, borderWidth = 0;
+    std::string ink;     // the colour of its text, else its tint
+    double fontSize = 0; // 0 for what shows no text
+    bool picture = false;
+    double scrolled = 0, contentWidth = 0; // both 0 for what does not scroll
+};
+// `shown` is what its layer presents.
+ViewLook lookOf(UIView *view, const LayerProperties &shown);
 
 } // namespace sim

@@ -147,20 +147,24 @@ void collect(UIView *view, std::set<int64_t> &seen, Array &views) {
 
 namespace {
 
+std::string plainText(const Value &text) { return text.isString() ? text.string() : std::string(); }
+
 double finite(double number) { return std::isfinite(number) ? rounded(number) : 0; }
 
 } // namespace
 
-Array lookOf(UIView *view) {
-    const LayerProperties now = presented([view layer]);
+ViewLook lookOf(UIView *view, const LayerProperties &shown) {
     UIFont *font = objectFrom(view, @selector(font), [UIFont class]);
     UIColor *ink = objectFrom(view, @selector(textColor), [UIColor class]);
     UIScrollView *scroll = [view isKindOfClass:[UIScrollView class]] ? (UIScrollView *)view : nil;
     return {
-        finite(now.opacity), background(view), finite(now.cornerRadius), finite(now.borderWidth),
-            colorOf(ink ? ink : [view tintColor]), font ? finite([font pointSize]) : 0,
-            objectFrom(view, @selector(image), [UIImage class]) != nil,
-            scroll ? finite([scroll contentOffset].x) : 0, scroll ? finite([scroll contentSize].width) : 0
+        .alpha = finite(shown.opacity), .background = plainText(background(view)),
+        .cornerRadius = finite(shown.cornerRadius), .borderWidth = finite(shown.borderWidth),
+        .ink = plainText(colorOf(ink ? ink : [view tintColor])),
+        .fontSize = font ? finite([font pointSize]) : 0,
+        .picture = objectFrom(view, @selector(image), [UIImage class]) != nil,
+        .scrolled = scroll ? finite([scroll contentOffset].x) : 0,
+        .contentWidth = scroll ? finite([scroll contentSize].width) : 0
     };
 }
 

@@ -1,5 +1,10 @@
 #include "Packed.hpp"
 
+#include "Json.hpp"
+#include "PropertyListText.hpp"
+
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <type_traits>
 
@@ -24,7 +29,7 @@ Number takeNumber(std::string_view &bytes) {
     return number;
 }
 
-void putText(const std::string &text, std::string &bytes) {
+void putText(std::string_view text, std::string &bytes) {
     putNumber(static_cast<uint32_t>(text.size()), bytes);
     bytes += text;
 }
@@ -38,18 +43,73 @@ std::string takeText(std::string_view &bytes) {
 
 void putKind(Kind kind, std::string &bytes) { bytes += static_cast<char>(kind); }
 
-void packArray(const Array &items, std::string &bytes) {
-    putKind(Kind::array, bytes);
-    putNumber(static_cast<uint32_t>(items.size()), bytes);
-    for (const auto &item : items) pack(item, bytes);
+// As it is.
+struct Exact {
+    static void text(const std::string &text, std::string &bytes) { putText(text, bytes); }
+};
+
+bool isAscii(const std::string &text) {
+    return std::ranges::all_of(text, [](char byte) { return static_cast<signed char>(byte) >= 0; });
 }
 
-void packObject(const Object &members, std::string &bytes) {
+// As JSON would have it.
+struct Plain {
+    static void text(const std::string &text, std::string &bytes) {
+        if (isAscii(text) || isUtf8(text)) return putText(text, bytes);
+        putText(parseJson(toJson(text)).string(), bytes);
+    }
+};
+
+template <typename Form>
+void packInto(std::string &bytes, const Value &value);
+
+template <typename Form>
+void packArray(std::string &bytes, const Array &items) {
+    putKind(Kind::array, bytes);
+    putNumber(static_cast<uint32_t>(items.size()), bytes);
+    for (const auto &item : items) packInto<Form>(bytes, item);
+}
+
+template <typename Form>
+void packObject(std::string &bytes, const Object &members) {
     putKind(Kind::object, bytes);
     putNumber(static_cast<uint32_t>(members.size()), bytes);
     for (const auto &[name, member] : members) {
-        putText(name, bytes);
-        pack(member, bytes);
+        Form::text(name, bytes);
+        packInto<Form>(bytes, member);
+    }
+}
+
+template <typename Form>
+void packReal(std::string &bytes, double number) {
+    if (std::is_same_v<Form, Plain> && !std::isfinite(number)) return putKind(Kind::null, bytes);
+    putKind(Kind::real, bytes);
+    putNumber(number, bytes);
+}
+
+template <typename Form>
+void packInto(std::string &bytes, const Value &value) {
+    if (value.isReal()) return packReal<Form>(bytes, value.number());
+    if (value.isString()) {
+        putKind(Kind::string, bytes);
+        Form::text(value.string(), bytes);
+    } else if (value.isInteger()) {
+        putKind(Kind::integer, bytes);
+        putNumber(value.integer(), bytes);
+    } else if (value.isNull()) {
+        putKind(Kind::null, bytes);
+    } else if (value.isBool()) {
+        putKind(value.boolean() ? Kind::yes : Kind::no, bytes);
+    } else if (value.isArray()) {
+        packArray<Form>(bytes, value.array());
+    } else if (value.isObject()) {
+        packObject<Form>(bytes, value.object());
+    } else if (value.isData()) {
+        putKind(Kind::data, bytes);
+        putText(value.data().bytes, bytes);
+    } else {
+        putKind(Kind::date, bytes);
+        putNumber(value.date().seconds, bytes);
     }
 }
 
@@ -79,25 +139,8 @@ size_t outside(const std::string &text) {
 
 } // namespace
 
-void pack(const Value &value, std::string &bytes) {
-    if (value.isNull()) return putKind(Kind::null, bytes);
-    if (value.isBool()) return putKind(value.boolean() ? Kind::yes : Kind::no, bytes);
-    if (value.isArray()) return packArray(value.array(), bytes);
-    if (value.isObject()) return packObject(value.object(), bytes);
-    if (value.isString()) {
-        putKind(Kind::string, bytes);
-        putText(value.string(), bytes);
-    } else if (value.isData()) {
-        putKind(Kind::data, bytes);
-        putText(value.data().bytes, bytes);
-    } else if (value.isInteger()) {
-        putKind(Kind::integer, bytes);
-        putNumber(value.integer(), bytes);
-    } else {
-        putKind(value.isDate() ? Kind::date : Kind::real, bytes);
-        putNumber(value.isDate() ? value.date().seconds : value.number(), bytes);
-    }
-}
+void pack(const Value &value, std::string &bytes) { packInto<Exact>(bytes, value); }
+void packPlain(const Value &value, std::string &bytes) { packInto<Plain>(bytes, value); }
 
 Value unpack(std::string_view &bytes) {
     switch (static_cast<Kind>(takeNumber<char>(bytes))) {

@@ -1,4 +1,5 @@
-// Values as bytes that give the same value again, of any kind: for keeping many of them in a file.
+// Values as bytes that give the same value again: for keeping many of them in a file, and for what processes
+// of one machine tell each other.
 #pragma once
 
 #include "Value.hpp"
@@ -7,7 +8,10 @@ namespace sim {
 
 // Appends the value to `bytes`.
 void pack(const Value &value, std::string &bytes);
-// Takes the first value off the front of `bytes`, which pack() has made.
+// The same as it would come out of JSON: in texts, bytes that are not UTF-8 are replaced, and numbers that
+// are none are null. Data and dates, which have no such form, stay what they are.
+void packPlain(const Value &value, std::string &bytes);
+// Takes the first value off the front of `bytes`, which one of these has made.
 Value unpack(std::string_view &bytes);
 
 // About what the value takes of memory, in bytes.

@@ -67,7 +67,7 @@ Value SettingsProcess::perform(const char *request, Object &arguments, bool *die
         now_ = reply.now;
         next_ = reply.next;
         if (reply.respring) device_.restartFromSettings(now_);
-        return reply.result;
+        return std::move(reply.result);
     } catch (const ProcessDied &death) {
         *died = true;
         recordCrash(death.ending);

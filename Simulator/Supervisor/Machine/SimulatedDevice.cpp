@@ -189,7 +189,7 @@ Value SimulatedDevice::perform(const char *request, Object &arguments, bool *die
             end();
             boot();
         }
-        return reply.result;
+        return std::move(reply.result);
     } catch (const ProcessDied &death) {
         // An interrupt from the terminal reaches the process as well.
         if (interrupted()) {

@@ -1,4 +1,5 @@
-// One end of the channel between the supervisor and a simulated process: newline-delimited JSON.
+// One end of the channel between the supervisor and a simulated process: values, each packed
+// (Runtime/Values/Packed.hpp) behind its length.
 //
 // The supervisor asks, {"request": name, "arguments": {…}}, and waits for the answer, which is {"result": …}
 // or
@@ -10,6 +11,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace sim {
 
@@ -28,9 +30,12 @@ public:
     void close();
 
 private:
+    std::string_view waiting() const;
+    bool fill(size_t wanted);
+
     int descriptor_;
-    std::string buffer_;
-    size_t scanned_ = 0; // bytes of the buffer without a line break
+    std::string outgoing_, incoming_;
+    size_t begin_ = 0, end_ = 0; // of what has come and was not taken yet
 };
 
 } // namespace sim

@@ -1,16 +1,16 @@
 #include "PaneSight.hpp"
 
 #include "Supervisor/Machine/SettingsProcess.hpp"
+#include "Supervisor/Protocol/Changes.hpp"
 
 #include <algorithm>
-#include <map>
+#include <cmath>
 
 namespace sim {
 
 namespace {
 
 std::string textOr(const Value &value) { return value.isString() ? value.string() : std::string(); }
-double numberOr(const Value &value) { return value.isNumber() ? value.number() : 0; }
 
 PaneRow readRow(const Value &row) {
     PaneRow result{.label = textOr(row["label"]),
@@ -24,39 +24,56 @@ PaneRow readRow(const Value &row) {
     return result;
 }
 
-PaneView readView(const Value &fields) {
+double numberOf(RowReader &row) {
+    const double number = row.number();
+    if (!std::isfinite(number)) throw ValueError("expected number, found none");
+    return number;
+}
+
+Area readArea(RowReader &row) {
+    Area area;
+    for (double *number : {&area.x, &area.y, &area.w, &area.h}) *number = numberOf(row);
+    return area;
+}
+
+// The fields as they come, see InspectionRequests.mm in Simulator/Process/Settings.
+PaneView readView(RowReader row) {
     PaneView result;
     SeenView &view = result.view;
-    view.type = textOr(fields["class"]);
-    view.tag = fields["tag"].integer();
-    view.frame = {fields["x"].number(), fields["y"].number(), fields["w"].number(), fields["h"].number()};
-    const Value &screen = fields["screen"];
-    view.onScreen = {screen["x"].number(), screen["y"].number(), screen["w"].number(), screen["h"].number()};
-    view.text = textOr(fields["title"]).empty() ? textOr(fields["text"]) : textOr(fields["title"]);
-    view.image = textOr(fields["image"]);
-    view.alpha = fields["presented_alpha"].number();
-    view.seen = !fields["hidden"].boolean() && view.alpha > 0;
-    view.background = textOr(fields["background"]);
-    view.radius = fields["corner_radius"].number();
-    view.font = numberOr(fields["font_size"]);
-    view.ink = textOr(fields["text_color"]).empty() ? textOr(fields["tint"]) : textOr(fields["text_color"]);
-    result.shadowRadius = numberOr(fields["shadow_radius"]);
-    result.shadowOpacity = numberOr(fields["shadow_opacity"]);
-    result.shadow = textOr(fields["shadow_color"]);
+    view.depth = row.integer();
+    view.type = row.text();
+    view.tag = row.integer();
+    const bool hidden = row.flag();
+    view.frame = readArea(row);
+    view.onScreen = readArea(row);
+    view.text = row.text();
+    view.image = row.text();
+    view.alpha = numberOf(row);
+    view.seen = !hidden && view.alpha > 0;
+    view.background = row.text();
+    view.radius = numberOf(row);
+    view.ink = row.text();
+    view.font = row.number();
+    result.shadowRadius = row.number();
+    result.shadowOpacity = row.number();
+    result.shadow = row.text();
     return result;
 }
 
-void readViews(const Value &answer, PaneSight &sight) {
-    const Array &all = answer["views"].array();
-    std::map<int64_t, size_t> places;
-    for (size_t i = 0; i < all.size(); ++i) places[all[i]["number"].integer()] = i;
-    for (const Value &fields : all) {
-        PaneView view = readView(fields);
-        for (const Value &child : fields["children"].array())
-            if (auto place = places.find(child.integer()); place != places.end())
-                view.children.push_back(place->second);
-        sight.views.push_back(std::move(view));
+// Whose children they are follows from the depths.
+void nest(std::vector<PaneView> &views) {
+    std::vector<size_t> line;
+    for (size_t i = 0; i < views.size(); ++i) {
+        views[i].children.clear();
+        line.resize(static_cast<size_t>(views[i].view.depth));
+        if (!line.empty()) views[line.back()].children.push_back(i);
+        line.push_back(i);
     }
+}
+
+PaneSheet readSheet(const Value &sheet) {
+    return {sheet["group"].integer(), sheet["dots"].integer(), textOr(sheet["title"]),
+            textOr(sheet["label"])};
 }
 
 } // namespace
@@ -83,21 +100,34 @@ const PaneRow *PaneSight::row(std::string_view label) const {
     return found == rows.end() ? nullptr : &*found;
 }
 
-std::optional<PaneSight> lookAtPane(SettingsProcess *settings) {
-    if (!settings || !settings->running()) return std::nullopt;
+void PaneReader::read(const Value &answer) {
+    const Object &parts = answer.object();
+    if (auto page = parts.find("page"); page != parts.end()) {
+        last_.type = textOr(page->second["class"]);
+        last_.title = textOr(page->second["title"]);
+        last_.rows.clear();
+        for (const Value &row : page->second["rows"].array()) last_.rows.push_back(readRow(row));
+    }
+    if (auto alert = parts.find("alert"); alert != parts.end()) {
+        last_.alert.reset();
+        if (!alert->second.isNull()) last_.alert = textOr(alert->second["title"]);
+    }
+    if (auto sheet = parts.find("sheet"); sheet != parts.end()) {
+        last_.sheet.reset();
+        if (!sheet->second.isNull()) last_.sheet = readSheet(sheet->second);
+    }
+    if (updateRows(last_.views, answer["views"].data().bytes, readView)) nest(last_.views);
+    since_ = answer["revision"];
+}
+
+std::optional<PaneSight> PaneReader::look(SettingsProcess *settings) {
+    if (!settings || !settings->running()) {
+        since_ = {};
+        return std::nullopt;
+    }
     try {
-        PaneSight sight;
-        const Value page = settings->ask("page"), alert = settings->ask("alert"),
-                    sheet = settings->ask("sheet");
-        sight.type = textOr(page["class"]);
-        sight.title = textOr(page["title"]);
-        for (const Value &row : page["rows"].array()) sight.rows.push_back(readRow(row));
-        if (!alert.isNull()) sight.alert = textOr(alert["title"]);
-        if (!sheet.isNull())
-            sight.sheet = PaneSheet{sheet["group"].integer(), sheet["dots"].integer(), textOr(sheet["title"]),
-                                    textOr(sheet["label"])};
-        readViews(settings->ask("windows", Object{{"window", "app"}}), sight);
-        return sight;
+        read(settings->ask("inspect", Object{{"since", since_}}));
+        return last_;
     } catch (const RequestError &) {
         return std::nullopt;
     }

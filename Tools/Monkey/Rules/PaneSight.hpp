@@ -46,7 +46,17 @@ struct PaneSight {
     const PaneRow *row(std::string_view label) const;
 };
 
-// Nothing while no such application runs, and when it cannot answer.
-std::optional<PaneSight> lookAtPane(SettingsProcess *settings);
+// Looks at one Settings application after the other.
+class PaneReader {
+public:
+    // Nothing while no such application runs, and when it cannot answer. Throws ValueError.
+    std::optional<PaneSight> look(SettingsProcess *settings);
+
+private:
+    void read(const Value &answer);
+
+    Value since_;
+    PaneSight last_;
+};
 
 } // namespace sim

@@ -35,13 +35,14 @@ Value hooks() {
     return result;
 }
 
-// What stands on an icon: [[class, tag, alpha, tint]]; alpha is 0 for what is hidden.
+// What stands on an icon: [[class, tag, alpha, tint or ""]]; alpha is 0 for what is hidden.
 Value partsOf(UIView *iconView) {
     Array parts;
     for (UIView *part in [iconView subviews]) {
-        const Array look = lookOf(part);
+        LayerProperties room;
+        const ViewLook look = lookOf(part, presented([part layer], room));
         parts.push_back(Array{object_getClassName(part), static_cast<int64_t>([part tag]),
-                              [part isHidden] ? Value(0.0) : look[0], look[4]});
+                              [part isHidden] ? 0.0 : look.alpha, look.ink});
     }
     return parts;
 }
@@ -85,29 +86,38 @@ Value itemPlace(const std::string &identifier) {
                  model.opacity,  model.shadowOpacity, model.shadowRadius, colorText(model.shadowColor)};
 }
 
-// {"item": identifier of a status-bar item}: all that there is to know about an overlay and its indicator at
-// this moment. Hooks are counted from one call to the next.
+// {"item": identifier of a status-bar item; "since": the "revision" of the answer before}: all that there is
+// to know about an overlay and its indicator at this moment, as far as it changed (AnswerMemory). "views" are
+// the rows of all overlays. Hooks are counted from one call to the next.
 Value inspect(const Value &arguments) {
+    static AnswerMemory memory;
+    static RowWriter rows;
+    const std::string &item = arguments["item"].string();
     Array overlays;
     for (UIWindow *window : allWindows())
-        if (role(window) == WindowRole::overlay) overlays.push_back(windowReport(window));
-    return Object{{"overlays", overlays},
-                  {"windows", windowCounts()},
-                  {"timers", timers()},
-                  {"hooks", hooks()},
-                  {"badges", badges()},
-                  {"variables", watchedVariables()},
-                  {"item", statusBarItem(arguments["item"].string())},
-                  {"item_place", itemPlace(arguments["item"].string())},
-                  {"applications", applications()},
-                  {"switcher", switcher()},
-                  {"foreground", foregroundApplication().value_or("")},
-                  {"screen_locked", lockState().screenLocked},
-                  {"icon", Array{[SBIconView defaultIconSize].width, [SBIconView defaultIconSize].height}},
-                  {"display", displayIsOn()},
-                  {"passcode_locked", lockState().passcodeLocked},
-                  {"screen", Array{interfaceSize().width, interfaceSize().height}},
-                  {"settings_writes", fileCounts().writes}};
+        if (role(window) == WindowRole::overlay) overlays.push_back(windowReport(window, rows));
+    Object answer;
+    answer["overlays"] = std::move(overlays);
+    answer["windows"] = windowCounts();
+    answer["timers"] = timers();
+    answer["hooks"] = hooks();
+    answer["badges"] = badges();
+    answer["variables"] = watchedVariables();
+    answer["item"] = statusBarItem(item);
+    answer["item_place"] = itemPlace(item);
+    answer["applications"] = applications();
+    answer["switcher"] = switcher();
+    answer["foreground"] = foregroundApplication().value_or("");
+    answer["screen_locked"] = lockState().screenLocked;
+    answer["icon"] = Array{[SBIconView defaultIconSize].width, [SBIconView defaultIconSize].height};
+    answer["display"] = displayIsOn();
+    answer["passcode_locked"] = lockState().passcodeLocked;
+    answer["screen"] = Array{interfaceSize().width, interfaceSize().height};
+    answer["settings_writes"] = fileCounts().writes;
+    const Data views{rows.take(!memory.isCurrent(arguments["since"]))};
+    Value changes = memory.changes(std::move(answer), arguments["since"]);
+    changes.set("views", views);
+    return changes;
 }
 
 // What decides whether a call has an effect now.

@@ -44,41 +44,72 @@ bool ends(const LayerAnimation &animation) {
     return !animation.over && std::isfinite(static_cast<double>(animation.timing.repeatCount));
 }
 
-void addRect(Array &fields, CGRect rect) {
+void field(RowWriter &row, CGRect rect) {
     if (!isFinite(rect)) rect = CGRectZero;
     for (CGFloat number : {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height})
-        fields.emplace_back(rounded(number));
+        row.put(rounded(number));
 }
 
-Value textValue(NSString *string) { return string ? Value([string UTF8String]) : Value(); }
-
-void report(UIView *view, Surroundings around, Array &views) {
-    const LayerState &layer = state([view layer]);
-    const LayerProperties now = presented([view layer]);
-    bool finite = isFinite(layer.model) && isFinite(now);
-    around.toScreen = CGAffineTransformConcat(now.toSuperlayer(), around.toScreen);
-    CGRect place = CGRectApplyAffineTransform(now.bounds, around.toScreen);
-    around.seen = around.seen && !now.hidden && now.opacity > kLeastAlpha;
-    bool seen = around.seen && CGRectIntersectsRect(place, around.clip);
-    Array fields{around.depth,
-                 object_getClassName(view),
-                 static_cast<int64_t>([view tag]),
-                 seen,
-                 finite,
-                 static_cast<bool>([view isUserInteractionEnabled])};
-    addRect(fields, toUpright(place));
-    addRect(fields, layer.model.frame());
-    fields.push_back(textValue([[view layer] name]));
-    fields.push_back(textValue(textOf(view)));
-    fields.push_back(imageOf(view));
-    fields.emplace_back(state(view).recognizers.size());
-    fields.emplace_back(std::ranges::any_of(layer.animations, ends));
-    for (Value &look : lookOf(view)) fields.push_back(std::move(look));
-    views.emplace_back(std::move(fields));
-    if (now.masksToBounds) around.clip = CGRectIntersection(around.clip, place);
-    ++around.depth;
-    for (UIView *child : drawnSubviews(view)) report(child, around, views);
+void field(RowWriter &row, NSString *string) {
+    const char *text = [string UTF8String];
+    row.put(std::string_view(text ? text : ""));
 }
+
+void field(RowWriter &row, const ViewLook &look) {
+    row.put(look.alpha);
+    row.put(look.background);
+    row.put(look.cornerRadius);
+    row.put(look.borderWidth);
+    row.put(look.ink);
+    row.put(look.fontSize);
+    row.put(look.picture);
+    row.put(look.scrolled);
+    row.put(look.contentWidth);
+}
+
+class Reporter {
+public:
+    explicit Reporter(RowWriter &rows) : rows_(rows) {}
+    int64_t count() const { return count_; }
+
+    void report(UIView *view, Surroundings around) {
+        const LayerState &layer = state([view layer]);
+        LayerProperties moving;
+        const LayerProperties &now = presented([view layer], moving);
+        around.toScreen = CGAffineTransformConcat(now.toSuperlayer(), around.toScreen);
+        const CGRect place = CGRectApplyAffineTransform(now.bounds, around.toScreen);
+        around.seen = around.seen && !now.hidden && now.opacity > kLeastAlpha;
+        put(view, layer, now, around, place);
+        if (now.masksToBounds) around.clip = CGRectIntersection(around.clip, place);
+        ++around.depth;
+        for (UIView *child : drawnSubviews(view)) report(child, around);
+    }
+
+private:
+    void put(UIView *view, const LayerState &layer, const LayerProperties &now, const Surroundings &around,
+             CGRect place) {
+        ++count_;
+        rows_.put(around.depth);
+        rows_.put(std::string_view(object_getClassName(view)));
+        rows_.put(static_cast<int64_t>([view tag]));
+        rows_.put(around.seen && static_cast<bool>(CGRectIntersectsRect(place, around.clip)));
+        rows_.put(isFinite(layer.model) && isFinite(now));
+        rows_.put(static_cast<bool>([view isUserInteractionEnabled]));
+        field(rows_, toUpright(place));
+        field(rows_, layer.model.frame());
+        field(rows_, [[view layer] name]);
+        field(rows_, textOf(view));
+        const Value image = imageOf(view);
+        rows_.put(image.isString() ? std::string_view(image.string()) : std::string_view());
+        rows_.put(static_cast<int64_t>(state(view).recognizers.size()));
+        rows_.put(std::ranges::any_of(layer.animations, ends));
+        field(rows_, lookOf(view, now));
+        rows_.endRow();
+    }
+
+    RowWriter &rows_;
+    int64_t count_ = 0;
+};
 
 int64_t touchablePoints(UIWindow *window) {
     int64_t touchable = 0;
@@ -103,16 +134,16 @@ Value windowCounts() {
     return counts;
 }
 
-Value windowReport(UIWindow *window) {
+Value windowReport(UIWindow *window, RowWriter &rows) {
     std::vector<UIWindow *> displayed = displayedWindows();
     CGRect screen = CGRectMake(0, 0, device().width, device().height);
     bool shown = std::ranges::find(displayed, window) != displayed.end();
-    Array views;
-    report(window, {.clip = screen, .seen = shown}, views);
+    Reporter reporter(rows);
+    reporter.report(window, {.clip = screen, .seen = shown});
     return Object{{"interactive", static_cast<bool>([window isUserInteractionEnabled])},
                   {"hidden", static_cast<bool>([window isHidden])},
                   {"touchable", touchablePoints(window)},
-                  {"views", views}};
+                  {"views", reporter.count()}};
 }
 
 } // namespace sim

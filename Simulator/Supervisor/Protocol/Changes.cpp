@@ -1,0 +1,89 @@
+#include "Changes.hpp"
+
+#include "Runtime/Values/Packed.hpp"
+
+#include <utility>
+
+namespace sim {
+
+namespace {
+
+using Length = uint32_t;
+constexpr Length kAsBefore = ~Length{0};
+
+void putLength(std::string &bytes, size_t length) {
+    const auto number = static_cast<Length>(length);
+    bytes.append(reinterpret_cast<const char *>(&number), sizeof number);
+}
+
+Length takeLength(std::string_view &bytes) {
+    Length length;
+    std::memcpy(&length, bytes.substr(0, sizeof length).data(), sizeof length);
+    bytes.remove_prefix(sizeof length);
+    return length;
+}
+
+} // namespace
+
+void RowWriter::put(std::string_view text) {
+    putLength(now_.bytes, text.size());
+    now_.bytes += text;
+}
+
+void RowWriter::endRow() { now_.ends.push_back(now_.bytes.size()); }
+
+std::string_view RowWriter::Rows::row(size_t index) const {
+    size_t begin = index ? ends[index - 1] : 0;
+    return std::string_view(bytes).substr(begin, ends[index] - begin);
+}
+
+std::string RowWriter::take(bool all) {
+    std::string result;
+    putLength(result, now_.ends.size());
+    for (size_t i = 0; i < now_.ends.size(); ++i) {
+        const std::string_view row = now_.row(i);
+        if (!all && i < before_.ends.size() && row == before_.row(i)) {
+            putLength(result, kAsBefore);
+            continue;
+        }
+        putLength(result, row.size());
+        result += row;
+    }
+    std::swap(now_, before_);
+    now_.bytes.clear();
+    now_.ends.clear();
+    return result;
+}
+
+std::string RowReader::text() {
+    const Length length = takeLength(rest_);
+    std::string text(rest_.substr(0, length));
+    rest_.remove_prefix(length);
+    return text;
+}
+
+ChangedRows::ChangedRows(std::string_view bytes) {
+    rows.resize(takeLength(bytes));
+    for (auto &row : rows) {
+        const Length length = takeLength(bytes);
+        if (length == kAsBefore) continue;
+        row = bytes.substr(0, length);
+        bytes.remove_prefix(length);
+    }
+}
+
+Value AnswerMemory::changes(Object answer, const Value &since) {
+    const bool current = isCurrent(since);
+    for (auto part = answer.begin(); part != answer.end();) {
+        std::string packed;
+        packPlain(part->second, packed);
+        std::string &said = said_[part->first];
+        const bool same = current && said == packed;
+        said = std::move(packed);
+        part = same ? answer.erase(part) : std::next(part);
+    }
+    answer.emplace("revision", ++revision_);
+    return answer;
+}
+
+} // namespace sim
