@@ -111,14 +111,16 @@ std::string symbolOf(const std::string &name) {
 
 std::vector<size_t> SeenWindow::childrenOf(size_t parent) const {
     std::vector<size_t> children;
-    for (size_t i = parent + 1; i < endOf(parent); ++i)
-        if (views[i].depth == views[parent].depth + 1) children.push_back(i);
+    const int64_t depth = views[parent].depth;
+    for (size_t i = parent + 1; i < views.size() && views[i].depth > depth; ++i)
+        if (views[i].depth == depth + 1) children.push_back(i);
     return children;
 }
 
 size_t SeenWindow::child(size_t parent, int64_t tag) const {
-    for (size_t view : childrenOf(parent))
-        if (views[view].tag == tag) return view;
+    const int64_t depth = views[parent].depth;
+    for (size_t i = parent + 1; i < views.size() && views[i].depth > depth; ++i)
+        if (views[i].depth == depth + 1 && views[i].tag == tag) return i;
     return npos;
 }
 
