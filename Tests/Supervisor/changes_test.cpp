@@ -50,6 +50,18 @@ TEST(Changes, RowsThatStayAreLeftOutUnlessAllAreWanted) {
     EXPECT_EQ(say(writer, rows, true), first);
 }
 
+TEST(Changes, AnAnswerThatEndsTooEarlyIsAnError) {
+    RowWriter writer;
+    writer.put(std::string_view("a row"));
+    writer.endRow();
+    const std::string whole = writer.take(true);
+    auto read = [](RowReader row) { return row.text(); };
+    for (size_t length = 0; length < whole.size(); ++length) {
+        std::vector<std::string> rows;
+        EXPECT_THROW(updateRows(rows, whole.substr(0, length), read), std::runtime_error) << length;
+    }
+}
+
 TEST(Changes, PartsOfAnAnswerComeOnceUntilTheyChange) {
     AnswerMemory memory;
     Object all{{"number", 1}, {"text", "a"}, {"none", nullptr}};

@@ -2,6 +2,7 @@
 
 #include "Runtime/Values/Packed.hpp"
 
+#include <stdexcept>
 #include <utility>
 
 namespace sim {
@@ -18,12 +19,18 @@ void putLength(std::string &bytes, size_t length) {
 
 Length takeLength(std::string_view &bytes) {
     Length length;
-    std::memcpy(&length, bytes.substr(0, sizeof length).data(), sizeof length);
-    bytes.remove_prefix(sizeof length);
+    std::memcpy(&length, takeBytes(bytes, sizeof length).data(), sizeof length);
     return length;
 }
 
 } // namespace
+
+std::string_view takeBytes(std::string_view &bytes, size_t size) {
+    if (bytes.size() < size) throw std::runtime_error("a process's answer ends too early");
+    const std::string_view front = bytes.substr(0, size);
+    bytes.remove_prefix(size);
+    return front;
+}
 
 void RowWriter::put(std::string_view text) {
     putLength(now_.bytes, text.size());
@@ -57,18 +64,13 @@ std::string RowWriter::take(bool all) {
 
 std::string RowReader::text() {
     const Length length = takeLength(rest_);
-    std::string text(rest_.substr(0, length));
-    rest_.remove_prefix(length);
-    return text;
+    return std::string(takeBytes(rest_, length));
 }
 
 ChangedRows::ChangedRows(std::string_view bytes) {
-    rows.resize(takeLength(bytes));
-    for (auto &row : rows) {
+    for (Length left = takeLength(bytes); left; --left) {
         const Length length = takeLength(bytes);
-        if (length == kAsBefore) continue;
-        row = bytes.substr(0, length);
-        bytes.remove_prefix(length);
+        rows.push_back(length == kAsBefore ? std::nullopt : std::optional(takeBytes(bytes, length)));
     }
 }
 

@@ -37,7 +37,11 @@ private:
     Rows now_, before_;
 };
 
-// The fields of a row, in the order in which they were put.
+// The `size` bytes at the front, which go from `bytes`. Throws std::runtime_error when there are fewer.
+std::string_view takeBytes(std::string_view &bytes, size_t size);
+
+// The fields of a row, in the order in which they were put. Asking for more than there is throws as
+// takeBytes().
 class RowReader {
 public:
     explicit RowReader(std::string_view bytes) : rest_(bytes) {}
@@ -50,8 +54,7 @@ private:
     template <typename Field>
     Field take() {
         Field field;
-        std::memcpy(&field, rest_.substr(0, sizeof field).data(), sizeof field);
-        rest_.remove_prefix(sizeof field);
+        std::memcpy(&field, takeBytes(rest_, sizeof field).data(), sizeof field);
         return field;
     }
     std::string_view rest_;
@@ -71,7 +74,7 @@ private:
     std::map<std::string, std::string, std::less<>> said_; // packed
 };
 
-// Each of the rows; nothing where it is as before.
+// Each of the rows; nothing where it is as before. Throws as takeBytes().
 struct ChangedRows {
     explicit ChangedRows(std::string_view bytes);
     std::vector<std::optional<std::string_view>> rows;
