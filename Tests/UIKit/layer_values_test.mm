@@ -55,6 +55,12 @@ TEST(LayerValues, APropertyIsReachedByItsKey) {
     EXPECT_EQ([layer opacity], 0.5f);
     EXPECT_TRUE([[layer name] isEqual:@"com.example"]);
     EXPECT_EQ([[layer valueForKey:@"cornerRadius"] doubleValue], 7);
+    // What is no property of a plain layer may be one of another class, whoever was asked first.
+    CAShapeLayer *shape = [[CAShapeLayer new] autorelease];
+    for (int i = 0; i < 2; ++i) [layer setValue:[NSNumber numberWithInt:i] forKey:@"lineWidth"];
+    [shape setValue:[NSNumber numberWithInt:3] forKey:@"lineWidth"];
+    EXPECT_EQ([shape lineWidth], 3);
+    EXPECT_EQ([[layer valueForKey:@"lineWidth"] intValue], 1);
 }
 
 TEST(LayerValues, LiveAsLongAsTheLayer) {

@@ -13,7 +13,8 @@ CGRect portraitScreenBounds() {
 
 float systemVersion() {
     constexpr float kSeven = 7, kEight = 8;
-    float told = [[UIDevice currentDevice].systemVersion floatValue];
+    static float told = 0; // the system that this process runs on stays what it is
+    if (told <= 0) told = [[UIDevice currentDevice].systemVersion floatValue];
     if (told > 0) return told;
     Class controller = objc_getClass("SBApplicationController");
     return [controller instancesRespondToSelector:@selector(applicationWithBundleIdentifier:)] ? kEight

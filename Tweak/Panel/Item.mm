@@ -84,8 +84,9 @@ void addGestures(PanelBuild &build, UIView *itemView) {
 } // namespace
 
 void addItem(PanelBuild &build, const PanelApplication &application, int index) {
-    UIView *itemView = [[UIView alloc] initWithFrame:toCGRect(cellFrame(build.layout, index))];
-    setHeight(itemView, itemView.frame.size.height + build.names.more);
+    CGRect frame = toCGRect(cellFrame(build.layout, index));
+    frame.size.height += build.names.more;
+    UIView *itemView = [[UIView alloc] initWithFrame:frame];
     itemView.layer.name = application.identifier;
     itemView.backgroundColor = [UIColor clearColor];
     itemView.userInteractionEnabled = YES;
@@ -98,7 +99,7 @@ void addItem(PanelBuild &build, const PanelApplication &application, int index) 
     if ([application.identifier isEqualToString:kClock]) drawClock(itemView, icon);
     addGestures(build, itemView);
     addBadge(build, application, itemView, iconFrame);
-    [itemView bringSubviewToFront:[itemView viewWithTag:tags::itemCardIcon]];
+    if (build.cards) [itemView bringSubviewToFront:[itemView viewWithTag:tags::itemCardIcon]];
 
     [build.strip addSubview:itemView];
     [itemView release];

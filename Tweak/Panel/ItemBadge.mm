@@ -16,8 +16,16 @@ namespace {
 constexpr NSInteger kMostShown = 999;
 constexpr CGFloat kBorderWidth = 1;
 
-NSString *badgeText(NSInteger value) {
+NSString *textFor(NSInteger value) {
     return value > kMostShown ? @"999+" : [NSString stringWithFormat:@"%d", static_cast<int>(value)];
+}
+
+BadgeText &badgeText(PanelBuild &build, NSInteger value) {
+    if (value > kMostShown) value = kMostShown + 1; // they all say the same
+    for (BadgeText &text : build.badgeTexts)
+        if (text.value == value) return text;
+    build.badgeTexts.push_back({value, textFor(value), nil});
+    return build.badgeTexts.back();
 }
 
 UIColor *colorOf(int rgb) {
@@ -38,21 +46,23 @@ void colorBadge(UIImageView *badge, UILabel *label, SBIcon *icon, Class colorBad
 }
 
 // Drawn once for all badges of one opening that say the same.
-UIImage *textImage(PanelBuild &build, NSString *text) {
-    UIImage *image = [build.badgeTexts objectForKey:text];
-    if (image) return image;
-    image = [objc_getClass("SBIconBadgeView") _checkoutImageForText:text highlighted:NO];
-    if (image) [build.badgeTexts setObject:image forKey:text];
-    return image;
+UIImage *textImage(BadgeText &text) {
+    if (!text.image)
+        text.image = [objc_getClass("SBIconBadgeView") _checkoutImageForText:text.text highlighted:NO];
+    return text.image;
 }
 
-void drawBadge(PanelBuild &build, UIImageView *badge, UILabel *label, NSString *text) {
-    Class badgeView = objc_getClass("SBIconBadgeView");
-    UIImage *background = [badgeView _checkoutBackgroundImage];
-    CGFloat down = background.size.height / 2 - 1, across = background.size.width / 2 - 1;
-    badge.image = [background resizableImageWithCapInsets:UIEdgeInsetsMake(down, across, down, across)];
+UIImage *badgeGround() {
+    UIImage *image = [objc_getClass("SBIconBadgeView") _checkoutBackgroundImage];
+    CGFloat down = image.size.height / 2 - 1, across = image.size.width / 2 - 1;
+    return [image resizableImageWithCapInsets:UIEdgeInsetsMake(down, across, down, across)];
+}
+
+void drawBadge(PanelBuild &build, UIImageView *badge, UILabel *label, BadgeText &text) {
+    if (!build.badgeGround) build.badgeGround = badgeGround();
+    badge.image = build.badgeGround;
     UIImageView *drawn = [[UIImageView alloc] initWithFrame:badge.bounds];
-    drawn.image = textImage(build, text);
+    drawn.image = textImage(text);
     drawn.contentMode = UIViewContentModeCenter;
     [badge addSubview:drawn];
     [drawn release];
@@ -62,16 +72,16 @@ void drawBadge(PanelBuild &build, UIImageView *badge, UILabel *label, NSString *
 } // namespace
 
 void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame) {
-    NSString *text = badgeText([application.icon badgeValue]);
-    UILabel *label =
-        panelLabel(CGRectZero, text, [objc_getClass("SBIconBadgeView") _textFont], [UIColor whiteColor]);
+    BadgeText &text = badgeText(build, [application.icon badgeValue]);
+    if (!build.badgeFont) build.badgeFont = [objc_getClass("SBIconBadgeView") _textFont];
+    UILabel *label = panelLabel(CGRectZero, text.text, build.badgeFont, [UIColor whiteColor]);
     label.lineBreakMode = NSLineBreakByTruncatingMiddle;
-    [label sizeToFit];
-    Rect frame = badgeFrame(toRect(iconFrame), label.frame.size.width, panelBadgeHeight());
+    const CGFloat width = [label sizeThatFits:label.bounds.size].width;
+    Rect frame = badgeFrame(toRect(iconFrame), width, panelBadgeHeight());
 
     UIImageView *badge = [[UIImageView alloc] initWithFrame:toCGRect(frame)];
     badge.tag = tags::itemBadge;
-    badge.layer.name = text;
+    badge.layer.name = text.text;
     badge.layer.cornerRadius = frame.height / 2;
     label.frame = CGRectMake(0, 0, frame.width, panelBadgeHeight());
     Class colorBadges = objc_getClass("ColorBadges");

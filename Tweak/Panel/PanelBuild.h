@@ -16,6 +16,13 @@
 
 namespace pendix {
 
+// What all badges of one count show.
+struct BadgeText {
+    NSInteger value;
+    NSString *text;
+    UIImage *image; // nil until it is drawn
+};
+
 struct PanelBuild {
     SpringBoard *springBoard;
     UIStatusBarItemView *item; // out of which the panel grows
@@ -41,7 +48,10 @@ struct PanelBuild {
     int count;      // applications on the strip
     CGFloat height; // the panel's, when it is open
 
-    NSMutableDictionary *badgeTexts; // the texts of badges to their images, those drawn so far
+    // What badges share, each made when the first one needs it.
+    UIFont *badgeFont;
+    UIImage *badgeGround; // stretchable
+    std::vector<BadgeText> badgeTexts;
 };
 
 // The steps, in their order; each builds one thing into `build`.

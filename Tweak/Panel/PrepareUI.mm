@@ -35,7 +35,6 @@ PanelBuild startBuild(SpringBoard *springBoard, UIStatusBarItemView *item) {
     build.closeMarks = isOn(keys::closeMarks);
     build.closeImage = [[UIImage imageWithContentsOfFile:names::supportFile(kCloseImage)]
         imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    build.badgeTexts = [NSMutableDictionary dictionary];
     build.screen = portraitScreenBounds().size;
 
     CGSize icon = [objc_getClass("SBIconView") defaultIconSize];

@@ -14,6 +14,8 @@ namespace render {
 // What tells one cached value from another: the bytes of everything that it was made from.
 class CacheKey {
 public:
+    CacheKey() { bytes_.reserve(kUsual); }
+
     template <typename Plain>
     CacheKey &add(const Plain &value) {
         static_assert(std::has_unique_object_representations_v<Plain> || std::is_floating_point_v<Plain>);
@@ -28,6 +30,7 @@ public:
     const std::string &bytes() const { return bytes_; }
 
 private:
+    static constexpr size_t kUsual = 96; // bytes; a longer key grows
     std::string bytes_;
 };
 

@@ -9,6 +9,7 @@
 
 #include <dlfcn.h>
 
+#include <cstring>
 #include <set>
 #include <string>
 
@@ -20,7 +21,21 @@ namespace {
 // the first class is hidden and never goes.
 constinit std::set<std::string, std::less<>> *hidden = nullptr;
 
-bool isHidden(const char *name) { return hidden && name && hidden->contains(std::string_view(name)); }
+// Says at a glance that a name is not among them, as for nearly all that are looked up.
+constexpr size_t kMarks = 1024;
+constinit bool marked[kMarks] = {};
+
+bool &markOf(std::string_view name) {
+    constexpr size_t kStep = 31;
+    size_t last = name.empty() ? 0 : static_cast<unsigned char>(name.back());
+    return marked[(name.size() * kStep + last) % kMarks];
+}
+
+bool isHidden(const char *name) {
+    if (!hidden || !name) return false;
+    std::string_view text(name);
+    return markOf(text) && hidden->contains(text);
+}
 
 template <typename Function>
 Function *next(Function *, const char *name) {
@@ -82,6 +97,7 @@ Class findHiddenClass(const char *name) {
 void hideClass(const std::string &name) {
     if (!hidden) hidden = new std::set<std::string, std::less<>>;
     hidden->insert(name);
+    markOf(name) = true;
 }
 
 } // namespace sim

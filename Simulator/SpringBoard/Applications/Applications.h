@@ -9,12 +9,13 @@ namespace sim {
 
 struct ApplicationRecord {
     std::string identifier, name;
-    bool icon = true;                    // has a drawing of its own
-    bool statusBar = true;               // stays while it is in front
-    bool snapshot = true;                // was seen by the system when it was last left
-    id badge = nil;                      // retained; a number, a string, or nil
-    int pid = 0;                         // 0: does not run
-    FBApplicationProcess *process = nil; // retained; nil: does not run
+    NSString *identifierText = nil, *nameText = nil; // the same; retained
+    bool icon = true;                                // has a drawing of its own
+    bool statusBar = true;                           // stays while it is in front
+    bool snapshot = true;                            // was seen by the system when it was last left
+    id badge = nil;                                  // retained; a number, a string, or nil
+    int pid = 0;                                     // 0: does not run
+    FBApplicationProcess *process = nil;             // retained; nil: does not run
 };
 
 ApplicationRecord &record(SBApplication *application);

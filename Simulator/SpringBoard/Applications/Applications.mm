@@ -3,8 +3,6 @@
 #include "ApplicationLife.h"
 #include "Runtime/Process/Events.hpp"
 
-#include <map>
-
 namespace sim {
 
 namespace {
@@ -14,10 +12,12 @@ std::vector<SBApplication *> &installed() {
     return applications;
 }
 
-std::map<std::string, SBApplication *> &byIdentifier() {
-    static std::map<std::string, SBApplication *> applications;
+NSMutableDictionary *byIdentifier() {
+    static NSMutableDictionary *applications = [NSMutableDictionary new];
     return applications;
 }
+
+NSString *text(const std::string &utf8) { return [NSString stringWithUTF8String:utf8.c_str()]; }
 
 } // namespace
 
@@ -29,27 +29,27 @@ SBApplication *installApplication(const ApplicationSpec &spec) {
     SBApplication *application = [SBApplication new];
     application->_sbApplicationState = new ApplicationRecord{.identifier = spec.identifier,
                                                              .name = spec.name,
+                                                             .identifierText = [text(spec.identifier) retain],
+                                                             .nameText = [text(spec.name) retain],
                                                              .icon = spec.icon,
                                                              .statusBar = spec.statusBar,
                                                              .snapshot = spec.snapshot};
     installed().push_back(application);
-    byIdentifier().emplace(spec.identifier, application);
+    NSString *identifier = record(application).identifierText;
+    if (![byIdentifier() objectForKey:identifier]) [byIdentifier() setObject:application forKey:identifier];
     return application;
 }
 
 const std::vector<SBApplication *> &installedApplications() { return installed(); }
 
-SBApplication *findApplication(const std::string &identifier) {
-    auto found = byIdentifier().find(identifier);
-    return found == byIdentifier().end() ? nil : found->second;
-}
+SBApplication *findApplication(const std::string &identifier) { return findApplication(text(identifier)); }
 
 SBApplication *findApplication(NSString *identifier) {
-    return identifier ? findApplication(std::string([identifier UTF8String])) : nil;
+    return identifier ? [byIdentifier() objectForKey:identifier] : nil;
 }
 
 NSString *identifierOf(SBApplication *application) {
-    return application ? [NSString stringWithUTF8String:record(application).identifier.c_str()] : nil;
+    return application ? record(application).identifierText : nil;
 }
 
 void startProcess(SBApplication *application) {

@@ -35,7 +35,7 @@ sim::Value badgeValue(id badge) {
 }
 
 - (NSString *)displayName {
-    return [NSString stringWithUTF8String:record(self).name.c_str()];
+    return record(self).nameText;
 }
 
 - (id)badgeNumberOrString {

@@ -14,9 +14,9 @@ const render::Bitmap &pixels(UIImage *image) { return *state(image).image->bitma
 } // namespace
 
 UIImage *iconImage(SBApplication *application) {
-    static auto &images = *new std::map<std::string, UIImage *>; // for the life of the process
+    static auto &images = *new std::map<SBApplication *, UIImage *>; // for the life of the process
     if (!application) return nil;
-    UIImage *&image = images[record(application).identifier];
+    UIImage *&image = images[application];
     const auto &known = record(application);
     if (!image) image = [drawApplicationIcon({known.identifier, known.name, known.icon}) retain];
     return image;

@@ -10,7 +10,7 @@ namespace {
 
 struct Model {
     std::vector<SBIcon *> leaves; // retained, as are the folders
-    std::map<std::string, SBIcon *> byIdentifier;
+    NSMutableDictionary *byIdentifier = [NSMutableDictionary new];
     HomeIcons home;
     std::map<std::string, SBFolderIcon *> folders;
 };
@@ -45,9 +45,7 @@ const bool kRegistered = (registerVersionedMethods(kMethods), true);
 const HomeIcons &homeIcons() { return model().home; }
 
 SBIcon *findIcon(NSString *identifier) {
-    if (!identifier) return nil;
-    auto found = model().byIdentifier.find([identifier UTF8String]);
-    return found == model().byIdentifier.end() ? nil : found->second;
+    return identifier ? [model().byIdentifier objectForKey:identifier] : nil;
 }
 
 NSArray *allLeafIcons() {
@@ -58,7 +56,8 @@ void makeIcons(const std::vector<ApplicationSpec> &specs) {
     for (SBApplication *application : installedApplications()) {
         SBIcon *icon = [makeApplicationIcon(application) retain];
         model().leaves.push_back(icon);
-        model().byIdentifier.emplace(record(application).identifier, icon);
+        NSString *identifier = identifierOf(application);
+        if (!findIcon(identifier)) [model().byIdentifier setObject:icon forKey:identifier];
     }
     for (const auto &spec : specs) {
         SBIcon *icon = findIcon([NSString stringWithUTF8String:spec.identifier.c_str()]);

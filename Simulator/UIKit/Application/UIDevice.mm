@@ -45,7 +45,12 @@ UIDeviceOrientation deviceOrientation() { return held; }
 }
 
 - (NSString *)systemVersion {
-    return [NSString stringWithUTF8String:sim::toString(sim::device().version).c_str()];
+    static sim::Version told;
+    static NSString *text = nil;
+    if (text && told == sim::device().version) return text;
+    told = sim::device().version;
+    [text autorelease];
+    return text = [[NSString stringWithUTF8String:sim::toString(told).c_str()] retain];
 }
 
 - (UIDeviceOrientation)orientation {

@@ -81,7 +81,10 @@ void detach(CALayer *layer) {
     [mine->border release];
     [mine->shadow release];
     [mine->shadowPath release];
-    [mine->values release];
+    for (auto &[key, value] : mine->values) {
+        [key release];
+        [value release];
+    }
     delete mine;
     [super dealloc];
 }
@@ -90,8 +93,7 @@ void detach(CALayer *layer) {
     return state(self).model.frame();
 }
 - (void)setFrame:(CGRect)frame {
-    LayerProperties placed = state(self).model;
-    placed.setFrame(frame);
+    auto placed = state(self).model.placeIn(frame);
     // Position first: what animates along with the bounds reads the layer's new place.
     [self setPosition:placed.position];
     [self setBounds:placed.bounds];

@@ -126,7 +126,7 @@ LayerProperties presented(CALayer *layer) {
 void changeProperty(CALayer *layer, const char *keyPath,
                     const std::function<void(LayerProperties &)> &change) {
     auto group = openAnimationGroup();
-    if (state(layer).view && !animatesWithViews(keyPath)) group = nullptr;
+    if (group && state(layer).view && !animatesWithViews(keyPath)) group = nullptr;
     auto &model = state(layer).model;
     AnimatedValue before = group ? valueAt(model, keyPath) : AnimatedValue{};
     AnimatedValue shown = group ? valueAt(presented(layer), keyPath) : AnimatedValue{};

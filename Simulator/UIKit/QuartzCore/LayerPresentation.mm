@@ -34,7 +34,7 @@ void copyPresentation(CALayer *layer, CALayer *copy) {
     [copy setContents:own.contents];
     [copy setContentsScale:own.contentsScale];
     [copy setName:own.name];
-    put(shown.values, static_cast<NSMutableDictionary *>([own.values mutableCopy]));
+    for (const auto &[key, value] : own.values) [copy setValue:value forUndefinedKey:key];
 }
 
 } // namespace sim

@@ -50,6 +50,12 @@ struct LayerProperties {
     CGRect frame() const;
     // Moves and sizes the layer so that frame() becomes `frame`, keeping anchor point and transform.
     void setFrame(CGRect frame);
+    // What that makes of position and bounds.
+    struct Place {
+        CGPoint position;
+        CGRect bounds;
+    };
+    Place placeIn(CGRect frame) const;
     // From this layer's coordinates to its superlayer's.
     CGAffineTransform toSuperlayer() const;
 };

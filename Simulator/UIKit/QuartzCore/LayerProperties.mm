@@ -167,6 +167,18 @@ void LayerProperties::setFrame(CGRect frame) {
     position = {frame.origin.x - placed.origin.x, frame.origin.y - placed.origin.y};
 }
 
+LayerProperties::Place LayerProperties::placeIn(CGRect frame) const {
+    if (CGAffineTransformIsIdentity(plane(*this))) {
+        // The same steps as above, so that zeros keep their signs.
+        return {{frame.origin.x - (0 - anchorPoint.x * frame.size.width),
+                 frame.origin.y - (0 - anchorPoint.y * frame.size.height)},
+                {bounds.origin, frame.size}};
+    }
+    LayerProperties placed = *this;
+    placed.setFrame(frame);
+    return {placed.position, placed.bounds};
+}
+
 AnimatedValue valueAt(const LayerProperties &properties, std::string_view keyPath) {
     auto *accessor = find(keyPath);
     return accessor ? accessor->get(properties) : AnimatedValue{};

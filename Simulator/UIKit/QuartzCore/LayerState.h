@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 @class UIView;
@@ -46,7 +47,7 @@ struct LayerState {
     NSString *name = nil;
     SimCGColor *background = nil, *border = nil, *shadow = nil; // retained
     SimCGPath *shadowPath = nil;                                // retained
-    NSMutableDictionary *values = nil;                          // retained; under keys that are no property
+    std::vector<std::pair<NSString *, id>> values;              // retained; under keys that are no property
     std::vector<LayerAnimation> animations;
 };
 

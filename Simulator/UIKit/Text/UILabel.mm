@@ -40,6 +40,18 @@ render::TextStyle style(const LabelState &label) {
     return result;
 }
 
+// Short plain texts, as most are, without the detour through a buffer of Foundation's.
+std::string utf8(NSString *text) {
+    constexpr NSUInteger kShort = 64;
+    unichar characters[kShort];
+    NSUInteger length = [text length];
+    if (length > kShort) return [text UTF8String];
+    [text getCharacters:characters range:NSMakeRange(0, length)];
+    auto isPlain = [](unichar character) { return character > 0 && character < 0x80; };
+    if (!std::all_of(characters, characters + length, isPlain)) return [text UTF8String];
+    return std::string(characters, characters + length);
+}
+
 CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * scale) / scale; }
 
 } // namespace
@@ -118,7 +130,7 @@ CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * sca
     const auto &mine = state(self);
     if ([mine.text length] == 0) return CGSizeZero;
     CGFloat width = mine.lines == 1 ? 0 : size.width;
-    render::Size text = render::measureText([mine.text UTF8String], style(mine), width);
+    render::Size text = render::measureText(utf8(mine.text), style(mine), width);
     CGFloat scale = [self contentScaleFactor];
     return {pixelCeil(text.width, scale), pixelCeil(text.height, scale)};
 }
@@ -127,7 +139,7 @@ CGFloat pixelCeil(CGFloat points, CGFloat scale) { return std::ceil(points * sca
     const auto &mine = state(self);
     if ([mine.text length] == 0) return;
     render::TextRun run{
-        .text = [mine.text UTF8String], .style = style(mine), .color = {}, .pattern = {}, .box = node.bounds};
+        .text = utf8(mine.text), .style = style(mine), .color = {}, .pattern = {}, .box = node.bounds};
     // Text of several lines breaks instead.
     if (mine.shrinks && mine.lines == 1) {
         CGFloat width = render::measureText(run.text, run.style, 0).width;

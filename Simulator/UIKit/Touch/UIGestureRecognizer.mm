@@ -16,7 +16,7 @@ using sim::state;
 }
 
 - (instancetype)initWithTarget:(id)target action:(SEL)action {
-    if ((self = [super init]) && target && action) [self addTarget:target action:action];
+    if ((self = [super init]) && target && action) state(self).targets.push_back({target, action});
     return self;
 }
 

@@ -174,7 +174,9 @@ using sim::state;
     if (!recognizer || [recognizer view] == self) return;
     [recognizer retain];
     [[recognizer view] removeGestureRecognizer:recognizer];
-    state(self).recognizers.push_back(recognizer);
+    auto &list = state(self).recognizers;
+    if (list.empty()) list.reserve(4);
+    list.push_back(recognizer);
     sim::attach(recognizer, self);
 }
 - (void)removeGestureRecognizer:(UIGestureRecognizer *)recognizer {

@@ -64,6 +64,15 @@ PendingLayout &pendingLayout() {
     return views;
 }
 
+UIView *viewWithTag(UIView *view, NSInteger tag) {
+    const auto &mine = state(view);
+    if (mine.tag == tag) return view;
+    for (CALayer *layer : state(mine.layer).sublayers)
+        if (UIView *subview = state(layer).view)
+            if (UIView *found = viewWithTag(subview, tag)) return found;
+    return nil;
+}
+
 void announceWindow(UIView *view, UIWindow *window, bool before) {
     if (before) {
         [view willMoveToWindow:window];
@@ -204,12 +213,7 @@ void forgetPendingLayout(UIView *view) { pendingLayout().remove(view); }
 }
 
 - (UIView *)viewWithTag:(NSInteger)tag {
-    if ([self tag] == tag) return self;
-    for (CALayer *layer : state([self layer]).sublayers) {
-        UIView *found = [state(layer).view viewWithTag:tag];
-        if (found) return found;
-    }
-    return nil;
+    return sim::viewWithTag(self, tag);
 }
 
 - (void)willMoveToSuperview:(UIView *)superview {
