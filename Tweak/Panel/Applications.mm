@@ -72,7 +72,7 @@ private:
 
 BOOL isNeverListed(NSString *identifier) {
     for (NSString *excluded : kNeverListed)
-        if ([excluded isEqualToString:identifier]) return YES;
+        if ([identifier isEqualToString:excluded]) return YES;
     return NO;
 }
 

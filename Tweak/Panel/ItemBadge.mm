@@ -72,7 +72,8 @@ void drawBadge(PanelBuild &build, UIImageView *badge, UILabel *label, BadgeText 
 } // namespace
 
 void addBadge(PanelBuild &build, const PanelApplication &application, UIView *itemView, CGRect iconFrame) {
-    BadgeText &text = badgeText(build, [application.icon badgeValue]);
+    const NSInteger value = [application.icon badgeValue];
+    BadgeText &text = badgeText(build, value);
     if (!build.badgeFont) build.badgeFont = [objc_getClass("SBIconBadgeView") _textFont];
     UILabel *label = panelLabel(CGRectZero, text.text, build.badgeFont, [UIColor whiteColor]);
     label.lineBreakMode = NSLineBreakByTruncatingMiddle;
@@ -91,7 +92,7 @@ void addBadge(PanelBuild &build, const PanelApplication &application, UIView *it
         drawBadge(build, badge, label, text);
     }
     [badge addSubview:label];
-    badge.hidden = [application.icon badgeValue] == 0;
+    badge.hidden = value == 0;
     [itemView addSubview:badge];
     [badge release];
 }

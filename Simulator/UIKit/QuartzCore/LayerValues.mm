@@ -9,8 +9,18 @@ using sim::state;
 
 namespace {
 
-// Most keys are constants of the program, so that comparing addresses finds them.
-bool isSame(NSString *a, NSString *b) { return a == b || [a isEqualToString:b]; }
+// The place of `key` in the list of keys that `keyOf` gives; its end when it is not there. Most keys are
+// constants of the program, so that comparing addresses finds them.
+auto placeOf(NSString *key, auto &list, auto keyOf) {
+    auto same = std::find_if(list.begin(), list.end(), [&](auto &row) { return keyOf(row) == key; });
+    if (same != list.end()) return same;
+    return std::find_if(list.begin(), list.end(),
+                        [&](auto &row) { return [keyOf(row) isEqualToString:key]; });
+}
+
+auto placeIn(auto &values, NSString *key) {
+    return placeOf(key, values, [](auto &row) { return row.first; });
+}
 
 // The keys of a layer class that turned out to be no property, for the next time: to find that out takes
 // looking for half a dozen methods.
@@ -21,7 +31,7 @@ std::vector<NSString *> &freeKeys(Class layerClass) {
 
 bool isFree(Class layerClass, NSString *key) {
     const auto &known = freeKeys(layerClass);
-    return std::any_of(known.begin(), known.end(), [=](NSString *each) { return isSame(each, key); });
+    return placeOf(key, known, [](NSString *each) { return each; }) != known.end();
 }
 
 void setFree(Class layerClass, NSString *key) {
@@ -33,8 +43,7 @@ void setFree(Class layerClass, NSString *key) {
 // nil takes it away.
 void keep(CALayer *layer, NSString *key, id value) {
     auto &values = state(layer).values;
-    auto found =
-        std::find_if(values.begin(), values.end(), [=](auto &row) { return isSame(row.first, key); });
+    auto found = placeIn(values, key);
     if (found == values.end()) {
         if (value) values.push_back({[key copy], [value retain]});
     } else if (value) {
@@ -66,9 +75,9 @@ void keep(CALayer *layer, NSString *key, id value) {
 }
 
 - (id)valueForUndefinedKey:(NSString *)key {
-    for (const auto &[name, value] : state(self).values)
-        if (isSame(name, key)) return value;
-    return nil;
+    auto &values = state(self).values;
+    auto found = placeIn(values, key);
+    return found == values.end() ? nil : found->second;
 }
 
 - (void)setValue:(id)value forUndefinedKey:(NSString *)key {
