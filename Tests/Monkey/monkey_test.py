@@ -42,6 +42,7 @@ class Monkey(unittest.TestCase):
     def test_few_events_are_refused(self):
         said, _ = self.monkey("trace", "--seed", 3, "--events", 600, "--session", 200)
         self.assertLess(float(re.search(r"([\d.]+) % refused", said)[1]), 10)
+        self.assertGreater(int(re.search(r"(\d+) MB in a simulated process", said)[1]), 10, said)
 
     def plant(self):
         """A device folder with the faulty library."""

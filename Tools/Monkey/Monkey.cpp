@@ -5,6 +5,7 @@
 #include "Random.hpp"
 #include "Replay.hpp"
 #include "Supervisor/Machine/Interrupt.hpp"
+#include "Supervisor/Machine/ProcessMemory.hpp"
 
 #include <algorithm>
 #include <fstream>
@@ -24,15 +25,12 @@ std::ofstream openTrace(const MonkeyOptions &options) {
     return trace;
 }
 
-long megabytes(int who) {
-    struct rusage usage {};
-    getrusage(who, &usage);
-    return usage.ru_maxrss / 1024;
-}
-
+// The simulated processes are nurseries' children, whose use of memory comes here only with their end.
 std::string memoryText() {
-    return "at most " + std::to_string(megabytes(RUSAGE_SELF)) + " MB in the supervisor, " +
-           std::to_string(megabytes(RUSAGE_CHILDREN)) + " MB in a simulated process";
+    struct rusage own {};
+    getrusage(RUSAGE_SELF, &own);
+    return "at most " + std::to_string(own.ru_maxrss / 1024) + " MB in the supervisor, " +
+           std::to_string(mostMemoryNoted() / 1024) + " MB in a simulated process";
 }
 
 // Where in the run a session stands, for people.

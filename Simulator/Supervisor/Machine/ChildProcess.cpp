@@ -1,5 +1,6 @@
 #include "ChildProcess.hpp"
 
+#include "ProcessMemory.hpp"
 #include "Supervisor/Protocol/Descriptors.hpp"
 
 #include <csignal>
@@ -64,6 +65,7 @@ std::vector<PictureArea> ChildProcess::refresh(render::Bitmap &picture,
 }
 
 Ending ChildProcess::end() {
+    noteMemory(process_);
     channel_.close();
     int status = nursery_ ? nursery_->waitForEnd(process_) : waitForEnd(process_);
     process_ = 0;
