@@ -4,17 +4,19 @@ local L, P, pane_hands, item_of = require("lock"), require("person"), require("p
 
 local function chance(percent) return math.random(100) <= percent end
 local function any(list) return list[math.random(#list)] end
+-- What a finger can reach of the list without scrolling.
 local function on_screen(phone)
-  local list = {}
+  local list, width = {}, L.overlay(phone).screen.w
   for _, item in ipairs(L.items(phone)) do
     local middle = item.screen.x + item.screen.w / 2
-    if middle > 20 and middle < phone:find{ window = "home" }.screen.w - 20 then list[#list + 1] = item end
+    if middle > 20 and middle < width - 20 then list[#list + 1] = item end
   end
   return list
 end
+local function pause(user, most) user.phone:wait(user.hasty and 1 or math.random(most)) end
 -- Whoever opens an application reads what is new in it.
 local function read(user, id)
-  user.phone:wait(math.random(5, 90))
+  pause(user, 90)
   P.badge(user, id, 0)
 end
 local function home(user)
@@ -165,7 +167,7 @@ local function lock_screen(user)
   if chance(30) then P.open(user) end
   phone:lock()
   phone:settle()
-  phone:wait(math.random(30))
+  pause(user, 30)
   phone:display(true)
   phone:settle()
   if chance(40) then
@@ -184,7 +186,8 @@ local pages = { -- of Settings { "Configuration" }, { "Configuration", "Reachabi
 local function visit_page(user, path)
   local pane = P.visit(user)
   pane_hands.go(pane, path)
-  pane:wait(math.random(20))
+  if pane:sheet() then pane_hands.type(pane, P.code) end -- what locks is itself behind the code
+  pause(user, 20)
   for _ = 1, #path do
     if path[1] == "Contact" then pane_hands.press(pane, "Cancel") else pane_hands.back(pane) end
   end
@@ -197,20 +200,14 @@ local function visit_page(user, path)
   pane_hands.back(pane)
 end
 local function visit_settings(user) visit_page(user, any(pages)) end
--- All that a person does with it, once, so that what is made with the first use and kept is there.
-local function everything(user)
-  for _, number in ipairs(P.numbers) do P.badge(user, P.apps[1], number) end
-  for _, path in ipairs(pages) do visit_page(user, path) end
-end
-
-local function new_taste(user)
-  P.set(user, any{ { ca = true }, { ca = false }, { paging = true }, { paging = false }, { blur = true }, { blur = false },
-    { light = true }, { light = false }, { close = true }, { close = false }, { badge = true }, { badge = false },
-    { pass = true, where = "every" }, { pass = true, where = "everyoff", ask = true }, { pass = true, touchid = true },
-    { pass = false }, { b = true, newb = true }, { b = false }, { rech = true, position = any{ "top", "middle", "bottom" } },
-    { rech = false }, { fast = true }, { fast = false }, { glow = false }, { glow = true, tint = any{ "red", "green" } },
-    { hide_t = true }, { hide_t = false } })
-end
+local tastes = { { ca = true }, { ca = false }, { paging = true }, { paging = false }, { blur = true }, { blur = false },
+  { light = true }, { light = false }, { close = true }, { close = false }, { badge = true }, { badge = false },
+  { pass = true, where = "every" }, { pass = true, where = "everyoff", ask = true }, { pass = true, touchid = true },
+  { pass = false, touchid = false, ask = false, where = "every" }, { b = true, newb = true }, { b = false, newb = false },
+  { rech = true, position = "top" }, { rech = true, position = "middle" }, { rech = true, position = "bottom" },
+  { rech = false }, { fast = true }, { fast = false }, { glow = false }, { glow = true, tint = "red" },
+  { glow = true, tint = "green" }, { hide_t = true }, { hide_t = false } }
+local function new_taste(user) P.set(user, any(tastes)) end
 
 local function new_style(user)
   user.phone:restyle()
@@ -224,6 +221,22 @@ local habits = { { "news come", 30, news }, { "a look at the panel", 14, look },
   { "Settings", 2, visit_settings }, { "another setting", 4, new_taste }, { "another style of the status bar", 3, new_style } }
 local whole = 0
 for _, habit in ipairs(habits) do whole = whole + habit[2] end
+
+-- All that a person does, once, in every look that the panel can have: what is made with the first use and kept is there then.
+local function everything(user)
+  user.hasty = true
+  for _, number in ipairs(P.numbers) do P.badge(user, P.apps[1], number) end
+  for _, locked in ipairs{ true, false } do
+    P.set(user, { pass = locked })
+    for _, path in ipairs(pages) do visit_page(user, path) end
+  end
+  for _, taste in ipairs(tastes) do
+    P.set(user, taste)
+    for _, id in ipairs(P.apps) do P.one_more(user, id) end
+    for _, habit in ipairs{ look, take_off, clear_all, turn, lock_screen, use_application, locked_out } do habit(user) end
+  end
+  user.hasty = false
+end
 
 local H = {}
 local function practise(user, habit)

@@ -113,7 +113,8 @@ end
 
 local function warm_up()
   P.go_home(user)
-  habits.each(user)
+  if not proof then habits.each(user) end
+  P.visit(user)
   P.set(user, P.usual)
   tidy()
   first, first_settings = phone:counters(), user.pane:counters()
