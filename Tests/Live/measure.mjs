@@ -1,4 +1,4 @@
-// Frames a second and processor time of the open panel with the blur behind it, at rest and while the strip is dragged:
+// Frames a second, the page's own work and processor time of the open panel with the blur behind it, at rest and while the strip is dragged:
 // Tests/Live/run --measure [SECONDS]. Prints a table; proves nothing.
 import { finger, launch, open, serve } from "./harness.mjs";
 import { slowLine } from "./slow_line.mjs";
@@ -24,14 +24,23 @@ function countFrames() {
   count(WebSocket.prototype, "send", message => message.includes('"seen"') && window.drawn.frames++);
 }
 
+// Seconds that the page's own thread has worked so far, by its processor clock.
+async function ownWork(page) {
+  const tools = await page.context().newCDPSession(page);
+  await tools.send("Performance.enable", { timeDomain: "threadTicks" });
+  return async () => (await tools.send("Performance.getMetrics")).metrics.find(one => one.name === "TaskDuration").value;
+}
+
 async function measure(page, name, during) {
-  const drawn = () => page.evaluate(() => ({ ...window.drawn }));
+  const worked = await ownWork(page);
+  const drawn = async () => ({ ...await page.evaluate(() => window.drawn), worked: await worked() });
   const [before, used, start] = [await drawn(), processorTime(), performance.now()];
   await during(start + seconds * 1000);
   const elapsed = (performance.now() - start) / 1000;
   const [after, total] = [await drawn(), processorTime()];
   const share = kind => `${(100 * (total[kind] - used[kind]) / elapsed).toFixed(0)} %`;
-  const row = [name, ((after.frames - before.frames) / elapsed).toFixed(1),
+  const frames = after.frames - before.frames;
+  const row = [name, (frames / elapsed).toFixed(1), `${(1000 * (after.worked - before.worked) / frames).toFixed(1)} ms`,
     `${((after.bytes - before.bytes) / elapsed / 1e6).toFixed(1)} MB/s`, share("home screen"), share("supervisor"),
     share("browser"), load()];
   console.log(`| ${row.join(" | ")} |`);
@@ -54,8 +63,8 @@ async function measureDevice(browser, device, line, options = []) {
   await server.end();
 }
 
-console.log("| | Frames a second | Pixels to the page | Home screen | Supervisor | Browser | Load |");
-console.log("|---|---|---|---|---|---|---|");
+console.log("| | Frames a second | The page's own work a frame | Pixels to the page | Home screen | Supervisor | Browser | Load |");
+console.log("|---|---|---|---|---|---|---|---|");
 const browser = await launch();
 for (const device of devices) await measureDevice(browser, device);
 for (const device of devices)

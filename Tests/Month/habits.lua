@@ -6,10 +6,10 @@ local function chance(percent) return math.random(100) <= percent end
 local function any(list) return list[math.random(#list)] end
 -- What a finger can reach of the list without scrolling.
 local function on_screen(phone)
-  local list, width = {}, L.overlay(phone).screen.w
+  local list, strip = {}, L.strip(phone).screen
   for _, item in ipairs(L.items(phone)) do
     local middle = item.screen.x + item.screen.w / 2
-    if middle > 20 and middle < width - 20 then list[#list + 1] = item end
+    if middle > strip.x + 10 and middle < strip.x + strip.w - 10 then list[#list + 1] = item end
   end
   return list
 end
@@ -120,6 +120,7 @@ local function turn(user)
 end
 
 local function reach(user)
+  if not user.reaches then return end
   if chance(60) then P.open(user) end
   user.phone:reachability(true)
   user.phone:wait(math.random(9)) -- after eight it ends by itself

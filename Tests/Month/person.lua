@@ -23,7 +23,7 @@ function P.new(device, ios)
   apps[#apps + 1] = { id = P.spare, name = "spare" }
   local options = { device = device, ios = ios, clock = "2015-03-01 00:00:00", settings = {}, apps = apps }
   for key, value in pairs(P.usual) do options.settings[key] = value end
-  return { phone = boot(options), counts = {}, order = {}, done = {} }
+  return { phone = boot(options), counts = {}, order = {}, done = {}, reaches = device:find("^iPhone 6") ~= nil }
 end
 
 -- What the person knows of the badges: how many, and which came last.
@@ -51,7 +51,7 @@ function P.go_home(user)
   phone:unlock()
   phone:settle()
   phone:aid("voiceover", false)
-  phone:reachability(false)
+  if user.reaches then phone:reachability(false) end
   phone:rotate(1)
   phone:settle()
   if L.is_open(phone) then phone:activator() end
@@ -77,15 +77,19 @@ function P.open(user)
   if phone:indicator().view then L.press_indicator(phone) else phone:activator() end
   phone:settle()
   if not L.is_open(phone) then return false end
-  if L.shown(phone) == "ask" then
+  if not phone:settings().pass then return true end
+  local shown = L.shown(phone)
+  if shown == "ask" then
     phone:tap(L.part(phone, "ask", -2))
     phone:settle()
+    shown = L.shown(phone)
   end
-  if L.shown(phone) == "finger" then
+  if shown == "finger" then
     phone:finger("match")
     phone:settle()
+  elseif shown == "keypad" then
+    L.enter(phone, P.code)
   end
-  if L.shown(phone) == "keypad" then L.enter(phone, P.code) end
   return L.shown(phone) == "list"
 end
 function P.close(user)
