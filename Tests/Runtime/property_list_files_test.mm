@@ -49,6 +49,17 @@ TEST_F(PropertyListFiles, AreReadInEveryForm) {
               Value(Array{"1", Object{{"a", "b"}}}));
 }
 
+TEST_F(PropertyListFiles, WithADateThatIsNoNumberAreRead) {
+    std::string bytes = samples::binary(sim::toXmlPropertyList(samples::everyKind()));
+    size_t marker = bytes.find("\x33\x41"); // of a date of this century
+    ASSERT_NE(marker, std::string::npos);
+    bytes.replace(marker + 1, 2, "\x7f\xf8");
+    put(bytes);
+    NSDictionary *read = [NSDictionary dictionaryWithContentsOfFile:name()];
+    EXPECT_TRUE([[read objectForKey:@"date"] isKindOfClass:[NSDate class]]);
+    EXPECT_EQ([[read objectForKey:@"real"] doubleValue], 0.1);
+}
+
 TEST_F(PropertyListFiles, AreMutableWhenTheReaderIs) {
     put("{ a = (1); }");
     for (NSMutableDictionary *dictionary in @[

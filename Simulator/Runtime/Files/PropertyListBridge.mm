@@ -2,6 +2,7 @@
 
 #include "PropertyListBridge.hpp"
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -155,7 +156,9 @@ void ObjectBuilder::data(std::string_view bytes) {
     values_.push_back([[NSData alloc] initWithBytes:bytes.data() length:bytes.size()]);
 }
 
+// A phone makes a date of what is not a number, too; Foundation here would end the process.
 void ObjectBuilder::date(double secondsSince2001) {
+    if (std::isnan(secondsSince2001)) secondsSince2001 = 0;
     values_.push_back([[NSDate alloc] initWithTimeIntervalSinceReferenceDate:secondsSince2001]);
 }
 
