@@ -4,6 +4,7 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(CAIRO REQUIRED IMPORTED_TARGET cairo)
 pkg_check_modules(PANGO REQUIRED IMPORTED_TARGET pangocairo pangoft2 fontconfig)
 pkg_check_modules(RSVG REQUIRED IMPORTED_TARGET librsvg-2.0)
+pkg_check_modules(ZLIB REQUIRED IMPORTED_TARGET zlib)
 find_package(nlohmann_json REQUIRED)
 if(CMAKE_CROSSCOMPILING)
     # The programs around the simulated processes are this machine's and are not built: their libraries are only named.

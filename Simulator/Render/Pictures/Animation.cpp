@@ -1,8 +1,8 @@
 // Animated PNG: the frames' own image data, in the chunks by which viewers show one after another. Who knows
 // none of them shows the first frame.
 #include "Render/Bitmap.hpp"
+#include "Render/Pictures/Chunks.hpp"
 
-#include <array>
 #include <cmath>
 #include <stdexcept>
 
@@ -10,33 +10,7 @@ namespace render {
 
 namespace {
 
-constexpr size_t kSignature = 8, kLength = 4, kType = 4, kChecksum = 4;
-
-std::string bigEndian(uint32_t number, int bytes = 4) {
-    std::string result;
-    for (int i = bytes; i-- > 0;) result += static_cast<char>(number >> (8 * i));
-    return result;
-}
-
-// CRC-32 as PNG defines it.
-uint32_t checksum(std::string_view bytes) {
-    static const auto table = [] {
-        std::array<uint32_t, 256> result{};
-        for (uint32_t i = 0; i < result.size(); ++i) {
-            uint32_t value = i;
-            for (int bit = 0; bit < 8; ++bit) value = value & 1 ? 0xedb88320u ^ (value >> 1) : value >> 1;
-            result[i] = value;
-        }
-        return result;
-    }();
-    uint32_t sum = 0xffffffffu;
-    for (char byte : bytes) sum = table[(sum ^ static_cast<unsigned char>(byte)) & 0xff] ^ (sum >> 8);
-    return ~sum;
-}
-
-std::string chunk(const std::string &type, const std::string &data) {
-    return bigEndian(static_cast<uint32_t>(data.size())) + type + data + bigEndian(checksum(type + data));
-}
+constexpr size_t kLength = 4, kType = 4, kChecksum = 4;
 
 uint32_t numberAt(const std::string &bytes, size_t at) {
     uint32_t number = 0;
@@ -51,7 +25,7 @@ struct Parts {
 
 Parts partsOf(const std::string &png) {
     Parts parts;
-    for (size_t at = kSignature; at < png.size();) {
+    for (size_t at = kPngSignature.size(); at < png.size();) {
         size_t length = numberAt(png, at);
         std::string type = png.substr(at + kLength, kType), data = png.substr(at + kLength + kType, length);
         if (type == "IHDR") parts.header = data;
@@ -86,7 +60,7 @@ std::string encodeAnimation(const std::vector<Bitmap> &frames, double seconds) {
         Parts parts = partsOf(png);
         bool first = &frame == &frames[0];
         if (first)
-            result = png.substr(0, kSignature) + chunk("IHDR", parts.header) +
+            result = std::string(kPngSignature) + chunk("IHDR", parts.header) +
                      chunk("acTL", bigEndian(static_cast<uint32_t>(frames.size())) + bigEndian(0));
         result += frameControl(number++, frame, seconds);
         result += first ? chunk("IDAT", parts.data) : chunk("fdAT", bigEndian(number++) + parts.data);
