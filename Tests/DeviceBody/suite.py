@@ -123,7 +123,7 @@ def main(made, arguments):
     parser.add_argument("pattern", nargs="?", help="run those whose names hold this regular expression, whatever they take")
     parser.add_argument("--quick", action="store_true", help="the agreed texts and short scenarios alone")
     parser.add_argument("--long", action="store_true", help="the monkey and the tables of faults, too")
-    parser.add_argument("--jobs", type=int, default=max(1, (os.cpu_count() or 2) // 2), help="at a time")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count() or 1, help="at a time")
     options = parser.parse_args(arguments)
     # The list of tests comes from the build.
     subprocess.run(["cmake", "--preset", "dev"], cwd=body.ROOT, stdout=subprocess.DEVNULL, check=True)
