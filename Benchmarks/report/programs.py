@@ -1,7 +1,6 @@
 """The benchmark programs of a build: what they can measure, and a world for them in which nothing of the machine's
 settings counts."""
 
-import os
 import subprocess
 
 PROGRAMS = ("pendix-bench-home", "pendix-bench-pane")
@@ -24,9 +23,9 @@ class Programs:
         return found
 
     def environment(self, **more):
-        cache = os.environ.get("XDG_CACHE_HOME", os.path.expanduser("~/.cache"))
-        return {"PATH": os.environ["PATH"], "TZ": "UTC", "LANG": "C.UTF-8", "HOME": str(self.home),
-                "XDG_CACHE_HOME": cache, **more}
+        """All that a program gets to know of its surroundings; nothing of whoever measures."""
+        return {"PATH": "/usr/local/bin:/usr/bin:/bin", "TZ": "UTC", "LANG": "C.UTF-8", "HOME": str(self.home),
+                "XDG_CACHE_HOME": str(self.home / "cache"), **more}
 
     def run(self, command, environment):
         """What the command prints; raises RuntimeError with what it said when it failed."""

@@ -104,3 +104,32 @@ def verdict(timed, counted):
 
 def report(timed, counted, load):
     return "\n".join([machine(load), "", *main_table(timed, counted), "", verdict(timed, counted), "", *growth_table(counted)])
+
+
+def change(first, second, form):
+    """Two cells: the first figure and the second, and the second over the first."""
+    if not first or not second:
+        return ["", ""]
+    return [f"{form(first)} → {form(second)}", f"{second / first:.2f}"]
+
+
+def outside(timed):
+    return timed["seconds"] - timed["read_seconds"] if timed["read_seconds"] else None
+
+
+def comparison_row(name, timed, counted):
+    reads = [f"{one['reads']:.4g}" for one in timed]
+    return [name.replace("_", " "), "" if reads == ["0", "0"] else " → ".join(reads),
+            *change(timed[0]["seconds"], timed[1]["seconds"], micro), *change(outside(timed[0]), outside(timed[1]), micro),
+            *change(counted[0]["all"], counted[1]["all"], million),
+            *change(counted[0].get("rest"), counted[1].get("rest"), million)]
+
+
+def comparison(timed, counted, load, missing):
+    """Both are pairs, of the older build and of the newer; `missing` are the cases that the older does not know."""
+    rows = [comparison_row(name, [one[name] for one in timed], [one[name] for one in counted]) for name in timed[0]]
+    text = [machine(load), "", *lines(["what", "reads", "µs", "ratio", "µs outside", "ratio", "M instructions", "ratio",
+                                       "M outside", "ratio"], rows)]
+    if missing:
+        text += ["", "Unknown to the older build: " + ", ".join(name.replace("_", " ") for name in missing) + "."]
+    return "\n".join(text)
