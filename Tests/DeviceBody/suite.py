@@ -24,7 +24,7 @@ SIMULATOR = str(BUILD / "bin/pendix-sim")
 OTHER = {"scripting.troublemaker", "scripting.misfit", "command_line", "live_server", "monkey_runs", "forks",
          "supervisor_memory"}
 # The monkey and the long tables of faults are for longer runs.
-LONG = ("monkey.", "faults.class", "faults.method", "faults.lookup", "faults.file", "faults.write", "settings_files.", "growth.", "loader.mutated")
+LONG = ("monkey.", "month.", "faults.class", "faults.method", "faults.lookup", "faults.file", "faults.write", "settings_files.", "growth.", "loader.mutated")
 # Not among the shortest: what is left takes a few minutes.
 QUICK = ("golden.", "scenario.badges", "scenario.indicator_follows", "scenario.indicator_takes", "scenario.display", "scenario.launch_records", "scenario.marks",
          "scenario.lock_keypad", "scenario.panel_closes", "determinism", "same.tour", "loader.", "stage.")

@@ -47,13 +47,13 @@ function M.close(phone)
 end
 
 M.face_view, M.part_of_panel = M.face, M.part
-function M.part(phone, face, tag) return phone:find{ parent = M.face_view(phone, face), tag = tag } end
+function M.part(phone, face, tag) return M.child(M.face_view(phone, face), tag) end
 
 -- What a person sees in the panel: "ask", "finger", "keypad" or "list".
 function M.shown(phone)
-  local shown
+  local content, shown = M.content(phone), nil
   for _, face in ipairs{ "keypad", "finger", "ask" } do
-    local view = M.face_view(phone, face)
+    local view = M.child(content, M.tags[face])
     if view and view.presented_alpha > 0.01 and view.x == 0 and view.y == 0 then shown = face end
   end
   return shown or M.strip(phone).presented_alpha > 0.99 and "list" or "nothing"
@@ -72,9 +72,9 @@ end
 
 -- The digits that the dots hold, and which of the dots are filled.
 function M.entered(phone)
-  local digits, filled = "", ""
+  local face, digits, filled = M.face_view(phone, "keypad"), "", ""
   for i = 1, 4 do
-    local dot = M.part(phone, "keypad", i)
+    local dot = M.child(face, i)
     digits = digits .. (dot.name or "")
     filled = filled .. (dot.background and dot.background:sub(-2) ~= "00" and "x" or "-")
   end

@@ -15,17 +15,24 @@ local tags = O.tags
 -- Each is nil while it, or what it lies in, is not there.
 function O.overlay(phone) return phone:find{ window = "overlay", class = "UIWindow" } end
 function O.sub(phone, view, tag) return view and phone:find{ parent = view, tag = tag } end
-function O.top(phone, tag) return O.sub(phone, O.overlay(phone), tag) end
+-- The same in what was there when `view` was looked at: a look takes all that lies in a view, so one is enough.
+local function child(view, tag)
+  for _, sub in ipairs(view and view.children or {}) do
+    if sub.tag == tag then return sub end
+  end
+end
+function O.top(phone, tag) return child(O.overlay(phone), tag) end
 function O.panel(phone) return O.top(phone, tags.panel) end
-function O.content(phone) return O.sub(phone, O.panel(phone), tags.content) end
-function O.part(phone, tag) return O.sub(phone, O.content(phone), tag) end
+function O.content(phone) return child(O.panel(phone), tags.content) end
+function O.part(phone, tag) return child(O.content(phone), tag) end
 function O.strip(phone) return phone:find{ window = "overlay", class = "NewUIScrollView" } end
 function O.item(phone, id) return phone:find{ window = "overlay", name = id } end
 function O.is_open(phone) return O.panel(phone) ~= nil end
 -- One of the lock's faces: "ask", "finger" or "keypad".
 function O.face(phone, name) return O.part(phone, tags[name]) end
+O.child = child
 function O.key(phone, digit)
-  return O.sub(phone, O.face(phone, "keypad"), digit == 0 and tags.zero or digit * 10)
+  return child(O.face(phone, "keypad"), digit == 0 and tags.zero or digit * 10)
 end
 -- The mark that stands for a badge on the home screen.
 function O.icon_mark(phone, id) return phone:find{ parent = phone:icon(id), tag = tags.icon_mark } end
