@@ -49,7 +49,9 @@ class Library:
         symbols = sorted({(s.address, s.name) for s in self.macho.symbols if not s.undefined and not s.debugging})
         names = subprocess.run(["llvm-cxxfilt-14"], input="\n".join(n.removeprefix("_") for _, n in symbols), capture_output=True,
                                text=True, check=True).stdout.splitlines()
-        found = [i for i, readable in enumerate(names) if readable.startswith(name)]
+        # What lies in a function, such as a static variable, is called "function()::variable".
+        found = [i for i, readable in enumerate(names)
+                 if readable.startswith(name) and ")::" not in readable.removeprefix(name).replace("(anonymous namespace)::", "")]
         if len(found) != 1:
             raise ValueError(f"{len(found)} functions are called {name}")
         start = symbols[found[0]][0]
