@@ -4,6 +4,7 @@
 #include "Tweak/Core/State.h"
 #include "Tweak/Core/Support/UIImage+AverageColor.h"
 #include "Tweak/Core/Support/UIView+Shimmer.h"
+#include "Tweak/Panel/NameType.h"
 #include "Tweak/Panel/Panel.h"
 #include "Tweak/Start/HookTable.h"
 #include "UIKit/UIKit+Further.h"
@@ -16,6 +17,7 @@
 #include <UIKit/UIKit.h>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -159,6 +161,17 @@ TEST_F(PanelSupport, CardsShowTheFirstPortraitThatCanBeShown) {
     sandbox.putImage("/var/mobile/Library/Caches/Snapshots/org.example/c-Portrait.png", 6, 7, 0xff000000);
     ASSERT_NE(found(), nil);
     EXPECT_EQ(found().size.height, 7) << "whatever the orientation asked for";
+}
+
+TEST_F(PanelSupport, ALongNameLosesItsMiddleAndOneOfTwoLinesItsEnd) {
+    UILabel *name = [[[UILabel alloc] initWithFrame:CGRectZero] autorelease];
+    name.text = @"A name that is far too long for its cell";
+    UIFont *font = [UIFont fontWithName:@"HelveticaNeue" size:12];
+    for (const auto &[lines, cut] :
+         {std::pair{1, NSLineBreakByTruncatingMiddle}, std::pair{2, NSLineBreakByTruncatingTail}}) {
+        pendix::placeName(name, {font, lines, static_cast<CGFloat>(15 * lines), 0}, 60, 60, 76);
+        EXPECT_EQ(name.lineBreakMode, cut) << lines;
+    }
 }
 
 } // namespace

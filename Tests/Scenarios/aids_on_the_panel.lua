@@ -127,11 +127,16 @@ P.closed(phone)
 P.no_harm(phone)
 
 -- The pane's switches keep their whole label beside the switch, as large as two lines let it be.
+local words = {} -- of the sheet for a code, by size
 for size, wanted in pairs{ L = { 17, 17 }, XXXL = { 23, 23 }, AX5 = { 24, 40 } } do
-  local pane = settings_app{ device = "iPhone 5s", text_size = size }
+  local pane = settings_app{ device = "iPhone 5s", text_size = size, settings = { pass = true, password = "1234" } }
   pane:settle()
   pane:activate(S.reach(pane, "Configuration"))
   S.settle(pane)
   local label = pane:find{ text = "Light Appearance" }
   expect(label.font_size >= wanted[1] and label.font_size <= wanted[2], size .. ": the label's size")
+  pane:activate(S.reach(pane, "Passcode Lock"))
+  S.settle(pane)
+  words[size] = pane:find{ text = "Enter Passcode" }.font_size
 end
+expect(words.L < words.XXXL and words.XXXL <= words.AX5, "the sheet's words grow with the others")
