@@ -1,5 +1,5 @@
-// Frames a second, the page's own work and processor time of the open panel with the blur behind it, at rest and while the strip is dragged:
-// Tests/Live/run --measure [SECONDS]. Prints a table; proves nothing.
+// Frames a second, the page's own work and processor time of the open panel with the blur behind it, at rest and while
+// the strip is dragged: Tests/Live/run --measure [SECONDS]. Prints a table; proves nothing.
 import { finger, launch, open, serve } from "./harness.mjs";
 import { slowLine } from "./slow_line.mjs";
 import { load, processorTime } from "./usage.mjs";

@@ -60,43 +60,57 @@ def text(x, y, words, anchor="middle", colour=PALE, size=14, more=""):
             f'font-family="Inter, sans-serif" {more}>{words}</text>')
 
 
-def chart(table):
-    hours = max(hour for points in table.values() for hour, _ in points)
-    high = ticks(max(value for points in table.values() for _, value in points))
-    wide, tall = WIDTH - LEFT - RIGHT, HEIGHT - TOP - BOTTOM
+class Frame:
+    """Where an hour and a number of MB lie in the picture."""
 
-    def across(hour):
-        return LEFT + wide * hour / hours
+    def __init__(self, table):
+        self.hours = max(hour for points in table.values() for hour, _ in points)
+        self.ticks = ticks(max(value for points in table.values() for _, value in points))
 
-    def up(value):
-        return HEIGHT - BOTTOM - tall * value / high[-1]
+    def across(self, hour):
+        return LEFT + (WIDTH - LEFT - RIGHT) * hour / self.hours
 
-    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}" viewBox="0 0 {WIDTH} {HEIGHT}">',
-             f'<rect width="{WIDTH}" height="{HEIGHT}" fill="white"/>']
-    parts.append(text(LEFT, 28, f"Resident memory at the end of each hour, {hours // DAY} days of use", "start", INK, 18))
-    for value in high:
-        parts.append(f'<path d="M{LEFT} {up(value):.1f}H{WIDTH - RIGHT}" stroke="{LINE}"/>')
-        parts.append(text(LEFT - 10, up(value) + 5, value, "end"))
-    every = max(1, hours // DAY // 10)
-    for day in range(0, hours // DAY + 1, every):
-        x = across(day * DAY)
+    def up(self, value):
+        return HEIGHT - BOTTOM - (HEIGHT - TOP - BOTTOM) * value / self.ticks[-1]
+
+
+def axes(frame):
+    days, middle = frame.hours // DAY, (TOP + HEIGHT - BOTTOM) / 2
+    parts = [text(LEFT, 28, f"Resident memory at the end of each hour, {days} days of use", "start", INK, 18)]
+    for value in frame.ticks:
+        parts.append(f'<path d="M{LEFT} {frame.up(value):.1f}H{WIDTH - RIGHT}" stroke="{LINE}"/>')
+        parts.append(text(LEFT - 10, frame.up(value) + 5, value, "end"))
+    for day in range(0, days + 1, max(1, days // 10)):
+        x = frame.across(day * DAY)
         parts.append(f'<path d="M{x:.1f} {HEIGHT - BOTTOM}v6" stroke="{PALE}"/>')
         parts.append(text(x, HEIGHT - BOTTOM + 23, day))
-    for hour in range(WEEK, hours, WEEK):
-        parts.append(f'<path d="M{across(hour):.1f} {TOP}V{HEIGHT - BOTTOM}" stroke="{PALE}" stroke-dasharray="3 4"/>')
-    parts.append(text(LEFT + wide / 2, HEIGHT - 14, "Days (dashed: the home screen starts again)", colour=INK))
-    middle = TOP + tall / 2
+    for hour in range(WEEK, frame.hours, WEEK):
+        parts.append(f'<path d="M{frame.across(hour):.1f} {TOP}V{HEIGHT - BOTTOM}" stroke="{PALE}" stroke-dasharray="3 4"/>')
+    parts.append(text((LEFT + WIDTH - RIGHT) / 2, HEIGHT - 14, "Days (dashed: the home screen starts again)", colour=INK))
     parts.append(text(22, middle, "MB", colour=INK, more=f'transform="rotate(-90 22 {middle})"'))
-    x = LEFT
-    for name, points in table.items():
-        for part in lives(name, points):
-            line = "L".join(f"{across(hour):.1f} {up(value):.1f}" for hour, value in part)
-            parts.append(f'<path d="M{line}" fill="none" stroke="{COLOURS[name]}" stroke-width="2.2" stroke-linejoin="round"/>')
-        grew = slope(lives(name, points))
-        words = NAMES[name] + ("" if grew is None else f": {grew:+.3f} MB a day".replace("-", "−"))
-        parts.append(f'<path d="M{x} 52h26" stroke="{COLOURS[name]}" stroke-width="3"/>')
-        parts.append(text(x + 34, 57, words, "start", INK))
-        x += 300
+    return parts
+
+
+def curve(frame, name, points):
+    parts = []
+    for part in lives(name, points):
+        line = "L".join(f"{frame.across(hour):.1f} {frame.up(value):.1f}" for hour, value in part)
+        parts.append(f'<path d="M{line}" fill="none" stroke="{COLOURS[name]}" stroke-width="2.2" stroke-linejoin="round"/>')
+    return parts
+
+
+def key(x, name, points):
+    grew = slope(lives(name, points))
+    words = NAMES[name] + ("" if grew is None else f": {grew:+.3f} MB a day".replace("-", "−"))
+    return [f'<path d="M{x} 52h26" stroke="{COLOURS[name]}" stroke-width="3"/>', text(x + 34, 57, words, "start", INK)]
+
+
+def chart(table):
+    frame = Frame(table)
+    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}" viewBox="0 0 {WIDTH} {HEIGHT}">',
+             f'<rect width="{WIDTH}" height="{HEIGHT}" fill="white"/>', *axes(frame)]
+    for place, (name, points) in enumerate(table.items()):
+        parts += curve(frame, name, points) + key(LEFT + 300 * place, name, points)
     return "\n".join(parts + ["</svg>\n"])
 
 

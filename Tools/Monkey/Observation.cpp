@@ -13,12 +13,6 @@ Area area(const Array &fields, size_t first) {
 
 std::string textOr(const Value &value) { return value.isString() ? value.string() : std::string(); }
 
-Area readArea(RowReader &row) {
-    Area area;
-    for (double *number : {&area.x, &area.y, &area.w, &area.h}) *number = row.number();
-    return area;
-}
-
 // The fields as they come, see WindowReport.h in Simulator/Process.
 SeenView readView(RowReader row) {
     SeenView view;
@@ -102,12 +96,63 @@ void readItemPlace(const Value &place, Observation &seen) {
     seen.itemGlow = {fields[4].number(), fields[5].number(), fields[6].number(), textOr(fields[7])};
 }
 
+// `take` of the part of that name, where the answer has it.
+template <typename Take>
+void part(const Value &answer, std::string_view name, Take take) {
+    auto found = answer.object().find(name);
+    if (found != answer.object().end()) take(found->second);
+}
+
+void readDevice(const Value &answer, Observation &seen) {
+    part(answer, "timers", [&](const Value &rows) { seen.timers = list(rows, readTimer); });
+    part(answer, "hooks", [&](const Value &rows) { seen.hooks = list(rows, readHook); });
+    part(answer, "variables", [&](const Value &variables) { seen.extension = readState(variables); });
+    part(answer, "display", [&](const Value &on) { seen.display = on.boolean(); });
+    part(answer, "screen_locked", [&](const Value &locked) { seen.screenLocked = locked.boolean(); });
+    part(answer, "passcode_locked", [&](const Value &locked) { seen.passcodeLocked = locked.boolean(); });
+    part(answer, "settings_writes", [&](const Value &count) { seen.settingsWrites = count.integer(); });
+    part(answer, "screen", [&](const Value &size) {
+        seen.screenWidth = size.array()[0].number();
+        seen.screenHeight = size.array()[1].number();
+    });
+    part(answer, "windows", [&](const Value &windows) {
+        seen.windows.clear();
+        for (const auto &[role, count] : windows.object()) seen.windows[role] = count.integer();
+    });
+}
+
+void readHomeScreen(const Value &answer, Observation &seen) {
+    part(answer, "badges", [&](const Value &rows) { seen.badges = list(rows, readBadge); });
+    part(answer, "applications", [&](const Value &rows) { seen.applications = list(rows, readApplication); });
+    part(answer, "foreground", [&](const Value &identifier) { seen.foreground = identifier.string(); });
+    part(answer, "item_place", [&](const Value &place) { readItemPlace(place, seen); });
+    part(answer, "switcher", [&](const Value &identifiers) {
+        seen.switcher.clear();
+        for (const auto &identifier : identifiers.array()) seen.switcher.push_back(identifier.string());
+    });
+    part(answer, "icon", [&](const Value &size) {
+        seen.iconWidth = size.array()[0].number();
+        seen.iconHeight = size.array()[1].number();
+    });
+    part(answer, "item", [&](const Value &item) {
+        seen.itemPresent = item["present"].boolean();
+        seen.itemVisible = item["visible"].boolean();
+        seen.itemImage = textOr(item["image"]);
+    });
+}
+
 // A variable of the extension, as the linker names it.
 std::string symbolOf(const std::string &name) {
     return "_ZN6pendix" + std::to_string(name.size()) + name + "E";
 }
 
 } // namespace
+
+Area readArea(RowReader &row) {
+    Area area;
+    for (double *number : {&area.x, &area.y, &area.w, &area.h}) *number = row.number();
+    return area;
+}
 
 std::vector<size_t> SeenWindow::childrenOf(size_t parent) const {
     std::vector<size_t> children;
@@ -143,46 +188,11 @@ void ObservationReader::readOverlays(const Value &answer) {
 }
 
 const Observation &ObservationReader::read(const Value &answer) {
-    Observation &seen = last_;
-    auto part = [&](const char *name, auto take) {
-        auto found = answer.object().find(std::string_view(name));
-        if (found != answer.object().end()) take(found->second);
-    };
     readOverlays(answer);
-    part("windows", [&](const Value &windows) {
-        seen.windows.clear();
-        for (const auto &[role, count] : windows.object()) seen.windows[role] = count.integer();
-    });
-    part("timers", [&](const Value &rows) { seen.timers = list(rows, readTimer); });
-    part("hooks", [&](const Value &rows) { seen.hooks = list(rows, readHook); });
-    part("badges", [&](const Value &rows) { seen.badges = list(rows, readBadge); });
-    part("applications", [&](const Value &rows) { seen.applications = list(rows, readApplication); });
-    part("switcher", [&](const Value &identifiers) {
-        seen.switcher.clear();
-        for (const auto &identifier : identifiers.array()) seen.switcher.push_back(identifier.string());
-    });
-    part("foreground", [&](const Value &identifier) { seen.foreground = identifier.string(); });
-    part("icon", [&](const Value &size) {
-        seen.iconWidth = size.array()[0].number();
-        seen.iconHeight = size.array()[1].number();
-    });
-    part("screen_locked", [&](const Value &locked) { seen.screenLocked = locked.boolean(); });
-    part("item_place", [&](const Value &place) { readItemPlace(place, seen); });
-    part("variables", [&](const Value &variables) { seen.extension = readState(variables); });
-    part("item", [&](const Value &item) {
-        seen.itemPresent = item["present"].boolean();
-        seen.itemVisible = item["visible"].boolean();
-        seen.itemImage = textOr(item["image"]);
-    });
-    part("display", [&](const Value &on) { seen.display = on.boolean(); });
-    part("passcode_locked", [&](const Value &locked) { seen.passcodeLocked = locked.boolean(); });
-    part("screen", [&](const Value &size) {
-        seen.screenWidth = size.array()[0].number();
-        seen.screenHeight = size.array()[1].number();
-    });
-    part("settings_writes", [&](const Value &count) { seen.settingsWrites = count.integer(); });
+    readDevice(answer, last_);
+    readHomeScreen(answer, last_);
     since_ = answer["revision"];
-    return seen;
+    return last_;
 }
 
 Object watchArguments() {

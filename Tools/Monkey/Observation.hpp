@@ -15,6 +15,10 @@ struct Area {
     bool operator==(const Area &) const = default;
 };
 
+class RowReader;
+// x, y, width, height. Throws as RowReader does.
+Area readArea(RowReader &row);
+
 // A view of an overlay window. Areas are in points.
 struct SeenView {
     int64_t depth = 0; // 0: the window itself

@@ -1,10 +1,10 @@
 #include "SettingsRequests.h"
 
+#include "Process/Shared/RowFields.h"
 #include "Process/Shared/Screen.h"
 #include "Process/Shared/ViewAnimations.h"
 #include "Process/Shared/ViewSearch.h"
 #include "Process/Shared/ViewSnapshot.h"
-#include "Supervisor/Protocol/Changes.hpp"
 #include "UIKit/Controls/UIControl+Further.h"
 #include "UIKit/Views/ViewState.h"
 
@@ -12,24 +12,10 @@ namespace sim {
 
 namespace {
 
-void field(RowWriter &row, CGRect rect) {
-    for (CGFloat number : {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height})
-        row.put(rounded(number));
-}
-
 NSString *shownText(UIView *view) {
     NSString *title = nil;
     if ([view isKindOfClass:[UIButton class]]) title = [static_cast<UIButton *>(view) currentTitle];
     return [title length] ? title : textOf(view);
-}
-
-void field(RowWriter &row, NSString *string) {
-    const char *text = [string UTF8String];
-    row.put(std::string_view(text ? text : ""));
-}
-
-void field(RowWriter &row, const Value &text) {
-    row.put(text.isString() ? std::string_view(text.string()) : std::string_view());
 }
 
 void putLook(RowWriter &row, UIView *view) {
@@ -55,10 +41,10 @@ void putRows(RowWriter &rows, UIView *view, int64_t depth) {
     rows.put(std::string_view(object_getClassName(view)));
     rows.put(static_cast<int64_t>([view tag]));
     rows.put(static_cast<bool>([view isHidden]));
-    field(rows, [view frame]);
-    field(rows, presentedOnScreen(view));
-    field(rows, shownText(view));
-    field(rows, imageOf(view));
+    putRect(rows, [view frame]);
+    putRect(rows, presentedOnScreen(view));
+    putText(rows, shownText(view));
+    putText(rows, imageOf(view));
     putLook(rows, view);
     rows.endRow();
     for (UIView *child : drawnSubviews(view)) putRows(rows, child, depth + 1);

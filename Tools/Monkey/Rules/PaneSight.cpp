@@ -24,15 +24,13 @@ PaneRow readRow(const Value &row) {
     return result;
 }
 
-double numberOf(RowReader &row) {
-    const double number = row.number();
+double finite(double number) {
     if (!std::isfinite(number)) throw ValueError("expected number, found none");
     return number;
 }
 
-Area readArea(RowReader &row) {
-    Area area;
-    for (double *number : {&area.x, &area.y, &area.w, &area.h}) *number = numberOf(row);
+Area finite(const Area &area) {
+    for (double number : {area.x, area.y, area.w, area.h}) finite(number);
     return area;
 }
 
@@ -44,14 +42,14 @@ PaneView readView(RowReader row) {
     view.type = row.text();
     view.tag = row.integer();
     const bool hidden = row.flag();
-    view.frame = readArea(row);
-    view.onScreen = readArea(row);
+    view.frame = finite(readArea(row));
+    view.onScreen = finite(readArea(row));
     view.text = row.text();
     view.image = row.text();
-    view.alpha = numberOf(row);
+    view.alpha = finite(row.number());
     view.seen = !hidden && view.alpha > 0;
     view.background = row.text();
-    view.radius = numberOf(row);
+    view.radius = finite(row.number());
     view.ink = row.text();
     view.font = row.number();
     result.shadowRadius = row.number();

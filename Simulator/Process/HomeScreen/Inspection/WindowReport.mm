@@ -1,5 +1,6 @@
 #include "WindowReport.h"
 
+#include "Process/Shared/RowFields.h"
 #include "Process/Shared/Screen.h"
 #include "Process/Shared/ViewAnimations.h"
 #include "Process/Shared/ViewSearch.h"
@@ -44,18 +45,9 @@ bool ends(const LayerAnimation &animation) {
     return !animation.over && std::isfinite(static_cast<double>(animation.timing.repeatCount));
 }
 
-void field(RowWriter &row, CGRect rect) {
-    if (!isFinite(rect)) rect = CGRectZero;
-    for (CGFloat number : {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height})
-        row.put(rounded(number));
-}
+void putPlace(RowWriter &row, CGRect rect) { putRect(row, isFinite(rect) ? rect : CGRectZero); }
 
-void field(RowWriter &row, NSString *string) {
-    const char *text = [string UTF8String];
-    row.put(std::string_view(text ? text : ""));
-}
-
-void field(RowWriter &row, const ViewLook &look) {
+void putLook(RowWriter &row, const ViewLook &look) {
     row.put(look.alpha);
     row.put(look.background);
     row.put(look.cornerRadius);
@@ -95,15 +87,14 @@ private:
         rows_.put(around.seen && static_cast<bool>(CGRectIntersectsRect(place, around.clip)));
         rows_.put(isFinite(layer.model) && isFinite(now));
         rows_.put(static_cast<bool>([view isUserInteractionEnabled]));
-        field(rows_, toUpright(place));
-        field(rows_, layer.model.frame());
-        field(rows_, [[view layer] name]);
-        field(rows_, textOf(view));
-        const Value image = imageOf(view);
-        rows_.put(image.isString() ? std::string_view(image.string()) : std::string_view());
+        putPlace(rows_, toUpright(place));
+        putPlace(rows_, layer.model.frame());
+        putText(rows_, [[view layer] name]);
+        putText(rows_, textOf(view));
+        putText(rows_, imageOf(view));
         rows_.put(static_cast<int64_t>(state(view).recognizers.size()));
         rows_.put(std::ranges::any_of(layer.animations, ends));
-        field(rows_, lookOf(view, now));
+        putLook(rows_, lookOf(view, now));
         rows_.endRow();
     }
 
