@@ -109,22 +109,23 @@ export async function finger(page) {
     },
     tap: (x, y) => touch([x, y]),
     swipe: (x, y, dx, dy) => touch(...Array.from({ length: 13 }, (_, i) => [x + dx * i / 12, y + dy * i / 12])),
-    // To and fro between the ends of the way until `end` of performance.now(), a place every 8 ms, so that there is one for
-    // each of the device's frames. They are made in the page: the browser's own mouse waits for an answer after each.
-    async shake(x, y, dx, dy, end) {
+    // To and fro between the ends of the way for some seconds, a place every 8 ms, so that there is one for each of the
+    // device's frames, and always as fast: a finger that slows down at the ends leaves frames without a change. The places
+    // are made in the page: the browser's own mouse waits for an answer after each.
+    async shake(x, y, dx, dy, seconds) {
       await page.mouse.move(...at(x, y));
       await page.mouse.down();
       await page.evaluate(({ from, to, time }) => new Promise(resolve => {
         const canvas = document.getElementById("screen"), start = performance.now();
         const timer = setInterval(() => {
-          const passed = performance.now() - start, way = (1 - Math.cos(passed / 150)) / 2;
+          const passed = performance.now() - start, way = 1 - Math.abs(passed / 470 % 2 - 1);
           const [clientX, clientY] = from.map((value, index) => value + (to[index] - value) * way);
           canvas.dispatchEvent(new PointerEvent("pointermove", { pointerId: 1, clientX, clientY }));
           if (passed < time) return;
           clearInterval(timer);
           resolve();
         }, 8);
-      }), { from: at(x, y), to: at(x + dx, y + dy), time: end - performance.now() });
+      }), { from: at(x, y), to: at(x + dx, y + dy), time: 1000 * seconds });
       await page.mouse.up();
     },
   };

@@ -143,6 +143,16 @@ class Recording(unittest.TestCase):
             self.assertEqual(result.returncode, 0, result.stderr[-3000:])
             self.assertIn("did you mean", page.latest["notice"]["text"], "what was refused is not recorded")
 
+    def test_places_that_come_together_are_reached_one_frame_after_the_other(self):
+        with Live(PROGRAM) as live:
+            page = Page(live.port)
+            page.send("clock", speed=1)
+            page.send("down", pointer=4, x=10, y=600)
+            for y in (500, 400, 300):
+                page.send("move", pointer=4, x=10, y=y)
+            script = next(script for script in (page.whole_script() for _ in range(100)) if "phone:move(10, 300)" in script)
+            self.assertRegex(script, r"phone:move\(10, 400\)\s*phone:wait\(0\.\d+\)\s*phone:move\(10, 300\)")
+
 
 class Commands(unittest.TestCase):
     def test_record_writes_the_script_at_the_end(self):

@@ -31,11 +31,11 @@ async function ownWork(page) {
   return async () => (await tools.send("Performance.getMetrics")).metrics.find(one => one.name === "TaskDuration").value;
 }
 
-async function measure(page, name, during) {
+async function measure(page, name) {
   const worked = await ownWork(page);
   const drawn = async () => ({ ...await page.evaluate(() => window.drawn), worked: await worked() });
   const [before, used, start] = [await drawn(), processorTime(), performance.now()];
-  await during(start + seconds * 1000);
+  await page.waitForTimeout(seconds * 1000);
   const elapsed = (performance.now() - start) / 1000;
   const [after, total] = [await drawn(), processorTime()];
   const share = kind => `${(100 * (total[kind] - used[kind]) / elapsed).toFixed(0)} %`;
@@ -55,9 +55,13 @@ async function measureDevice(browser, device, line, options = []) {
   await page.evaluate(countFrames);
   await page.getByRole("button", { name: "Activator", exact: true }).click();
   await page.waitForTimeout(2000);
-  await measure(page, `${name}, at rest (the pulse)`, () => page.waitForTimeout(seconds * 1000));
+  await measure(page, `${name}, at rest (the pulse)`);
   const hand = await finger(page);
-  await measure(page, `${name}, strip dragged to and fro`, end => hand.shake(250, 90, -150, 0, end));
+  // The finger is on its way before the measuring begins, and goes on after its end.
+  const dragged = hand.shake(250, 90, -150, 0, seconds + 2);
+  await page.waitForTimeout(1000);
+  await measure(page, `${name}, strip dragged to and fro`);
+  await dragged;
   await page.close();
   if (line) way.end();
   await server.end();

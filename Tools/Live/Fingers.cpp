@@ -41,14 +41,19 @@ void Fingers::move(Pointer pointer, double x, double y) {
     y = tidy(y);
     if (finger.still && std::hypot(x - finger.x, y - finger.y) < kStill) return;
     finger.still = false;
-    finger.moved = finger.moved || x != finger.x || y != finger.y;
+    if (x == finger.x && y == finger.y) return;
     finger.x = x;
     finger.y = y;
+    finger.waiting.push_back({x, y});
+}
+
+void Fingers::put(const Finger &finger, Place place) {
+    device_.touchMove(tidy(place.x + finger.shiftX), tidy(place.y + finger.shiftY), finger.number);
 }
 
 void Fingers::commit(Finger &finger) {
-    if (!std::exchange(finger.moved, false)) return;
-    device_.touchMove(tidy(finger.x + finger.shiftX), tidy(finger.y + finger.shiftY), finger.number);
+    auto places = std::exchange(finger.waiting, {});
+    if (!places.empty()) put(finger, places.back());
 }
 
 bool Fingers::mayLift(const Finger &finger) const {
@@ -72,11 +77,25 @@ int64_t Fingers::atMost(int64_t frames) const {
 }
 
 void Fingers::commit() {
-    std::vector<Pointer> due;
+    for (auto &[pointer, finger] : down_) commit(finger);
+    liftDue();
+}
+
+void Fingers::follow() {
     for (auto &[pointer, finger] : down_) {
-        commit(finger);
-        if (finger.lifting && mayLift(finger)) due.push_back(pointer);
+        std::vector<Place> &places = finger.waiting;
+        if (places.empty()) continue;
+        Place next = places.size() == 1 ? places.back() : places[places.size() - 2];
+        places.erase(places.begin(), places.end() - (places.size() > 1));
+        put(finger, next);
     }
+    liftDue();
+}
+
+void Fingers::liftDue() {
+    std::vector<Pointer> due;
+    for (const auto &[pointer, finger] : down_)
+        if (finger.lifting && mayLift(finger)) due.push_back(pointer);
     for (const auto &pointer : due) lift(pointer);
 }
 

@@ -256,7 +256,10 @@ void LiveSession::passTime() {
     auto before = std::exchange(passed_, now());
     if (viewers_.empty()) return;
     try {
-        fingers_.commit();
+        if (clock_.runs())
+            fingers_.follow();
+        else
+            fingers_.commit();
     } catch (const CallError &error) {
         viewers_.tellAll(noticeMessage(error.what()));
     }
