@@ -148,10 +148,16 @@ class Recording(unittest.TestCase):
             page = Page(live.port)
             page.send("clock", speed=1)
             page.send("down", pointer=4, x=10, y=600)
+            page.send("move", pointer=4, x=10, y=550)
+            while "phone:move(10, 550)" not in page.whole_script():
+                pass
             for y in (500, 400, 300):
                 page.send("move", pointer=4, x=10, y=y)
-            script = next(script for script in (page.whole_script() for _ in range(100)) if "phone:move(10, 300)" in script)
-            self.assertRegex(script, r"phone:move\(10, 400\)\s*phone:wait\(0\.\d+\)\s*phone:move\(10, 300\)")
+            page.send("up", pointer=4)
+            while "phone:up()" not in (script := page.whole_script()):
+                pass
+            self.assertRegex(
+                script, r"phone:move\(10, 400\)\s*phone:wait\(0\.\d+\)\s*phone:move\(10, 300\)\s*phone:up\(\)")
 
 
 class Commands(unittest.TestCase):

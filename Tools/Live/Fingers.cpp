@@ -95,7 +95,7 @@ void Fingers::follow() {
 void Fingers::liftDue() {
     std::vector<Pointer> due;
     for (const auto &[pointer, finger] : down_)
-        if (finger.lifting && mayLift(finger)) due.push_back(pointer);
+        if (finger.lifting && finger.waiting.empty() && mayLift(finger)) due.push_back(pointer);
     for (const auto &pointer : due) lift(pointer);
 }
 
@@ -103,7 +103,8 @@ void Fingers::up(Pointer pointer) {
     auto found = down_.find(pointer);
     if (found == down_.end()) return;
     found->second.lifting = true;
-    if (mayLift(found->second)) lift(pointer);
+    // Not with a leap: the places before the last one come first.
+    if (found->second.waiting.size() < 2 && mayLift(found->second)) lift(pointer);
 }
 
 void Fingers::lift(Pointer pointer) {
