@@ -30,7 +30,10 @@ BOOL enterInto(UITextField *field, NSInteger group) {
     NSString *text = field.text;
     const size_t length = [text length];
     const DigitEntry entry = enterDigit(length, length ? [text characterAtIndex:length - 1] : 0);
-    if (entry.kept < length) field.text = [text substringToIndex:entry.kept];
+    // A character may take more than one unit of the text.
+    if (entry.kept < length)
+        field.text =
+            [text substringToIndex:[text rangeOfComposedCharacterSequenceAtIndex:entry.kept].location];
     if (entry.dot) show(field, group, *entry.dot, kDot);
     if (entry.dash) show(field, group, *entry.dash, kDash);
     return entry.complete;

@@ -23,7 +23,8 @@ struct PasscodeSheet {
     NSInteger first;                   // the group that is typed first
 };
 
-void present(const PasscodeSheet &sheet);
+// The page lives as long as the sheet. NO when something else is presented: then there is no sheet.
+BOOL present(const PasscodeSheet &sheet);
 // The completion runs when it is gone.
 void dismissSheet(void (^completion)(void));
 

@@ -15,6 +15,8 @@ UIViewController *newRoot(const PasscodeSheet &sheet) {
     view.backgroundColor = [UIColor whiteColor];
     view.autoresizingMask = UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight;
     root.view = view;
+    // Nothing else keeps it, and it may be left under the sheet by a finger that lay on the way back.
+    [view.layer setValue:sheet.page forKey:@"pageThatStays"];
     [view release];
     root.navigationItem.title = shownText(sheet.titleKey);
     UIBarButtonItem *cancel = [[UIBarButtonItem alloc] initWithTitle:shownText(@"cancel")
@@ -28,7 +30,8 @@ UIViewController *newRoot(const PasscodeSheet &sheet) {
 
 } // namespace
 
-void present(const PasscodeSheet &sheet) {
+BOOL present(const PasscodeSheet &sheet) {
+    if (presenter().presentedViewController) return NO;
     UIViewController *root = newRoot(sheet);
     UINavigationController *navigation = [[UINavigationController alloc] initWithRootViewController:root];
     PasscodeView *view = (PasscodeView *)root.view;
@@ -38,8 +41,10 @@ void present(const PasscodeSheet &sheet) {
     view.group = sheet.first;
     for (NSString *key : sheet.groups) [view addGroup:shownText(key)];
     [view addFieldFor:sheet.page action:sheet.typed];
+    const BOOL presented = presenter().presentedViewController == navigation;
     [navigation release];
     [root release];
+    return presented;
 }
 
 void dismissSheet(void (^completion)(void)) {

@@ -5,6 +5,7 @@
 // The panel's lock and its passcode. Entering the page and changing the lock take the code that is stored.
 @interface passwordController : PendixListController {
     PSSpecifier *_lockGroup; // with the switch of the lock; not retained, one of the rows
+    BOOL _closed;            // the code is wanted on the way in, and was not typed yet
 }
 // The switch of the lock.
 - (id)enable;

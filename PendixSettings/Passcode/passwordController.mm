@@ -18,9 +18,9 @@ NSString *storedCode() {
     return [code length] ? code : nil;
 }
 
-void presentWrite(passwordController *page, SEL cancel, SEL typed) {
+BOOL presentWrite(passwordController *page, SEL cancel, SEL typed) {
     NSString *const groups[] = {@"write"};
-    pane::present(
+    return pane::present(
         {.titleKey = @"write", .page = page, .cancel = cancel, .typed = typed, .groups = groups, .first = 0});
 }
 
@@ -45,28 +45,53 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
 
 // The way in.
 
+// Whoever left the list by another way than back to a page does not come back to this one.
+- (void)viewDidLoad {
+    [super viewDidLoad];
+    pane::whereShowed = NO;
+}
+
 - (void)viewWillAppear:(BOOL)animated {
     [super viewWillAppear:animated];
     if (pane::showed) return;
     if (pane::whereShowed) {
         pane::whereShowed = NO;
     } else if (storedCode() && pendix::isOn(keys::lockEnabled)) {
-        pane::showed = YES;
-        presentWrite(self, @selector(dismiss), @selector(textFieldDidChange:));
+        [self close:YES];
+        [self askOnTheWayIn];
     }
+}
+
+// What was presented when it was to appear may be gone now.
+- (void)viewDidAppear:(BOOL)animated {
+    [super viewDidAppear:animated];
+    if (_closed && !pane::showed) [self askOnTheWayIn];
+}
+
+- (void)askOnTheWayIn {
+    pane::showed = YES;
+    if (!presentWrite(self, @selector(dismiss), @selector(textFieldDidChange:))) pane::showed = NO;
+}
+
+// Closed, it can be seen and left, and not used.
+- (void)close:(BOOL)closed {
+    _closed = closed;
+    self.view.userInteractionEnabled = !closed;
 }
 
 - (void)textFieldDidChange:(UITextField *)field {
     if (!pane::enterInto(field, 0)) return;
     if (![field.text isEqual:storedCode()]) return pane::refuse(field, 0);
     pane::endEntry(field);
+    [self close:NO];
     pane::dismissSheet(^{ pane::showed = NO; });
 }
 
+// When another page has come over this one, that one goes, and this one asks again.
 - (void)dismiss {
     pane::dismissSheet(^{
-        [self.navigationController popViewControllerAnimated:YES];
         pane::showed = NO;
+        [self.navigationController popViewControllerAnimated:YES];
     });
 }
 
@@ -77,15 +102,19 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
 }
 
 - (void)setEnable:(id)value {
+    const BOOL before = pane::showed;
     pane::showed = YES;
     if (!storedCode()) {
         pendix::writeSetting(keys::lockEnabled, value);
         pane::showed = NO;
         return;
     }
-    pane::keep(pane::pendingSettings, pendix::settingsToChange());
-    [pane::pendingSettings setObject:value forKey:keys::lockEnabled];
-    presentWrite(self, @selector(dismiss1), @selector(textFieldDidChange1:));
+    NSMutableDictionary *settings = pendix::settingsToChange();
+    [settings setObject:value forKey:keys::lockEnabled];
+    if (presentWrite(self, @selector(dismiss1), @selector(textFieldDidChange1:)))
+        return pane::keep(pane::pendingSettings, settings);
+    pane::showed = before;
+    [self showAgain:_lockGroup];
 }
 
 - (void)textFieldDidChange1:(UITextField *)field {
@@ -109,14 +138,20 @@ void presentWrite(passwordController *page, SEL cancel, SEL typed) {
 // The code.
 
 - (void)changePass {
+    const BOOL before = pane::showed;
     pane::showed = YES;
-    pane::keep(pane::newCodes, [NSMutableArray array]);
-    pane::changeStep = storedCode() ? 0 : 1;
+    const NSInteger first = storedCode() ? 0 : 1;
     NSString *const groups[] = {@"old", @"new_pass", @"rewrite"};
-    pane::present({
+    const BOOL presented = pane::present({
         .titleKey = @"change_pass", .page = self, .cancel = @selector(dismiss1),
-        .typed = @selector(textFieldDidChange2:), .groups = groups, .first = pane::changeStep
+        .typed = @selector(textFieldDidChange2:), .groups = groups, .first = first
     });
+    if (!presented) {
+        pane::showed = before;
+        return;
+    }
+    pane::keep(pane::newCodes, [NSMutableArray array]);
+    pane::changeStep = first;
 }
 
 // Any new code will do.

@@ -31,13 +31,17 @@ enum {
 // Goes into the navigation item too.
 @property (nonatomic, copy) NSString *title;
 - (void)viewWillAppear:(BOOL)animated;
+- (void)viewDidAppear:(BOOL)animated;
 - (void)viewDidLoad;
 - (void)viewDidLayoutSubviews;
 @end
 
 // Over the whole window, sliding up from below. A presentation is kept by the presenting controller; asking
-// the presented one to dismiss itself reaches the presenting one. Completions run when the slide is over.
+// the presented one to dismiss itself reaches the presenting one. Completions run when the slide is over. One that
+// presents already, or is on its way back, presents nothing else.
 @interface UIViewController (UIModalPresentation)
+// From the call that presents it until it has slid out; nil else.
+@property (nonatomic, readonly) UIViewController *presentedViewController;
 - (void)presentViewController:(UIViewController *)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion;

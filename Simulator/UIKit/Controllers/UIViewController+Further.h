@@ -5,7 +5,6 @@
 
 @interface UIViewController (Further)
 - (void)loadView;
-- (void)viewDidAppear:(BOOL)animated;
 - (void)viewWillDisappear:(BOOL)animated;
 - (void)viewDidDisappear:(BOOL)animated;
 - (void)viewWillLayoutSubviews;
@@ -17,7 +16,6 @@
 - (void)removeFromParentViewController;
 - (void)willMoveToParentViewController:(UIViewController *)parent;
 - (void)didMoveToParentViewController:(UIViewController *)parent;
-@property (nonatomic, readonly) UIViewController *presentedViewController;
 @property (nonatomic, readonly) UIViewController *presentingViewController;
 @property (nonatomic) UIModalPresentationStyle modalPresentationStyle;
 @property (nonatomic, readonly) UIInterfaceOrientation interfaceOrientation;
