@@ -20,6 +20,10 @@ NSArray *itemViews();
 // The height of badges on the panel: the home screen's, or the usual one while none has been seen.
 CGFloat panelBadgeHeight();
 
+// The buttons right in `view`, or `view` if it is one, send nothing any more. A finger that still holds one
+// would be answered by whatever stands there when it is lifted.
+void letGoOfButtons(UIView *view);
+
 // Sets the frame's height or y alone.
 void setHeight(UIView *view, CGFloat height);
 void setY(UIView *view, CGFloat y);

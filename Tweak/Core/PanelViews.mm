@@ -6,6 +6,15 @@
 
 namespace pendix {
 
+namespace {
+
+void letGo(UIView *view) {
+    if ([view isKindOfClass:[UIControl class]])
+        [(UIControl *)view removeTarget:nil action:nullptr forControlEvents:UIControlEventTouchUpInside];
+}
+
+} // namespace
+
 UIView *subviewWithTag(UIView *parent, NSInteger tag) {
     for (UIView *view in parent.subviews)
         if (view.tag == tag) return view;
@@ -31,6 +40,11 @@ NSArray *itemViews() {
 }
 
 CGFloat panelBadgeHeight() { return badgeHeightOr(badgeHeight); }
+
+void letGoOfButtons(UIView *view) {
+    letGo(view);
+    for (UIView *part in view.subviews) letGo(part);
+}
 
 void setHeight(UIView *view, CGFloat height) {
     CGRect frame = view.frame;

@@ -41,6 +41,13 @@ void collapse(SpringBoard *springBoard) {
     }
 }
 
+// Of the question and of the lock's faces.
+void letGoOfAnswers() {
+    UIView *list = strip();
+    for (UIView *view in contentView().subviews)
+        if (view != list) letGoOfButtons(view);
+}
+
 void stopHands() {
     UIView *clock = [strip() viewWithTag:tags::clockItem];
     const NSInteger hands[] = {tags::secondHand, tags::minuteHand, tags::hourHand};
@@ -63,6 +70,7 @@ void added::dismisPendixUI(SpringBoard *self, SEL) {
     NSLog(@"<Pendix> Pendix's UI dismissing!");
     isShow = NO;
     isEditing = NO;
+    letGoOfAnswers();
     takeOverSpeech(NO);
     requireFinger = NO;
     if ([self hasTouchID]) stopFingerMonitor();

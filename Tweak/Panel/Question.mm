@@ -131,6 +131,7 @@ void added::dismissRequest(SpringBoard *, SEL) {
     const BOOL still = reducesMotion();
     forPromptViews([&](UIView *view) {
         view.accessibilityElementsHidden = YES;
+        letGoOfButtons(view);
         if (still) view.hidden = YES;
     });
     fadeAnswers(0, duration * kFadeShare, 0);
