@@ -235,7 +235,7 @@ TEST(Touch, KnowsItsTapsPlaceAndTime) {
     EXPECT_TRUE(CGPointEqualToPoint(view->last, CGPointMake(15, 17)));
     EXPECT_EQ(view->fingers, 1u) << "the second finger never came to this view";
     EXPECT_EQ(sim::ongoingInteractions().size(), 2u);
-    EXPECT_NE(sim::ongoingInteractions().at(0).find("finger 1 is down at (115, 117) on <TouchReader"),
+    EXPECT_NE(sim::ongoingInteractions().at(0).find("finger 2 is down at (115, 117) on <TouchReader"),
               std::string::npos);
     up();
     up(2);

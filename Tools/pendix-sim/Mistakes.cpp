@@ -26,6 +26,8 @@ std::string unexpectedWords(const std::string &command, const std::vector<std::s
     const std::string &first = words.front();
     if (!first.starts_with("-")) return "'" + command + "' does not expect the word '" + first + "'";
     std::string name = first.substr(0, first.find('='));
+    if (std::ranges::count(options, name))
+        return "'" + name + "' stands after '" + command + "', not before it";
     return "'" + command + "' has no option '" + name + "'" + suggestion(name, options);
 }
 

@@ -24,6 +24,8 @@ typedef struct _NSRange {
 - (BOOL)hasSuffix:(NSString *)suffix;
 // NSNotFound as location when it does not occur.
 - (NSRange)rangeOfString:(NSString *)part;
+// Of the whole character that the unit at `index` belongs to.
+- (NSRange)rangeOfComposedCharacterSequenceAtIndex:(NSUInteger)index;
 - (NSArray *)componentsSeparatedByString:(NSString *)separator;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)substringFromIndex:(NSUInteger)index;

@@ -67,6 +67,7 @@ void pushElements(lua_State *lua, const Phone &phone, const Value &answer) {
 
 int64_t elementNumber(lua_State *lua, int index, const Phone &phone) {
     int element = lua_absindex(lua, index);
+    if (lua_gettop(lua) < element) lua_settop(lua, element); // nothing was given
     pushIdentities(lua);
     lua_pushvalue(lua, element);
     if (lua_rawget(lua, -2) != LUA_TTABLE)

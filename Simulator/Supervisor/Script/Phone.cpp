@@ -32,6 +32,8 @@ int callMethod(lua_State *lua, Script &script) {
     const Method &method = currentMethod(lua);
     Phone &phone = self(lua);
     size_t most = method.parameters.size();
+    // Nothing was said by them: a call that passes on what it was given may end in nils.
+    while (static_cast<size_t>(lua_gettop(lua)) - 1 > most && lua_isnil(lua, -1)) lua_pop(lua, 1);
     if (static_cast<size_t>(lua_gettop(lua)) - 1 > most)
         throw std::runtime_error(word(phone) + std::string(":") + method.name + " takes " +
                                  (most ? "at most " + std::to_string(most) : "no") + " argument" +

@@ -1,5 +1,6 @@
 #include "Script.hpp"
 
+#include "Conversion.hpp"
 #include "Library.hpp"
 #include "MisspeltGlobal.hpp"
 #include "Phone.hpp"
@@ -36,8 +37,11 @@ void stopSoon() { lua_sethook(running, raiseInterrupt, LUA_MASKCALL | LUA_MASKRE
 // Adds the calls that led to an error to its text, and what was meant by the name of a function that is none.
 // A coroutine of a caught error is not looked into.
 int addTraceback(lua_State *lua) {
-    if (lua_type(lua, 1) != LUA_TSTRING) luaL_tolstring(lua, 1, nullptr);
-    std::string text = lua_tostring(lua, -1);
+    std::string text;
+    if (lua_istable(lua, 1) && luaL_getmetafield(lua, 1, "__tostring") == LUA_TNIL)
+        text = describe(lua, 1);
+    else
+        text = luaL_tolstring(lua, 1, nullptr);
     if (interrupted()) return 1;
     luaL_traceback(lua, lua, (text + misspeltGlobal(text)).c_str(), 1);
     return 1;

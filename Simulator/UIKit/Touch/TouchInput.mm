@@ -163,8 +163,9 @@ std::vector<std::string> ongoingInteractions() {
         const auto &mine = state(touch);
         if (mine.lifted) continue;
         char place[64];
-        std::snprintf(place, sizeof place, "finger %d is down at (%g, %g) on ", mine.pointer, mine.location.x,
-                      mine.location.y);
+        // Fingers are counted from 1.
+        std::snprintf(place, sizeof place, "finger %d is down at (%g, %g) on ", mine.pointer + 1,
+                      mine.location.x, mine.location.y);
         result.push_back(place + std::string(mine.view ? [[mine.view description] UTF8String] : "no view"));
     }
     for (const auto &list : {waitingRecognizers(), scrollViewsUnderWay()})

@@ -22,6 +22,8 @@ local cases = {
   { "a kind of event", "did you mean 'badge_set'?", function() phone:events("badgeset") end },
   { "an application", "did you mean 'com.apple.mobilemail'?", function() phone:badge("com.apple.mobilemial", 1) end },
   { "an argument too many", "takes at most 1 argument", function() phone:tap(1, 2) end },
+  { "no element", "not nil", function() phone:activate() end },
+  { "settling under a finger", "finger 1 is down", function() phone:down{ 100, 500 } phone:settle() end },
   { "a missing colon", "phone:method", function() phone.wait(1) end },
   { "a point that is none", "a view or a point {x, y}", function() phone:tap { 1 } end },
   { "a time that is none", "the number of seconds must be", function() phone:wait("1s") end },
@@ -44,4 +46,5 @@ local cases = {
   { "a filter", "did you mean 'device'?", function() each_profile(print, { devices = "iPad 2" }) end },
   { "a filter that leaves nothing", "leaves no device", function() each_profile(print, { device = "iPad 9" }) end },
 }
+phone:wait(0.1, nil, nil)
 for _, case in ipairs(cases) do refused(case[1], case[2], case[3]) end
