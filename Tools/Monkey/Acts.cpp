@@ -7,8 +7,9 @@ namespace {
 const std::vector<Act> &allActs() {
     static const std::vector<Act> acts = [] {
         std::vector<Act> result;
-        for (auto family : {timeActs(), touchActs(), fingerActs(), homeScreenActs(), lockActs(), unlockActs(),
-                            settingsActs(), paneActs(), paneTourActs(), examActs()})
+        for (auto family :
+             {timeActs(), touchActs(), fingerActs(), homeScreenActs(), lockActs(), unlockActs(),
+              settingsActs(), paneActs(), paneTourActs(), holdActs(), paneHandActs(), examActs()})
             result.insert(result.end(), family.begin(), family.end());
         return result;
     }();

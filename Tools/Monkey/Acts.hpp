@@ -26,6 +26,8 @@ std::span<const Act> unlockActs(); // of the panel's own lock
 std::span<const Act> settingsActs();
 std::span<const Act> paneActs();
 std::span<const Act> paneTourActs(); // through Settings, page by page, with time for each
+std::span<const Act> holdActs();     // a finger that stays while the panel changes under it
+std::span<const Act> paneHandActs(); // two fingers in Settings, and coming back to its pages
 std::span<const Act> examActs();     // single acts from rest, with time for what they lead to
 
 struct Event {

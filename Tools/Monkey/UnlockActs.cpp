@@ -1,5 +1,6 @@
 // Passing the panel's lock, and being away before it has opened: what is entered takes a moment to count.
 #include "Acts.hpp"
+#include "Plan.hpp"
 #include "SettingValues.hpp"
 #include "Tools/Live/Journal.hpp"
 #include "Tools/Live/LuaText.hpp"
@@ -53,19 +54,6 @@ const Place *button(const Hand &hand, int64_t tag) {
     return found == places.rend() ? nullptr : &*found;
 }
 
-void plan(Hand &hand, std::string line) {
-    hand.plan.push_back([line = std::move(line)](Hand &) { return line; });
-}
-
-void planWait(Hand &hand, int64_t least, int64_t most) {
-    plan(hand, "phone:wait(" + secondsText(hand.random.between(least, most) * 1'000'000) + ")");
-}
-
-// At once, or a little later.
-void planPause(Hand &hand, int64_t most) {
-    if (hand.random.percent(50)) planWait(hand, 0, most);
-}
-
 // A code with a slip: the last thing typed before it is taken back, or one digit is wrong at first.
 std::string typeWithSlip(Hand &hand) {
     std::string code = rightCode(hand);
@@ -79,19 +67,8 @@ std::string typeWithSlip(Hand &hand) {
     return typed(hand, code);
 }
 
-// By what the panel asks for.
-std::string pass(Hand &hand) {
-    if (hand.snapshot.key('1')) return hand.random.percent(60) ? typeRightCode(hand) : typeWithSlip(hand);
-    return hasSensor(hand) ? "phone:finger(3)" : "";
-}
-
 std::string matchNow(Hand &hand) {
     return hasSensor(hand) && hand.random.percent(20) ? "phone:finger(3)" : "";
-}
-
-std::string passQuestion(Hand &hand) {
-    const Place *unlock = button(hand, kFaceButton);
-    return unlock && !hand.snapshot.key('1') ? tap(*unlock) : "";
 }
 
 // A finger does not count afterwards.
@@ -103,13 +80,6 @@ std::string choosePasscode(Hand &hand) {
     hand.plan.emplace_front(
         [=](Hand &) { return "phone:wait(" + secondsText(milliseconds * 1'000'000) + ")"; });
     return tap(*passcode);
-}
-
-void planDark(Hand &hand) {
-    plan(hand, hand.random.pick({"phone:display(false)", "phone:lock()"}));
-    planPause(hand, 900);
-    plan(hand, "phone:display(true)");
-    if (hand.random.percent(70)) plan(hand, "phone:unlock()");
 }
 
 // Goes, while what was entered is perhaps still being judged, and comes back. In the dark the panel closes by
@@ -144,11 +114,7 @@ std::string match(Hand &hand) {
 // The whole way from a lock that is set up to a panel that must still be locked. It is taken away again more
 // often than not, for it keeps everything else from being reached.
 std::string breakIn(Hand &hand) {
-    const Object lock{{"pass", true},
-                      {"password", hand.random.pick(codes())},
-                      {"where", hand.random.pick({"everyoff", "everyoff", "every", "every", "lockscreen"})},
-                      {"touchid", hand.random.percent(50)},
-                      {"ask", hand.random.percent(25)}};
+    const Object lock = lockToSet(hand);
     planDark(hand);
     plan(hand, "phone:activator()");
     planWait(hand, 600, 900);
@@ -156,13 +122,32 @@ std::string breakIn(Hand &hand) {
         hand.plan.emplace_back(step);
         if (step != matchNow) planWait(hand, 50, 900);
     }
-    hand.plan.emplace_back(pass);
+    hand.plan.emplace_back(passLock);
     planLeaving(hand);
     if (hand.random.percent(60)) plan(hand, luaCall("set", {"pass", false}));
     return luaCall("set", {lock});
 }
 
 } // namespace
+
+// Braces keep the order of the draws.
+Object lockToSet(Hand &hand) {
+    return {{"pass", true},
+            {"password", hand.random.pick(codes())},
+            {"where", hand.random.pick({"everyoff", "everyoff", "every", "every", "lockscreen"})},
+            {"touchid", hand.random.percent(50)},
+            {"ask", hand.random.percent(25)}};
+}
+
+std::string passLock(Hand &hand) {
+    if (hand.snapshot.key('1')) return hand.random.percent(60) ? typeRightCode(hand) : typeWithSlip(hand);
+    return hasSensor(hand) ? "phone:finger(3)" : "";
+}
+
+std::string passQuestion(Hand &hand) {
+    const Place *unlock = button(hand, kFaceButton);
+    return unlock && !hand.snapshot.key('1') ? tap(*unlock) : "";
+}
 
 std::span<const Act> unlockActs() {
     static const Act acts[] = {{"enter the right code", codeWeight, enterCode},

@@ -35,6 +35,7 @@ void Watcher::meetHomeScreen() {
     Memory kept;
     kept.scene.upright = memory_.scene.upright;
     kept.pane = std::move(memory_.pane);
+    kept.gate = memory_.gate;
     memory_ = std::move(kept);
     Value missing = device.ask("watch", watchArguments());
     if (!missing.array().empty())

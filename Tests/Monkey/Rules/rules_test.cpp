@@ -219,6 +219,8 @@ constexpr Case kCases[] = {
     {"show list", "locked", lockedPanel},
     {"show name", "locked", lockedPanel},
     {"say name", "speech", lockedPanel},
+    {"clear badge", "behind the lock", lockedPanel},
+    {"open mail", "behind the lock", lockedPanel},
     {"unlock", "locked", darkAfterCode},
     {"unlock", "locked", anotherAfterCode},
     {"unlock", "locked", wrongCode},

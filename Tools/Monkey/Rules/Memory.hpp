@@ -1,6 +1,7 @@
 // What the rules remember from one event to the next. All of it begins anew with the home screen.
 #pragma once
 
+#include "Gate.hpp"
 #include "LockModel.hpp"
 #include "SceneMemory.hpp"
 
@@ -27,6 +28,13 @@ struct TimerMemory {
     std::optional<int64_t> unwantedSince;  // since when nothing needs them
 };
 
+// What can be done to applications through a panel that is locked.
+struct BehindMemory {
+    std::optional<int64_t> guardedSince; // since when the panel is open and surely locked, at every look
+    std::set<int64_t> strangers;         // fingers that went down while no panel was open
+    int64_t bannerUntil = 0;             // a banner that opens its application may be there
+};
+
 // The Settings application.
 struct PaneMemory {
     bool mixed = false;               // somebody else changed the settings while it was open
@@ -43,6 +51,7 @@ struct Memory {
     int64_t closedAt = INT64_MIN / 2; // when it was asked to close last
 
     LockModel lock; // not by the log
+    BehindMemory behind;
 
     // Applications that have a badge and rightly are not listed.
     std::set<std::string> unlisted;
@@ -65,6 +74,7 @@ struct Memory {
     int64_t settingsWrites = 0;
 
     PaneMemory pane;
+    GateModel gate;
 };
 
 } // namespace sim

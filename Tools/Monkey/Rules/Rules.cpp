@@ -18,13 +18,28 @@ int64_t Moment::entered(std::string_view selector) const {
 
 std::span<const Rule> rules() {
     static const Rule table[] = {
-        {"one panel", checkOnePanel},    {"closed", checkClosed},       {"locked", checkLocked},
-        {"lists", checkLists},           {"indicator", checkIndicator}, {"timers", checkTimers},
-        {"quiet", checkQuiet},           {"hooks", checkHooks},         {"geometry", checkGeometry},
-        {"settings", checkSettingsFile}, {"contents", checkContents},   {"layout", checkLayout},
-        {"acts", checkConsequences},     {"faces", checkFaces},         {"looks", checkLooks},
-        {"face acts", checkFaceActs},    {"marks", checkMarks},         {"pages", checkPane},
-        {"page looks", checkPaneLooks},  {"speech", checkSpeech},
+        {"one panel", checkOnePanel},
+        {"closed", checkClosed},
+        {"locked", checkLocked},
+        {"behind the lock", checkBehind},
+        {"lists", checkLists},
+        {"indicator", checkIndicator},
+        {"timers", checkTimers},
+        {"quiet", checkQuiet},
+        {"hooks", checkHooks},
+        {"geometry", checkGeometry},
+        {"settings", checkSettingsFile},
+        {"contents", checkContents},
+        {"layout", checkLayout},
+        {"acts", checkConsequences},
+        {"faces", checkFaces},
+        {"looks", checkLooks},
+        {"face acts", checkFaceActs},
+        {"marks", checkMarks},
+        {"gate", checkGate},
+        {"pages", checkPane},
+        {"page looks", checkPaneLooks},
+        {"speech", checkSpeech},
     };
     return table;
 }

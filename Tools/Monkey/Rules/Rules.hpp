@@ -61,6 +61,7 @@ std::optional<Scene> sceneBeforeAct(const Moment &moment, const SceneMemory &the
 void checkOnePanel(const Moment &moment, Memory &memory, Findings &findings);
 void checkClosed(const Moment &moment, Memory &memory, Findings &findings);
 void checkLocked(const Moment &moment, Memory &memory, Findings &findings);
+void checkBehind(const Moment &moment, Memory &memory, Findings &findings);
 void checkLists(const Moment &moment, Memory &memory, Findings &findings);
 void checkIndicator(const Moment &moment, Memory &memory, Findings &findings);
 void checkTimers(const Moment &moment, Memory &memory, Findings &findings);
@@ -77,6 +78,7 @@ void checkFaceActs(const Moment &moment, Memory &memory, Findings &findings);
 void checkMarks(const Moment &moment, Memory &memory, Findings &findings);
 void checkSpeech(const Moment &moment, Memory &memory, Findings &findings);
 void checkPane(const Moment &moment, Memory &memory, Findings &findings);
+void checkGate(const Moment &moment, Memory &memory, Findings &findings);
 void checkPaneLooks(const Moment &moment, Memory &memory, Findings &findings);
 
 } // namespace sim

@@ -1,6 +1,7 @@
 #include "Saboteur.h"
 
 #include <BiometricKit/BiometricKit.h>
+#include <SpringBoard/SBApplication.h>
 #include <Substrate/CydiaSubstrate.h>
 
 #include <math.h>
@@ -63,6 +64,13 @@ void unlock() {
     constexpr int kKeypad = 46;
     [springBoard() unlockPendix:kKeypad];
 }
+// As the panel does it that is not to be used.
+SBApplication *mail() {
+    return [[objc_getClass("SBApplicationController") sharedInstance]
+        applicationWithBundleIdentifier:@"com.apple.mobilemail"];
+}
+void clearBadge() { [mail() setBadge:nil]; }
+void openMail() { [springBoard() launchApplicationWithIdentifier:@"com.apple.mobilemail" suspended:NO]; }
 void armLock() { variable<BOOL>("_ZN6pendix12needPasscodeE") = YES; }
 
 void doubleEntry() { [badgeList() addObject:[badgeList() objectAtIndex:0]]; }
@@ -127,6 +135,8 @@ std::span<const Act> acts() {
                                {"show name", showName},
                                {"say name", sayName},
                                {"unlock", unlock},
+                               {"clear badge", clearBadge},
+                               {"open mail", openMail},
                                {"arm lock", armLock},
                                {"double entry", doubleEntry},
                                {"forget entry", forgetEntry},
