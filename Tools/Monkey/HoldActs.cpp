@@ -124,8 +124,7 @@ std::string press(Hand &hand) {
     std::vector<Place> items;
     for (const Place &place : hand.snapshot.overlay)
         if (place.tag == kItem || place.tag == kClockItem) items.push_back(place);
-    const Place place = items.empty() ? something(hand) : hand.random.pick(items);
-    return "phone:hold(" + pointText(place) + ", 1.2)";
+    return items.empty() ? "" : "phone:hold(" + pointText(hand.random.pick(items)) + ", 1.2)";
 }
 
 void planPressing(Hand &hand) {

@@ -12,7 +12,8 @@ namespace {
 
 // What was begun before the panel was locked has come to its end by then: an item on its way off the panel.
 constexpr int64_t kLate = 1'000'000'000;
-constexpr int64_t kBanner = 20'000'000'000;
+// For so long something else may open an application: a banner, and what was chosen on the lock screen.
+constexpr int64_t kBanner = 20'000'000'000, kUnlocking = 3'000'000'000;
 
 // A finger that went down beside the panel, or before there was one, may open what it met.
 void followFingers(const std::vector<Deed> &deeds, bool open, std::set<int64_t> &strangers) {
@@ -55,9 +56,11 @@ void checkBehind(const Moment &moment, Memory &memory, Findings &findings) {
     const std::vector<Deed> deeds = deedsOf(moment.call);
     const bool openBefore = moment.before && sightOf(*moment.before).open(),
                openNow = sightOf(moment.now).open();
-    const bool stranger = !behind.strangers.empty() || moment.from < behind.bannerUntil;
+    const bool stranger = !behind.strangers.empty() || moment.from < behind.elsewhereUntil;
     followFingers(deeds, openBefore && openNow, behind.strangers);
-    if (moment.call.find(":banner(") != std::string::npos) behind.bannerUntil = moment.to + kBanner;
+    if (moment.call.find(":banner(") != std::string::npos) behind.elsewhereUntil = moment.to + kBanner;
+    if (moment.now.screenLocked)
+        behind.elsewhereUntil = std::max(behind.elsewhereUntil, moment.to + kUnlocking);
     if (behind.guardedSince && openBefore && isSimple(deeds)) {
         const bool opens = !stranger && moment.call.find(":run(") == std::string::npos;
         judge(moment, *behind.guardedSince, opens, findings);

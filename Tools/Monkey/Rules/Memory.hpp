@@ -32,7 +32,7 @@ struct TimerMemory {
 struct BehindMemory {
     std::optional<int64_t> guardedSince; // since when the panel is open and surely locked, at every look
     std::set<int64_t> strangers;         // fingers that went down while no panel was open
-    int64_t bannerUntil = 0;             // a banner that opens its application may be there
+    int64_t elsewhereUntil = 0;          // a banner, or the end of the lock screen, may open an application
 };
 
 // The Settings application.
