@@ -145,6 +145,18 @@ const Scene &rightCode() {
     return scene;
 }
 
+// Chosen on the lock screen, an application opens when that goes: by then another panel stands there, locked.
+const Scene &chosenOnLockScreen() {
+    static const Scene scene{
+        {"phone:badge(\"com.apple.mobiletimer\", 3)", "phone:display(false)", "phone:home() phone:wait(1.5)",
+         "phone:activator() phone:wait(1.5)", "phone:tap{97, 80} phone:wait(1)",
+         "phone:set{pass = true, password = \"1234\", where = \"every\"}", "phone:wait(1)",
+         "phone:activator()", "phone:wait(1.5)", "phone:unlock()", "phone:wait(1)"},
+        {{"enable", true}},
+        0};
+    return scene;
+}
+
 // The file says, while the panel stands below the status bar with Reachability, that it does not come along:
 // when the question makes it higher its lower edge stays.
 const Scene &anchoredAnew() {
@@ -254,9 +266,9 @@ constexpr Case kCases[] = {
 INSTANTIATE_TEST_SUITE_P(Saboteur, BrokenHomeScreen, testing::ValuesIn(kCases), caseName);
 
 TEST(SoundHomeScreen, GivesNoFindings) {
-    for (auto *scene :
-         {panel, lockedPanel, emptyLockedPanel, lateFinger, darkUnlocking, darkAfterCode, anotherAfterCode,
-          wrongCode, uselessFinger, rightCode, anchoredAnew, closedPanel, buttons, indicator})
+    for (auto *scene : {panel, lockedPanel, emptyLockedPanel, lateFinger, darkUnlocking, darkAfterCode,
+                        anotherAfterCode, wrongCode, uselessFinger, rightCode, anchoredAnew,
+                        chosenOnLockScreen, closedPanel, buttons, indicator})
         EXPECT_EQ(textOf(findings(scene(), nullptr)), "");
 }
 

@@ -158,6 +158,17 @@ const Scene &paneWithoutDots() {
     return scene;
 }
 
+// The indicator goes, for there is no badge, while its panel is open, and the device turns then.
+const Scene &leftBehind() {
+    static const Scene scene{{"phone:set(\"hide_t\", true)", "phone:rotate(3)",
+                              "phone:tap{240, 10} phone:wait(1.5)", "phone:rotate(1)",
+                              "phone:wait(0.5) phone:wait(1.5)", "phone:wait(0.5) phone:wait(1.5)"},
+                             {{"enable", true}},
+                             0,
+                             {{"device", "iPhone 5s"}, {"ios", "8.3"}}};
+    return scene;
+}
+
 class BrokenSight : public testing::TestWithParam<Case> {};
 
 TEST_P(BrokenSight, IsFoundByItsRule) { expectFound(GetParam()); }
@@ -205,7 +216,7 @@ INSTANTIATE_TEST_SUITE_P(Saboteur, BrokenSight, testing::ValuesIn(kCases), caseN
 
 TEST(SoundSight, GivesNoFindings) {
     for (auto *scene : {opening, resting, paged, light, act<0>, act<1>, act<2>, act<3>, act<4>, act<5>,
-                        act<6>, act<7>, keypad, finger, pulsing, dull, marked, wholePane})
+                        act<6>, act<7>, keypad, finger, pulsing, dull, marked, leftBehind, wholePane})
         EXPECT_EQ(textOf(findings(scene(), nullptr)), "");
 }
 

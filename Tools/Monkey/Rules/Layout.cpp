@@ -64,9 +64,11 @@ void checkItems(const Scene &scene, const Grid &grid, Findings &findings) {
                            std::to_string(pages) + " pages");
 }
 
-void checkPanel(const Moment &moment, const Scene &scene, Findings &findings) {
+// An indicator that has gone leaves the panel where it was, when the device turns as well.
+void checkPanel(const Moment &moment, const Memory &memory, const Scene &scene, Findings &findings) {
     const Observation &seen = moment.now;
-    if (!isNear(scene.panel.x, seen.screenWidth / 10) || !isNear(scene.panel.w, seen.screenWidth * 0.8))
+    const bool inPlace = memory.adrift || isNear(scene.panel.x, seen.screenWidth / 10);
+    if (!inPlace || !isNear(scene.panel.w, seen.screenWidth * 0.8))
         findings.push_back("the panel stands at " + std::to_string(scene.panel.x) + " and is " +
                            std::to_string(scene.panel.w) + " wide");
     const double height = seen.iconHeight + 36 + (isOn(moment.settings, "paging") ? 10 : 0);
@@ -81,7 +83,7 @@ void checkPanel(const Moment &moment, const Scene &scene, Findings &findings) {
 void checkLayout(const Moment &moment, Memory &memory, Findings &findings) {
     std::optional<Scene> scene = sceneAtRest(moment, memory.scene);
     if (!scene || scene->face) return;
-    checkPanel(moment, *scene, findings);
+    checkPanel(moment, memory, *scene, findings);
     checkItems(*scene, gridOf(moment, scene->panel.w), findings);
 }
 
