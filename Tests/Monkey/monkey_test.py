@@ -51,9 +51,9 @@ class Monkey(unittest.TestCase):
         return json.dumps({"root": str(root)})
 
     def test_a_fault_is_found_made_short_and_comes_again(self):
-        said, _ = self.monkey("trace", "--seed", 2, "--events", 4000, "--session", 2000, "--device", "iPhone 5",
+        said, _ = self.monkey("trace", "--seed", 4, "--events", 4000, "--session", 2000, "--device", "iPhone 5",
                               "--ios", "7.1", "--script", "found.lua", "--boot", self.plant(), wanted=1)
-        for part in ("seed 2, iPhone 5, iOS 7.1, session 1", "plantedFault", "found.lua"):
+        for part in ("seed 4, iPhone 5, iOS 7.1, session 1", "plantedFault", "found.lua"):
             self.assertIn(part, said)
         script = (self.folder / "found.lua").read_text()
         self.assertIn("plantedFault", script.splitlines()[0], "what broke stands at the head")
