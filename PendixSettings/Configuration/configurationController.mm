@@ -6,6 +6,7 @@
 #include "PendixSettings/Core/Alerts.h"
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Rows.h"
+#include "PendixSettings/Core/Sheets.h"
 #include "PendixSettings/Icon/pendixIconController.h"
 #include "PendixSettings/Passcode/passwordController.h"
 #include "Tweak/Core/Names.h"
@@ -90,8 +91,9 @@ NSArray *amounts() {
     if (!page) return;
     page.listenerName = pendix::names::activatorListener;
     UINavigationController *sheet = [[UINavigationController alloc] initWithRootViewController:page];
-    [self presentViewController:sheet animated:YES completion:nil];
+    const BOOL presented = pane::presentSheet(sheet, self, nil);
     [sheet release];
+    if (!presented) return;
     UIBarButtonItem *cancel = [[UIBarButtonItem alloc] initWithTitle:pane::shownText(@"cancel")
                                                                style:UIBarButtonItemStyleBordered
                                                               target:self
@@ -102,7 +104,7 @@ NSArray *amounts() {
 }
 
 - (void)dismissActivatorSetup {
-    [self dismissViewControllerAnimated:YES completion:nil];
+    pane::dismissSheet(nil);
 }
 
 @end

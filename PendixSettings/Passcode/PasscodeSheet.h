@@ -25,8 +25,6 @@ struct PasscodeSheet {
 
 // The page lives as long as the sheet. NO when something else is presented: then there is no sheet.
 BOOL present(const PasscodeSheet &sheet);
-// The completion runs when it is gone.
-void dismissSheet(void (^completion)(void));
 
 // Shows what was typed into the group, and takes back what is no digit or one too many. YES with four digits.
 BOOL enterInto(UITextField *field, NSInteger group);

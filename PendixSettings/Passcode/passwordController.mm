@@ -2,6 +2,7 @@
 
 #include "PendixSettings/Core/PaneState.h"
 #include "PendixSettings/Core/Rows.h"
+#include "PendixSettings/Core/Sheets.h"
 #include "PendixSettings/Passcode/NewPSListItemsController.h"
 #include "PendixSettings/Passcode/PasscodeSheet.h"
 #include "Tweak/Core/SettingKeys.h"

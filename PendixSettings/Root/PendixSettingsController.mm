@@ -4,6 +4,7 @@
 #include "PendixSettings/Core/PaneState.h"
 #include "PendixSettings/Core/PaneTranslator.h"
 #include "PendixSettings/Core/Rows.h"
+#include "PendixSettings/Core/Sheets.h"
 #include "PendixSettings/Root/creatorsController.h"
 #include "Tweak/Core/Names.h"
 #include "Tweak/Core/SettingKeys.h"
@@ -73,12 +74,14 @@ UIImageView *titleView() {
 
 // Presented instead of pushed: a page that another one holds turns with it.
 - (void)showCreators {
+    if (pane::sheetIsUp()) return;
     creatorsController *page = [creatorsController new];
     [self presentViewController:page animated:YES completion:nil];
     [page release];
 }
 
 - (void)Tweet {
+    if (pane::sheetIsUp()) return;
     TWTweetComposeViewController *sheet = [objc_getClass("TWTweetComposeViewController") new];
     if (!sheet) return;
     [sheet setInitialText:pane::shownText(@"tweet")];

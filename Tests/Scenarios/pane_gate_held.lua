@@ -102,6 +102,22 @@ for _, device in ipairs(devices) do
   end
 end
 
+-- So does Activator's, whose page a finger on the way back has taken away.
+for _, device in ipairs(devices) do
+  local phone, pane = at_the_end(device)
+  lift_in_turn(pane, { device[1]:find("iPad") and 350 or 30, 42 }, at(pane, "Activator"), 0.2)
+  if pane:page().class == "LAListenerSettingsViewController" then P.press(pane, "Cancel") end
+  expect_eq(pane:page().class, "PendixSettingsController", device[1] .. ": Activator's sheet can be left")
+  P.no_harm(phone, pane)
+end
+
+-- Where the code is asked for first, Activator's sheet does not come.
+do
+  local phone, pane = at_the_end(devices[3])
+  lift_in_turn(pane, at(pane, "Passcode Lock"), at(pane, "Activator"), 0)
+  gate_holds(phone, pane, "two sheets at once")
+end
+
 -- A character of two units goes as a whole.
 do
   local _, pane = start(devices[1], { "Configuration", "Passcode Lock" })
