@@ -40,6 +40,10 @@ void setFree(Class layerClass, NSString *key) {
     if (known.size() < kMostKept && !isFree(layerClass, key)) known.push_back([key copy]);
 }
 
+// What the call that is under way was given: on its way through Foundation a key becomes another object,
+// where the caller's is a constant of the program most often.
+NSString *given = nil;
+
 // nil takes it away.
 void keep(CALayer *layer, NSString *key, id value) {
     auto &values = state(layer).values;
@@ -70,7 +74,9 @@ void keep(CALayer *layer, NSString *key, id value) {
     if (isFree([self class], key)) {
         keep(self, key, value);
     } else {
+        given = key;
         [super setValue:value forKey:key];
+        given = nil;
     }
 }
 
@@ -81,6 +87,7 @@ void keep(CALayer *layer, NSString *key, id value) {
 }
 
 - (void)setValue:(id)value forUndefinedKey:(NSString *)key {
+    if ([given isEqualToString:key]) key = given;
     setFree([self class], key);
     keep(self, key, value);
 }
