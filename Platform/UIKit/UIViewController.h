@@ -37,8 +37,8 @@ enum {
 @end
 
 // Over the whole window, sliding up from below. A presentation is kept by the presenting controller; asking
-// the presented one to dismiss itself reaches the presenting one. Completions run when the slide is over. One that
-// presents already, or is on its way back, presents nothing else.
+// the presented one to dismiss itself reaches the presenting one. Completions run when the slide is over. One
+// that presents already, or is on its way back, presents nothing else.
 @interface UIViewController (UIModalPresentation)
 // From the call that presents it until it has slid out; nil else.
 @property (nonatomic, readonly) UIViewController *presentedViewController;
