@@ -11,6 +11,7 @@
 #include <UIKit/UIKit.h>
 
 #include <algorithm>
+#include <memory>
 #include <objc/blocks_runtime.h>
 
 namespace {
@@ -50,11 +51,11 @@ void drawTick(PKGlyphView *view, CGFloat share, double duration, void (^completi
 
 // Once the ridges rest, and after any change of state in between: a completion always runs, once.
 void whenRidgesRest(PKGlyphView *view, void (^then)(void)) {
-    auto work = Block_copy(then);
-    sim::Clock::shared().schedule([state(view).fingerprint restTime], sim::Clock::Phase::animation, [work] {
-        work();
-        Block_release(work);
-    });
+    // Let go of with the task, which may never run: the process may end before.
+    std::shared_ptr<void> work(reinterpret_cast<void *>(Block_copy(then)),
+                               [](void *block) { Block_release(block); });
+    sim::Clock::shared().schedule([state(view).fingerprint restTime], sim::Clock::Phase::animation,
+                                  [work] { reinterpret_cast<void (^)(void)>(work.get())(); });
 }
 
 const sim::ClassVersions kClasses[] = {{"PKGlyphView", sim::kFirst8, sim::kNewest}};
