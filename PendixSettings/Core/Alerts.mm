@@ -1,5 +1,6 @@
 #include "PendixSettings/Core/Alerts.h"
 
+#include "PendixSettings/Core/Kept.h"
 #include "PendixSettings/Core/PaneTranslator.h"
 
 #include <stdlib.h>
@@ -8,10 +9,9 @@ namespace pendix::pane {
 
 namespace {
 
-// An alert does not keep its delegate, and the page may be left under it by a finger that lay on the way
-// back.
+// An alert does not keep its delegate.
 void show(UIAlertView *alert) {
-    [alert.layer setValue:alert.delegate forKey:@"delegateThatStays"];
+    keepWith(alert, alert.delegate);
     [alert show];
     [alert release];
 }

@@ -8,9 +8,8 @@ namespace pendix::pane {
 // Something is presented, or has not slid out yet: nothing else can be.
 BOOL sheetIsUp();
 
-// Slides the sheet in. NO when another one is up; then nothing happens. `page`, to which the sheet's buttons
-// are said, lives as long as the sheet: nothing else keeps it, and it may be left under the sheet by a finger
-// that lay on the way back.
+// Slides the sheet in. NO when another one is up; then nothing happens. `page`, which the sheet's buttons
+// call, lives as long as the sheet.
 BOOL presentSheet(UIViewController *sheet, id page, void (^completion)(void));
 
 // Slides it out. The completion runs when it is gone.

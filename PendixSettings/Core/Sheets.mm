@@ -1,5 +1,7 @@
 #include "PendixSettings/Core/Sheets.h"
 
+#include "PendixSettings/Core/Kept.h"
+
 namespace pendix::pane {
 
 namespace {
@@ -12,7 +14,7 @@ BOOL sheetIsUp() { return presenter().presentedViewController != nil; }
 
 BOOL presentSheet(UIViewController *sheet, id page, void (^completion)(void)) {
     if (sheetIsUp()) return NO;
-    [sheet.view.layer setValue:page forKey:@"pageThatStays"];
+    keepWith(sheet.view, page);
     [presenter() presentViewController:sheet animated:YES completion:completion];
     return presenter().presentedViewController == sheet;
 }

@@ -28,7 +28,6 @@ UIViewController *newRoot(const PasscodeSheet &sheet) {
 } // namespace
 
 BOOL present(const PasscodeSheet &sheet) {
-    if (sheetIsUp()) return NO;
     UIViewController *root = newRoot(sheet);
     UINavigationController *navigation = [[UINavigationController alloc] initWithRootViewController:root];
     PasscodeView *view = (PasscodeView *)root.view;

@@ -57,10 +57,10 @@ BOOL presentWrite(passwordController *page, SEL cancel, SEL typed) {
     if (pane::showed) return;
     if (pane::whereShowed) {
         pane::whereShowed = NO;
-    } else if (storedCode() && pendix::isOn(keys::lockEnabled)) {
-        [self close:YES];
-        [self askOnTheWayIn];
+        return;
     }
+    [self close:storedCode() && pendix::isOn(keys::lockEnabled)];
+    if (_closed) [self askOnTheWayIn];
 }
 
 // What was presented when it was to appear may be gone now.

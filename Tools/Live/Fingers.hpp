@@ -53,8 +53,8 @@ private:
         double shiftX, shiftY; // from there to where the finger is
         int64_t began;         // virtual time
         bool still = true, lifting = false;
-        std::vector<Place> waiting =
-            {}; // of the pointer, and not yet the finger's; the last one is the newest
+        // Of the pointer, and not yet the finger's; the last one is the newest.
+        std::vector<Place> waiting = {};
     };
     bool mayLift(const Finger &finger) const;
     void lift(Pointer pointer);
