@@ -8,7 +8,6 @@ namespace {
 
 // A second and a half: a drag's end, an item's going and the closing up, slowly.
 constexpr const char *kWait = " phone:wait(1.5)";
-constexpr int64_t kItem = 0, kClockItem = 10; // tags
 
 bool quiet(const Hand &hand) { return hand.fingers.empty() && !hand.dark; }
 int openWeight(const Hand &hand) {
@@ -25,9 +24,7 @@ std::string rest(Hand &) { return std::string("phone:wait(0.5)") + kWait; }
 // Where an application stands on the panel, more often than not: what else is there is met often enough.
 Place somewhere(Hand &hand) {
     if (hand.random.percent(12)) return anywhere(hand);
-    std::vector<Place> items;
-    for (const Place &place : hand.snapshot.overlay)
-        if (place.tag == kItem || place.tag == kClockItem) items.push_back(place);
+    const std::vector<Place> items = hand.snapshot.items();
     if (!items.empty() && hand.random.percent(70)) return hand.random.pick(items);
     return hand.random.pick(hand.snapshot.overlay);
 }

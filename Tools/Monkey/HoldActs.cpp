@@ -5,6 +5,7 @@
 #include "SettingList.hpp"
 #include "SettingValues.hpp"
 #include "Tools/Live/LuaText.hpp"
+#include "Tools/Monkey/Rules/Names.hpp"
 
 #include <algorithm>
 
@@ -13,7 +14,6 @@ namespace sim {
 namespace {
 
 constexpr int kHeld = 2; // the first finger is the one of taps
-constexpr int64_t kItem = 0, kClockItem = 10, kKeyStep = 10, kZeroKey = 100; // tags
 
 bool free(const Hand &hand) { return hand.fingers.empty() && !hand.dark; }
 int openWeight(const Hand &hand) { return free(hand) && hand.snapshot.panelOpen() ? 5 : 0; }
@@ -26,8 +26,7 @@ std::vector<std::vector<Place>> kindsOf(const Snapshot &snapshot) {
     const bool keys = snapshot.key('1');
     for (size_t i = 1; i < snapshot.overlay.size(); ++i) {
         const Place &place = snapshot.overlay[i];
-        const bool key = keys && place.tag >= kKeyStep && place.tag <= kZeroKey && place.tag % kKeyStep == 0;
-        kinds[key ? kKeyStep : place.tag].push_back(place);
+        kinds[keys && names::isKey(place.tag) ? names::keyStep : place.tag].push_back(place);
     }
     std::vector<std::vector<Place>> result;
     for (auto &[tag, places] : kinds) result.push_back(std::move(places));
@@ -121,9 +120,7 @@ void planHolding(Hand &hand, unsigned reopened) {
 
 // What a long touch brings up, marks or a question, is there to be held as well.
 std::string press(Hand &hand) {
-    std::vector<Place> items;
-    for (const Place &place : hand.snapshot.overlay)
-        if (place.tag == kItem || place.tag == kClockItem) items.push_back(place);
+    const std::vector<Place> items = hand.snapshot.items();
     return items.empty() ? "" : "phone:hold(" + pointText(hand.random.pick(items)) + ", 1.2)";
 }
 

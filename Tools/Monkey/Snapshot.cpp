@@ -1,26 +1,28 @@
 #include "Snapshot.hpp"
 
 #include "Supervisor/Machine/SimulatedProcess.hpp"
+#include "Tools/Monkey/Rules/Names.hpp"
 
 #include <algorithm>
+#include <iterator>
 
 namespace sim {
 
-namespace {
-
-// The clear view that lies under all else in the overlay and takes the taps beside it.
-constexpr int64_t kDismissTag = -1;
-constexpr int64_t kTagsADigit = 10;
-
-} // namespace
-
 bool Snapshot::panelOpen() const {
-    return std::ranges::any_of(overlay, [](const Place &place) { return place.tag != kDismissTag; });
+    return std::ranges::any_of(overlay, [](const Place &place) { return place.tag != names::dismissView; });
+}
+
+std::vector<Place> Snapshot::items() const {
+    std::vector<Place> result;
+    std::ranges::copy_if(overlay, std::back_inserter(result), [](const Place &place) {
+        return place.tag == names::item || place.tag == names::clockItem;
+    });
+    return result;
 }
 
 const Place *Snapshot::key(char digit) const {
     int64_t number = digit == '0' ? 10 : digit - '0';
-    auto found = std::ranges::find(overlay, number * kTagsADigit, &Place::tag);
+    auto found = std::ranges::find(overlay, number * names::keyStep, &Place::tag);
     return found == overlay.end() ? nullptr : &*found;
 }
 

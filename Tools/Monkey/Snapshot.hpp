@@ -17,6 +17,8 @@ struct Snapshot {
 
     // More than what always lies there.
     bool panelOpen() const;
+    // Where the panel's items are.
+    std::vector<Place> items() const;
     // The key of a keypad with that digit; nullptr when none is shown.
     const Place *key(char digit) const;
 };

@@ -6,7 +6,7 @@ namespace sim {
 
 namespace {
 
-constexpr int64_t kKeyStep = 10, kZeroKey = 100, kButton = -2;
+constexpr int64_t kButton = -2;
 
 struct Looker {
     const SeenWindow &window;
@@ -26,8 +26,8 @@ struct Looker {
             const SeenView &seen = window.views[part];
             if (!seen.seen) continue;
             if (seen.tag == kButton) sight.button = seen.onScreen;
-            bool key = seen.tag >= kKeyStep && seen.tag <= kZeroKey && seen.tag % kKeyStep == 0;
-            if (key) sight.keys[static_cast<char>('0' + seen.tag / kKeyStep % 10)] = seen.onScreen;
+            if (names::isKey(seen.tag))
+                sight.keys[static_cast<char>('0' + seen.tag / names::keyStep % 10)] = seen.onScreen;
         }
     }
     void look(size_t panel) {
